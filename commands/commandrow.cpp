@@ -1,0 +1,57 @@
+#include "commandrow.h"
+
+#include "crc16.h"
+#include "delaymarker.h"
+#include "framebuilder.h"
+#include "hextext.h"
+
+namespace {
+
+constexpr int addressDigits = 4;
+constexpr int hexBase = 16;
+
+} // namespace
+
+CommandRow emptyRow()
+{
+    CommandRow row;
+    row.dataType = QStringLiteral("short");
+    return row;
+}
+
+CommandRow delayRow()
+{
+    CommandRow row;
+    row.description = QStringLiteral("Daley(ms)");
+    row.cmd = delayMarker;
+    row.data = QStringLiteral("1000");
+    return row;
+}
+
+QString frameText(const CommandRow &row)
+{
+    return withoutBlanks(row.cmd + row.addr + row.data);
+}
+
+QString crcCellText(const QString &frameText)
+{
+    if (isDelay(frameText)) {
+        return {};
+    }
+    const std::optional<QByteArray> payload = parsePayload(frameText);
+    if (!payload) {
+        return {};
+    }
+    const quint16 crc = crc16Modbus(*payload);
+    return groupPairsFromRight(paddedHex(crc, 4));
+}
+
+QString normalisedAddress(const QString &typed)
+{
+    return typed.isEmpty() ? QString() : paddedHex(typed.toUInt(nullptr, hexBase), addressDigits);
+}
+
+QString nextAddress(const QString &address)
+{
+    return paddedHex(quint64(address.toUInt(nullptr, hexBase)) + 1, addressDigits);
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "sendplan.h"
+
+#include <QObject>
+
+class FrameSettings;
+class Link;
+
+/// Sends rows over the active link: one, all checked ones as one block, or what the loop hands it.
+class Sender : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The settings must outlive the sender.
+    explicit Sender(FrameSettings &settings, QObject *parent = nullptr);
+
+    /// The link that everything goes to from now on; it must outlive the sender.
+    void setLink(Link *link);
+
+    /// Whether the active link is open; if not, the user is told.
+    bool requireOpenLink();
+
+    /// Sends one row's frame text. A text too long for the link is sent after a warning.
+    void sendOne(const QString &frameText);
+
+    /// Sends the rows' frames in one write, without the pauses of delay rows.
+    void sendAll(const QVector<CheckedRow> &rows);
+
+    /// What the loop sends in each pass over the rows.
+    LoopPlan planLoop(const QVector<CheckedRow> &rows);
+
+    /// Sends one frame text without any check of the link. Returns whether there was a frame to
+    /// send.
+    bool sendText(const QString &frameText);
+
+    /// Sends a block of frames without any check of the link.
+    void sendBlock(const QByteArray &block);
+
+signals:
+    /// Something the user must be told, emitted before the sender goes on; handlers may block.
+    void message(const QString &text);
+
+    /// The frame or block under way is in the link's hands.
+    void handedOver();
+
+    /// One frame as hex text ("5A A5 03 …"), for the log.
+    void sent(const QString &frameHexText);
+
+private:
+    QByteArray makeFrame(const QString &frameText);
+
+    FrameSettings &m_settings;
+    Link *m_link = nullptr;
+};

@@ -1,0 +1,98 @@
+#include "sendloop.h"
+
+#include "delaymarker.h"
+#include "sender.h"
+
+#include <algorithm>
+
+SendLoop::SendLoop(Sender &sender, QObject *parent)
+    : QObject(parent)
+    , m_sender(sender)
+{
+    m_wait.setSingleShot(true);
+    m_wait.setTimerType(Qt::PreciseTimer);
+    connect(&m_wait, &QTimer::timeout, this, &SendLoop::goOn);
+    connect(&m_sender, &Sender::handedOver, this, [this] { m_sinceHandOver.start(); });
+}
+
+void SendLoop::start(const LoopPlan &plan, int intervalMs)
+{
+    stop();
+    m_plan = plan;
+    m_intervalMs = intervalMs;
+    m_running = true;
+}
+
+void SendLoop::stop()
+{
+    m_wait.stop();
+    m_running = false;
+    m_inPass = false;
+    m_sentCount = 0;
+}
+
+void SendLoop::runPass()
+{
+    if (!m_running || m_inPass) {
+        return;
+    }
+    if (m_plan.texts.isEmpty()) {
+        stop();
+        emit foundNothing();
+        return;
+    }
+    m_step = 0;
+    m_inPass = true;
+    goOn();
+}
+
+void SendLoop::goOn()
+{
+    m_sinceHandOver.start();
+    while (m_inPass && !isPassDone()) {
+        const int pauseMs = m_intervalMs > 0 ? sendTextStep() : sendBlockStep();
+        // A message shown while sending may have let in a stop, or even a new start.
+        if (m_inPass && pauseMs > 0) {
+            waitSinceHandOver(pauseMs);
+            return;
+        }
+    }
+    if (m_inPass) {
+        m_inPass = false;
+        emit passEnded();
+    }
+}
+
+bool SendLoop::isPassDone() const
+{
+    return m_step >= (m_intervalMs > 0 ? m_plan.texts.size() : m_plan.queue.size());
+}
+
+int SendLoop::sendBlockStep()
+{
+    const QueueEntry entry = m_plan.queue.at(m_step++);
+    if (!entry.isPause()) {
+        m_sender.sendBlock(entry.block);
+    }
+    return entry.pauseMs;
+}
+
+int SendLoop::sendTextStep()
+{
+    const QString text = m_plan.texts.at(m_step++);
+    if (isDelay(text)) {
+        return delayMilliseconds(text);
+    }
+    if (!m_sender.sendText(text)) {
+        m_sinceHandOver.start();
+    }
+    ++m_sentCount;
+    return m_intervalMs;
+}
+
+void SendLoop::waitSinceHandOver(int milliseconds)
+{
+    constexpr qint64 nsPerMs = 1000000;
+    const qint64 leftNs = milliseconds * nsPerMs - m_sinceHandOver.nsecsElapsed();
+    m_wait.start(static_cast<int>(std::max<qint64>(0, (leftNs + nsPerMs - 1) / nsPerMs)));
+}

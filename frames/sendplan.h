@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+/// A row that takes part in sending: its number in the table, from 1, and its frame text (CMD, Addr
+/// and Data joined, without blanks).
+struct CheckedRow
+{
+    int number = 0;
+    QString frameText;
+};
+
+/// Makes the frame of a frame text; empty when there is nothing to send.
+using MakeFrame = std::function<QByteArray(const QString &frameText)>;
+
+/// All checked rows as one block of frames.
+struct BatchPlan
+{
+    QByteArray block;
+    QVector<int> overlongRows;
+};
+
+/// One entry of the loop's queue: a block of frames, or a pause where the block is empty.
+struct QueueEntry
+{
+    QByteArray block;
+    int pauseMs = 0;
+
+    bool isPause() const { return block.isEmpty(); }
+};
+
+/// What the loop sends in each pass: row by row (`texts`), or in prepared blocks (`queue`).
+struct LoopPlan
+{
+    QStringList texts;
+    QVector<QueueEntry> queue;
+    QVector<int> overlongRows;
+    /// The queue has reached its limit; the rows after that are not planned.
+    bool tooManyEntries = false;
+};
+
+/// The number of queue entries with which a loop is refused.
+constexpr int queueLimit = 128;
+
+/// The block that "send all" sends: delay rows take no part, overlong rows are only recorded.
+BatchPlan planBatch(const QVector<CheckedRow> &rows, bool withCrc, const MakeFrame &makeFrame);
+
+/// What a loop over the rows sends. A delay row ends a block and adds a pause to the queue.
+LoopPlan planLoop(const QVector<CheckedRow> &rows, bool withCrc, const MakeFrame &makeFrame);
+
+/// Bytes of payload and CRC that a single row's frame text stands for.
+int instructionLength(const QString &frameText, bool withCrc);
+
+/// The warning about a single row's instruction of that many bytes.
+QString overlongInstructionWarning(int instructionLength);
+
+/// The message about the rows left out of a batch or a loop.
+QString overlongRowsMessage(const QVector<int> &rows);
+
+/// Cuts the hex text of a block at its frames: at each occurrence of the start bytes' text, the
+/// next one being sought from 7 characters behind the previous one on. The pieces together are the
+/// text.
+QStringList splitBlockText(const QString &blockText, const QString &startBytesText);
