@@ -1,0 +1,78 @@
+#pragma once
+
+#include "logitem.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+#include <QVector>
+
+class QTableWidget;
+
+/// The message log: a row for each frame sent or received, numbered, in a table that empties
+/// itself.
+///
+/// The first rows of each display frame come into the table at once. What a flood brings beyond
+/// them waits for the next display frame, so that rows which the log would empty again before
+/// anybody could see them are never built. Whoever reads the log through this class sees every row.
+class MessageLog : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Sets the table up; it must outlive the log.
+    explicit MessageLog(QTableWidget &table, QObject *parent = nullptr);
+
+    /// Appends a sent frame's hex text, cut into its fields.
+    void appendSent(const QString &hexText, bool withCrc);
+
+    /// Appends a received frame's hex text, cut into its fields.
+    void appendReceived(const QString &hexText, bool withCrc);
+
+    /// Appends received data that form no frame.
+    void appendNotice(const QString &text);
+
+    /// Appends something that happened to a link. Its row shows the link's name instead of a
+    /// number.
+    void appendEvent(const QString &linkName, const QString &text);
+
+    /// Empties the log; numbers start from 1 again.
+    void clear();
+
+    /// Rows that are filled.
+    int count() const { return m_count; }
+
+    /// The texts of columns 0 to 6 of a filled row.
+    QStringList rowTexts(int row);
+
+    /// Brings rows that wait for the display into the table.
+    void bringIn();
+
+private:
+    struct Entry
+    {
+        enum class Kind { Sent, Received, Notice };
+        Kind kind = Kind::Sent;
+        QString label;
+        QString text;
+        bool withCrc = false;
+    };
+
+    void append(Entry::Kind kind, const QString &text, bool withCrc);
+    void append(Entry entry);
+    void makeRoom();
+    void forgetAll();
+    void onDisplayFrame();
+    void showBlankTable();
+    void fillRow(int row, const Entry &entry);
+    void setCell(int row, int column, const QString &text, LogItem::Origin origin);
+    static QStringList textsOf(const Entry &entry);
+
+    QTableWidget &m_table;
+    int m_count = 0;
+    int m_nextNumber = 1;
+    QVector<Entry> m_waiting;
+    bool m_tableIsStale = false;
+    int m_rowsThisFrame = 0;
+    QTimer m_displayFrame;
+};
