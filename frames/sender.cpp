@@ -14,9 +14,14 @@ void Sender::setLink(Link *link)
     m_link = link;
 }
 
+bool Sender::isLinkOpen() const
+{
+    return m_link->isOpen();
+}
+
 bool Sender::requireOpenLink()
 {
-    if (m_link->isOpen()) {
+    if (isLinkOpen()) {
         return true;
     }
     emit message(m_link->closedMessage());
@@ -67,7 +72,7 @@ bool Sender::sendText(const QString &frameText)
         return false;
     }
     // A message shown since the link was found open may have outlived the link.
-    if (!m_link->isOpen()) {
+    if (!isLinkOpen()) {
         return false;
     }
     m_link->write(frame);
@@ -79,7 +84,7 @@ bool Sender::sendText(const QString &frameText)
 
 void Sender::sendBlock(const QByteArray &block)
 {
-    if (!m_link->isOpen()) {
+    if (!isLinkOpen()) {
         return;
     }
     m_link->write(block);

@@ -19,6 +19,9 @@ public:
     /// The link that everything goes to from now on; it must outlive the sender.
     void setLink(Link *link);
 
+    /// Whether the active link is open.
+    bool isLinkOpen() const;
+
     /// Whether the active link is open; if not, the user is told.
     bool requireOpenLink();
 

@@ -2,7 +2,9 @@
 
 #include <QBrush>
 
-LogItem::LogItem(const QString &text, Qt::Alignment alignment, Origin origin)
+#include <utility>
+
+LogItem::LogItem(QString text, Qt::Alignment alignment, Origin origin)
     : m_text(text)
     , m_alignment(alignment)
     , m_origin(origin)

@@ -10,7 +10,7 @@ class LogItem : public QTableWidgetItem
 public:
     enum class Origin { Sent, Received };
 
-    LogItem(const QString &text, Qt::Alignment alignment, Origin origin);
+    LogItem(QString text, Qt::Alignment alignment, Origin origin);
 
     QTableWidgetItem *clone() const override;
     QVariant data(int role) const override;

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+/// The folder of the program's own files, without a separator at its end: the application's folder,
+/// or the user's configuration folder where that one can't be written (an installed program).
+QString dataFolder();
+
+/// Path of a file in the data folder, with the platform's separator before its name.
+QString dataFile(const QString &name);
+
+/// The folder whose links are offered as serial ports; it is made where it is missing.
+QString portsFolder();

@@ -1,0 +1,410 @@
+#include "dialog.h"
+
+#include "addrdelegate.h"
+#include "commandcolumns.h"
+#include "datadelegate.h"
+#include "datafolder.h"
+#include "fieldcutter.h"
+#include "styles.h"
+#include "ui_dialog.h"
+#include "version.h"
+
+#include <QCloseEvent>
+#include <QIntValidator>
+#include <QMessageBox>
+#include <QToolTip>
+
+namespace {
+
+constexpr int longestInstruction = 65535;
+constexpr int firstRefreshMs = 1000;
+constexpr int longestMs = 10000;
+constexpr int commandStretch = 10;
+constexpr int messageStretch = 8;
+constexpr int tipColumn = 5;
+
+} // namespace
+
+/// The images live in a static library, so nothing but this brings them in.
+static void initImages()
+{
+    Q_INIT_RESOURCE(tarnwick);
+}
+
+static std::unique_ptr<Ui::Dialog> makeForm(QDialog *dialog)
+{
+    initImages();
+    auto form = std::make_unique<Ui::Dialog>();
+    form->setupUi(dialog);
+    return form;
+}
+
+Dialog::Dialog(QWidget *parent)
+    : QDialog(parent)
+    , m_form(makeForm(this))
+    , m_settingsFile(dataFile(QStringLiteral("debuggerConfig.ini")))
+    , m_settings(m_settingsFile.load())
+    , m_maximumInstructionLength(longestInstruction)
+    , m_serialLink(FrameReassembler::capacity - FrameReassembler::longestFrame)
+    , m_serialPanel(*m_form, m_serialLink)
+    , m_loopPanel(*m_form)
+    , m_commands(*m_form->tableWidget_Register, this)
+    , m_rowActions(*m_form->tableWidget_Register, m_commands)
+    , m_log(*m_form->tableWidget_Message)
+    , m_receiver([this] { return readStartBytes(); })
+    , m_sender(*this)
+    , m_loop(m_sender)
+{
+    setUpWindow();
+    connectLinks();
+    connectSending();
+    setUpCommands();
+    setUpMessages();
+    setUpTimers();
+    setLinkMode(linkMode());
+    m_form->tabWidget->setCurrentIndex(m_settings.linkMode);
+}
+
+Dialog::~Dialog()
+{
+    m_form->tableWidget_Register->clearContents();
+}
+
+void Dialog::closeEvent(QCloseEvent *event)
+{
+    stopLoop();
+    m_settingsFile.save(m_settings);
+    event->accept();
+}
+
+void Dialog::wheelEvent(QWheelEvent * /*event*/)
+{
+    const QPoint position = mapFromGlobal(QCursor::pos());
+    // The table's geometry is relative to its parent; comparing the two as they are is meant so.
+    if (m_form->tableWidget_Register->geometry().contains(position)) {
+        m_rowActions.appendRowAtEnd();
+    }
+}
+
+void Dialog::setUpWindow()
+{
+    setWindowTitle(QLatin1String(windowTitleText));
+    setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+    setWindowIcon(QIcon(QStringLiteral(":/Image/tarnwick.png")));
+    setStyleSheet(windowStyle());
+    m_form->splitter->setStretchFactor(0, commandStretch);
+    m_form->splitter->setStretchFactor(1, messageStretch);
+    auto *milliseconds = new QIntValidator(0, longestMs, this);
+    for (UnitLineEdit *edit : {m_form->lineEdit_StepValue, m_form->lineEdit_CycleTime}) {
+        edit->setUnit(tr("ms"));
+        edit->setValidator(milliseconds);
+    }
+}
+
+void Dialog::setUpCommands()
+{
+    QTableWidget *table = m_form->tableWidget_Register;
+    m_menus = std::make_unique<RowMenus>(this, m_settings.isEditorFun != 0);
+    connect(&m_menus->rowMenu(), &QMenu::triggered, this, &Dialog::SlotRegisterMenuClicked);
+    connect(&m_menus->selectMenu(), &QMenu::triggered, this, &Dialog::SlotSelectMenuClicked);
+    connect(&m_menus->cmdMenu(), &QMenu::triggered, this, &Dialog::SlotCmdMenuClicked);
+    table->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(table, &QTableWidget::customContextMenuRequested, this,
+            &Dialog::tableRegisterContexMenuRequested);
+    connect(&m_rowActions, &RowActions::refused, this, &Dialog::showMessage);
+    connect(&m_rowActions, &RowActions::modified, this, [this] { m_commandsModified = true; });
+    connect(&m_commands, &CommandTable::sendRequested, this, &Dialog::SendOne);
+
+    auto *addrDelegate = new AddrDelegate(this);
+    auto *dataDelegate = new DataDelegate(this);
+    addrDelegate->installEventFilter(addrDelegate);
+    dataDelegate->installEventFilter(dataDelegate);
+    table->setItemDelegateForColumn(CommandColumn::Addr, addrDelegate);
+    table->setItemDelegateForColumn(CommandColumn::Data, dataDelegate);
+    connect(addrDelegate, &AddrDelegate::enterdata, this, &Dialog::on_DataEnter);
+    connect(addrDelegate, &AddrDelegate::AfterCommitData, this, &Dialog::on_DataEdited);
+    connect(dataDelegate, &DataDelegate::enterdata, this, &Dialog::on_DataEnter);
+}
+
+void Dialog::setUpMessages()
+{
+    for (QTableWidget *table : {m_form->tableWidget_Register, m_form->tableWidget_Message}) {
+        table->setMouseTracking(true);
+        connect(table, &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
+    }
+}
+
+void Dialog::setUpTimers()
+{
+    connect(&m_timer1, &QTimer::timeout, this, &Dialog::Timer1_Out_Event);
+    connect(&m_timer2, &QTimer::timeout, this, &Dialog::Timer2_Out_Event);
+    m_timer2.setTimerType(Qt::PreciseTimer);
+    m_timer1.start(firstRefreshMs);
+}
+
+void Dialog::connectLinks()
+{
+    connect(&m_serialLink, &SerialLink::arrived, this, &Dialog::serial_receiveData);
+    connect(&m_serialLink, &SerialLink::lost, this, &Dialog::endSerialLink);
+    connect(&m_receiver, &Receiver::frameReceived, this,
+            [this](const QString &hexText) { m_log.appendReceived(hexText, withCrc()); });
+    connect(&m_receiver, &Receiver::noticeReceived, this, &Dialog::logNotice);
+}
+
+void Dialog::connectSending()
+{
+    connect(&m_sender, &Sender::message, this, &Dialog::showMessage);
+    connect(&m_sender, &Sender::sent, this,
+            [this](const QString &hexText) { m_log.appendSent(hexText, withCrc()); });
+    connect(&m_loop, &SendLoop::passEnded, this, [this] { m_timer2.start(m_cycleDelayMs); });
+    connect(&m_loop, &SendLoop::foundNothing, this, [this] {
+        m_loopPanel.showNothingToSend();
+        showMessage(QStringLiteral("No thing to send"));
+    });
+}
+
+void Dialog::on_tabWidget_currentChanged(int index)
+{
+    if (index == int(LinkMode::Uart)) {
+        setLinkMode(LinkMode::Uart);
+    } else if (index == int(LinkMode::Hid)) {
+        setLinkMode(LinkMode::Hid);
+        m_serialPanel.close();
+    }
+}
+
+void Dialog::on_pushButton_OpenCom_clicked()
+{
+    if (m_serialLink.isOpen()) {
+        m_serialPanel.close();
+    } else {
+        openSerialPort();
+    }
+}
+
+void Dialog::on_comboBox_Comm_activated(int /*index*/)
+{
+    openSerialPort();
+}
+
+void Dialog::on_comboBox_Baudrate_activated(int index)
+{
+    m_serialPanel.prepareBaudRate(index);
+}
+
+void Dialog::serial_receiveData()
+{
+    m_receiver.take(m_serialLink.readArrived());
+}
+
+void Dialog::SendOne()
+{
+    takeCrcFlag();
+    m_sender.sendOne(m_commands.currentFrameText());
+}
+
+void Dialog::on_pushButton_SendAll_clicked()
+{
+    takeCrcFlag();
+    m_sender.sendAll(m_commands.checkedRows());
+}
+
+void Dialog::on_pushButton_SendAll_2_clicked()
+{
+    on_pushButton_SendAll_clicked();
+}
+
+void Dialog::on_pushButton_Start_Loop_clicked()
+{
+    if (m_loop.isRunning()) {
+        stopLoop();
+    } else {
+        startLoop();
+    }
+}
+
+void Dialog::Timer1_Out_Event()
+{
+    m_timer1.stop();
+    m_serialPanel.refreshPorts(portsFolder());
+}
+
+void Dialog::Timer2_Out_Event()
+{
+    m_timer2.stop();
+    m_loop.runPass();
+}
+
+void Dialog::on_pushButton_ClearMessage_clicked()
+{
+    m_log.clear();
+}
+
+void Dialog::on_pushButton_ClearCommand_clicked()
+{
+    m_commands.clear();
+    m_commandsModified = false;
+}
+
+void Dialog::tableRegisterContexMenuRequested(const QPoint &pos)
+{
+    if (QMenu *menu = m_rowActions.menuAt(pos, *m_menus)) {
+        menu->exec(QCursor::pos());
+    }
+}
+
+void Dialog::SlotRegisterMenuClicked(QAction *act)
+{
+    if (const auto action = m_menus->rowAction(act)) {
+        m_rowActions.run(*action);
+    }
+}
+
+void Dialog::SlotSelectMenuClicked(QAction *act)
+{
+    if (const auto selected = m_menus->selection(act)) {
+        m_rowActions.selectRows(*selected);
+    }
+}
+
+void Dialog::SlotCmdMenuClicked(QAction *act)
+{
+    if (const auto cmd = m_menus->cmd(act)) {
+        m_rowActions.writeCmd(*cmd);
+    }
+}
+
+void Dialog::on_tableWidget_Register_cellChanged(int /*row*/, int /*column*/)
+{
+    On_tableWidget_Register_textchange();
+}
+
+void Dialog::on_tableWidget_Register_cellClicked(int /*row*/, int /*column*/) {}
+
+void Dialog::On_tableWidget_Register_textchange()
+{
+    m_commandsModified = true;
+    m_commands.recomputeCurrentRow();
+}
+
+void Dialog::on_DataEdited()
+{
+    m_commands.normaliseCurrentAddress();
+}
+
+void Dialog::on_DataEnter()
+{
+    m_commands.goOnFromCurrentCell();
+}
+
+void Dialog::doMouseTrackTip(const QModelIndex &index)
+{
+    if (index.column() == tipColumn) {
+        QToolTip::showText(QCursor::pos(), index.data().toString());
+    }
+}
+
+FrameLayout Dialog::nextFrameLayout()
+{
+    FrameLayout layout;
+    layout.startBytes = readStartBytes();
+    layout.withStartBytes = m_settings.noAppendHeader == 0;
+    layout.withLength = m_settings.noAppendLength == 0;
+    layout.withCrc = withCrc();
+    layout.maximumInstructionLength = m_maximumInstructionLength;
+    return layout;
+}
+
+StartBytes Dialog::startBytes() const
+{
+    return parseStartBytes(m_form->lineEdit_SBytes->text()).value_or(fallbackStartBytes);
+}
+
+void Dialog::setLinkMode(LinkMode mode)
+{
+    m_settings.linkMode = int(mode);
+    m_sender.setLink(&m_serialLink);
+}
+
+StartBytes Dialog::readStartBytes()
+{
+    // Both links share the header of the serial tab; the HID tab's own field is never read.
+    const std::optional<StartBytes> read = parseStartBytes(m_form->lineEdit_SBytes->text());
+    if (!read) {
+        showMessage(QStringLiteral("Startbytes Length error"));
+    }
+    return read.value_or(fallbackStartBytes);
+}
+
+void Dialog::takeCrcFlag()
+{
+    const QCheckBox *box =
+        linkMode() == LinkMode::Uart ? m_form->checkBox_CRC_EN : m_form->checkBox_CRC_EN_2;
+    m_crcFlag = box->isChecked() ? 1 : 0;
+}
+
+void Dialog::showMessage(const QString &text)
+{
+    QMessageBox::information(this, tr("Message"), text, QMessageBox::Ok);
+}
+
+void Dialog::openSerialPort()
+{
+    if (!m_serialPanel.open()) {
+        QMessageBox::information(nullptr, QStringLiteral("UART"), QStringLiteral("Open fail"),
+                                 QMessageBox::Ok);
+    }
+}
+
+void Dialog::startLoop()
+{
+    takeCrcFlag();
+    if (!m_sender.requireOpenLink()) {
+        return;
+    }
+    const LoopPlan plan = m_sender.planLoop(m_commands.checkedRows());
+    if (plan.tooManyEntries) {
+        showMessage(QStringLiteral("Too many order!"));
+        return;
+    }
+    if (!plan.overlongRows.isEmpty()) {
+        showMessage(overlongRowsMessage(plan.overlongRows));
+    }
+    if (plan.texts.isEmpty()) {
+        showMessage(QStringLiteral("Not a Command was selected to send!"));
+        return;
+    }
+    // The link may have been lost while a message was shown.
+    if (!m_sender.isLinkOpen()) {
+        return;
+    }
+    m_cycleDelayMs = m_loopPanel.cycleDelayMs();
+    m_loop.start(plan, m_loopPanel.intervalMs());
+    m_loopPanel.showRunning(linkMode());
+    m_timer2.start(m_cycleDelayMs);
+}
+
+void Dialog::stopLoop()
+{
+    if (m_loop.isRunning()) {
+        m_loop.stop();
+        m_timer2.stop();
+        m_loopPanel.showStopped(linkMode());
+    }
+}
+
+void Dialog::endSerialLink(const QString &reason)
+{
+    const QString port = m_serialLink.openPortName();
+    stopLoop();
+    m_serialPanel.close();
+    showMessage(tr("The connection to %1 is lost: %2").arg(port, reason));
+}
+
+void Dialog::logNotice(const QString &hexText)
+{
+    if (linkMode() == LinkMode::Hid && isAllZero(hexText)) {
+        return;
+    }
+    m_log.appendNotice(hexText);
+}

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "commandtable.h"
+#include "framesettings.h"
+#include "looppanel.h"
+#include "messagelog.h"
+#include "receiver.h"
+#include "rowactions.h"
+#include "rowmenus.h"
+#include "sender.h"
+#include "sendloop.h"
+#include "seriallink.h"
+#include "serialpanel.h"
+#include "settings.h"
+
+#include <QDialog>
+#include <QTimer>
+
+#include <memory>
+
+namespace Ui {
+class Dialog;
+}
+
+/// The main window. It owns the rooms' objects, wires them together, forwards what the user does,
+/// and shows their messages.
+class Dialog : public QDialog, private FrameSettings
+{
+    Q_OBJECT
+
+public:
+    explicit Dialog(QWidget *parent = nullptr);
+    ~Dialog() override;
+
+    /// Escape leaves the window open.
+    void reject() override {}
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private slots:
+    void on_tabWidget_currentChanged(int index);
+    void on_pushButton_OpenCom_clicked();
+    void on_comboBox_Comm_activated(int index);
+    void on_comboBox_Baudrate_activated(int index);
+    void serial_receiveData();
+
+    void SendOne();
+    void on_pushButton_SendAll_clicked();
+    void on_pushButton_SendAll_2_clicked();
+    void on_pushButton_Start_Loop_clicked();
+    void Timer1_Out_Event();
+    void Timer2_Out_Event();
+
+    void on_pushButton_ClearMessage_clicked();
+    void on_pushButton_ClearCommand_clicked();
+
+    void tableRegisterContexMenuRequested(const QPoint &pos);
+    void SlotRegisterMenuClicked(QAction *act);
+    void SlotSelectMenuClicked(QAction *act);
+    void SlotCmdMenuClicked(QAction *act);
+
+    void on_tableWidget_Register_cellChanged(int row, int column);
+    void on_tableWidget_Register_cellClicked(int row, int column);
+    void On_tableWidget_Register_textchange();
+    void on_DataEdited();
+    void on_DataEnter();
+    void doMouseTrackTip(const QModelIndex &index);
+
+private:
+    FrameLayout nextFrameLayout() override;
+    StartBytes startBytes() const override;
+    bool withCrc() const override { return m_crcFlag != 0; }
+
+    void setUpWindow();
+    void setUpCommands();
+    void setUpMessages();
+    void setUpTimers();
+    void connectLinks();
+    void connectSending();
+
+    LinkMode linkMode() const { return static_cast<LinkMode>(m_settings.linkMode); }
+    void setLinkMode(LinkMode mode);
+    StartBytes readStartBytes();
+    void takeCrcFlag();
+    void showMessage(const QString &text);
+
+    void openSerialPort();
+    void startLoop();
+    void stopLoop();
+    void endSerialLink(const QString &reason);
+    void logNotice(const QString &hexText);
+
+    std::unique_ptr<Ui::Dialog> m_form;
+    SettingsFile m_settingsFile;
+    Settings m_settings;
+    int m_crcFlag = 0;
+    int m_maximumInstructionLength;
+    int m_cycleDelayMs = 0;
+    bool m_commandsModified = false;
+
+    SerialLink m_serialLink;
+    SerialPanel m_serialPanel;
+    LoopPanel m_loopPanel;
+    CommandTable m_commands;
+    RowActions m_rowActions;
+    std::unique_ptr<RowMenus> m_menus;
+    MessageLog m_log;
+    Receiver m_receiver;
+    Sender m_sender;
+    SendLoop m_loop;
+    QTimer m_timer1;
+    QTimer m_timer2;
+};

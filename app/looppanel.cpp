@@ -1,0 +1,75 @@
+#include "looppanel.h"
+
+#include "styles.h"
+#include "ui_dialog.h"
+
+namespace {
+
+void setEnabled(const QList<QWidget *> &widgets, bool enabled)
+{
+    for (QWidget *widget : widgets) {
+        widget->setEnabled(enabled);
+    }
+}
+
+} // namespace
+
+LoopPanel::LoopPanel(Ui::Dialog &form, QObject *parent)
+    : QObject(parent)
+    , m_form(form)
+{
+    showIdleButton();
+}
+
+void LoopPanel::showRunning(LinkMode mode)
+{
+    setEnabled(fileAndTimingWidgets() + linkWidgets(mode), false);
+    m_form.tabWidget->setEnabled(false);
+    showBusy(*m_form.pushButton_Start_Loop, tr("Sending..."));
+}
+
+void LoopPanel::showStopped(LinkMode mode)
+{
+    setEnabled(fileAndTimingWidgets() + linkWidgets(mode), true);
+    m_form.tabWidget->setEnabled(true);
+    m_form.checkBox_CRC_EN->setEnabled(true);
+    showIdleButton();
+}
+
+void LoopPanel::showNothingToSend()
+{
+    setEnabled(fileAndTimingWidgets() + linkWidgets(LinkMode::Uart), true);
+    showIdleButton();
+}
+
+int LoopPanel::intervalMs() const
+{
+    return m_form.lineEdit_StepValue->text().toInt();
+}
+
+int LoopPanel::cycleDelayMs() const
+{
+    return m_form.lineEdit_CycleTime->text().toInt();
+}
+
+QList<QWidget *> LoopPanel::fileAndTimingWidgets() const
+{
+    return {m_form.pushButton_LoadCommand, m_form.pushButton_ClearCommand,
+            m_form.pushButton_SaveCommand, m_form.pushButton_SaveMessage,
+            m_form.lineEdit_StepValue,     m_form.lineEdit_CycleTime};
+}
+
+QList<QWidget *> LoopPanel::linkWidgets(LinkMode mode) const
+{
+    if (mode == LinkMode::Hid) {
+        return {m_form.pushButton_ConnectHID, m_form.checkBox_CRC_EN_2, m_form.pushButton_SendAll_2,
+                m_form.lineEdit_SBytes_2};
+    }
+    return {m_form.pushButton_OpenCom, m_form.pushButton_SendAll, m_form.checkBox_CRC_EN,
+            m_form.lineEdit_SBytes};
+}
+
+void LoopPanel::showIdleButton()
+{
+    showIdle(*m_form.pushButton_Start_Loop, tr("Auto Send"));
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+namespace Ui {
+class Dialog;
+}
+class QWidget;
+
+/// The link that sending uses: the tab that is shown.
+enum class LinkMode { Uart = 0, Hid = 1 };
+
+/// What the window looks like while the auto-send loop runs: which widgets rest, and the loop
+/// button.
+class LoopPanel : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The form must outlive the panel.
+    explicit LoopPanel(Ui::Dialog &form, QObject *parent = nullptr);
+
+    /// Disables what must not change under a running loop over the link, and shows it as running.
+    void showRunning(LinkMode mode);
+
+    /// Enables the widgets again after the loop was stopped, and shows it as idle.
+    void showStopped(LinkMode mode);
+
+    /// The look after a loop that found nothing to send: only the serial tab's widgets come back,
+    /// whatever the link, and the tabs stay disabled.
+    void showNothingToSend();
+
+    /// Interval between frames and delay between cycles in ms; 0 for a text that is no number.
+    int intervalMs() const;
+    int cycleDelayMs() const;
+
+private:
+    QList<QWidget *> fileAndTimingWidgets() const;
+    QList<QWidget *> linkWidgets(LinkMode mode) const;
+    void showIdleButton();
+
+    Ui::Dialog &m_form;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+
+namespace Ui {
+class Dialog;
+}
+class SerialLink;
+
+/// The "Uart" tab: its option lists, and the port opened and closed as they say.
+class SerialPanel : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Fills the option lists. Form and link must outlive the panel.
+    SerialPanel(Ui::Dialog &form, SerialLink &link, QObject *parent = nullptr);
+
+    /// Lists the ports anew and selects the chosen one again, without opening any.
+    void refreshPorts(const QString &linksFolder);
+
+    /// Opens the selected port, closing an open one first. Returns whether that succeeded.
+    bool open();
+
+    /// Closes the port, if it is open.
+    void close();
+
+    /// Makes the baud rate box ready for the rate that was picked: "custom" is typed by hand.
+    void prepareBaudRate(int index);
+
+private:
+    void fillOptions();
+    qint32 baudRate() const;
+    void selectPort(int index);
+    void showOpen(bool open);
+
+    Ui::Dialog &m_form;
+    SerialLink &m_link;
+    QString m_chosenPortName;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class QLineEdit;
+
+/// What the two cell editors have in common: every event on the editor commits its text, Return and
+/// Enter end the editing, and losing the focus does.
+///
+/// The editor's property "cursorPos" holds its cursor position.
+class CellEditorDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+protected:
+    /// Return or Enter was pressed; the text is committed.
+    virtual void finishByEnter(QLineEdit *editor) = 0;
+
+    /// The editor has lost the focus; the text is committed.
+    virtual void finishByFocusOut(QLineEdit *editor) = 0;
+};

@@ -1,0 +1,89 @@
+#include "cellwidgets.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QFocusEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QTableWidget>
+
+namespace {
+
+const char *const selectStyle =
+    "QCheckBox::indicator {width :  18px ;height :  18px ;}"
+    "QCheckBox::indicator:unchecked {image:url(:/Image/Checkbox_point_uncheck.png);}"
+    "QCheckBox::indicator:unchecked:hover {image:url(:/Image/Checkbox_point_uncheck.png);}"
+    "QCheckBox::indicator:checked{image:url(:/Image/Checkbox_point_check.png);}"
+    "QCheckBox::indicator:checked:hover{image:url(:/Image/Checkbox_point_check.png);}"
+    ".QCheckBox{margin-left:7px;}";
+
+const char *const sendStyle =
+    "background:transparent;Color:#00A2FF;font-family:Arial;font-size: 23px;font-weight: bold;";
+
+bool isTabFocus(const QEvent &event)
+{
+    if (event.type() != QEvent::FocusIn) {
+        return false;
+    }
+    const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+}
+
+/// A button in a cell that takes its row along when the user goes to it.
+class RowButton : public QPushButton
+{
+public:
+    explicit RowButton(QTableWidget &table)
+        : m_table(table)
+    {}
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseButtonPress || isTabFocus(*event)) {
+            const QModelIndex index = m_table.indexAt(geometry().center());
+            m_table.setCurrentCell(index.row(), index.column());
+        }
+        return QPushButton::event(event);
+    }
+
+private:
+    QTableWidget &m_table;
+};
+
+} // namespace
+
+void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter)
+{
+    auto *container = new QWidget(&table);
+    auto *layout = new QHBoxLayout(container);
+    auto *box = new QCheckBox(container);
+    box->setStyleSheet(QLatin1String(selectStyle));
+    box->setChecked(checked);
+    layout->setMargin(0);
+    layout->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    layout->addWidget(box);
+    container->installEventFilter(filter);
+    table.setCellWidget(row, column, container);
+}
+
+bool isSelectCellChecked(const QTableWidget &table, int row, int column)
+{
+    const QWidget *container = table.cellWidget(row, column);
+    QLayout *layout = container != nullptr ? container->layout() : nullptr;
+    QLayoutItem *first = layout != nullptr ? layout->itemAt(0) : nullptr;
+    const auto *box = first != nullptr ? qobject_cast<QCheckBox *>(first->widget()) : nullptr;
+    return box != nullptr && box->isChecked();
+}
+
+QPushButton *setSendCell(QTableWidget &table, int row, int column)
+{
+    auto *button = new RowButton(table);
+    button->setFlat(true);
+    button->setDefault(false);
+    button->setAutoDefault(false);
+    button->setIcon(QIcon(QStringLiteral(":/Image/Send.png")));
+    button->setStyleSheet(QLatin1String(sendStyle));
+    table.setCellWidget(row, column, button);
+    return button;
+}

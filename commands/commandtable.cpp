@@ -1,0 +1,245 @@
+#include "commandtable.h"
+
+#include "cellwidgets.h"
+#include "commandcolumns.h"
+#include "hextext.h"
+#include "tableitems.h"
+#include "tablelook.h"
+
+#include <QPushButton>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace Column = CommandColumn;
+
+namespace {
+
+constexpr int leastRows = 9;
+constexpr int lastInsertableRow = 512;
+
+} // namespace
+
+CommandTable::CommandTable(QTableWidget &table, QObject *selectCellFilter, QObject *parent)
+    : QObject(parent)
+    , m_table(table)
+    , m_selectCellFilter(selectCellFilter)
+{
+    m_table.blockSignals(true);
+    styleTable(m_table, Column::Count, leastRows);
+    setColumns(m_table, {{tr("Description"), 200},
+                         {tr("Select"), 75},
+                         {tr("CMD"), 50},
+                         {tr("Addr"), 90},
+                         {tr("Data"), 90, QHeaderView::Stretch, true},
+                         {tr("CRC"), 63},
+                         {tr("Send"), 63},
+                         {tr("DataType"), 63},
+                         {tr("OriginalData"), 150, QHeaderView::Stretch, true}});
+    for (int row = 0; row < leastRows; ++row) {
+        fillRow(row, emptyRow());
+    }
+    m_table.setColumnHidden(Column::DataType, true);
+    m_table.setColumnHidden(Column::OriginalData, true);
+    m_table.blockSignals(false);
+}
+
+bool CommandTable::insertEmptyRow(int row)
+{
+    m_table.blockSignals(true);
+    if (row > lastInsertableRow) {
+        return false;
+    }
+    const bool inserted = row >= 0 && row <= m_table.rowCount();
+    if (inserted) {
+        insertFilledRow(row, emptyRow());
+    }
+    m_table.blockSignals(false);
+    return inserted;
+}
+
+void CommandTable::insertDelayRow(int row)
+{
+    if (insertEmptyRow(row)) {
+        fillRow(row, delayRow());
+    }
+}
+
+void CommandTable::cloneRow(int row)
+{
+    const CommandRow original = this->row(row);
+    if (insertEmptyRow(row + 1)) {
+        fillRow(row + 1, original);
+    }
+}
+
+bool CommandTable::moveUp(int row)
+{
+    if (row == 0) {
+        return false;
+    }
+    if (row > 0) {
+        moveByCopy(row, row - 1);
+    }
+    return true;
+}
+
+bool CommandTable::moveDown(int row)
+{
+    if (row == m_table.rowCount() - 1) {
+        return false;
+    }
+    if (row >= 0) {
+        moveByCopy(row, row + 2);
+    }
+    return true;
+}
+
+void CommandTable::clear()
+{
+    replaceRows({});
+}
+
+void CommandTable::replaceRows(const QVector<CommandRow> &rows)
+{
+    m_table.blockSignals(true);
+    m_table.setUpdatesEnabled(false);
+    m_table.setRowCount(0);
+    m_table.setRowCount(std::max(leastRows, rows.size()));
+    for (int row = 0; row < m_table.rowCount(); ++row) {
+        fillRow(row, row < rows.size() ? rows.at(row) : emptyRow());
+    }
+    m_table.setUpdatesEnabled(true);
+    m_table.blockSignals(false);
+}
+
+int CommandTable::rowCount() const
+{
+    return m_table.rowCount();
+}
+
+CommandRow CommandTable::row(int row) const
+{
+    return {cellText(m_table, row, Column::Description),
+            isSelectCellChecked(m_table, row, Column::Select),
+            cellText(m_table, row, Column::Cmd),
+            cellText(m_table, row, Column::Addr),
+            cellText(m_table, row, Column::Data),
+            cellText(m_table, row, Column::Crc),
+            cellText(m_table, row, Column::DataType),
+            cellText(m_table, row, Column::OriginalData)};
+}
+
+QVector<CommandRow> CommandTable::rows() const
+{
+    QVector<CommandRow> all;
+    for (int row = 0; row < m_table.rowCount(); ++row) {
+        all.append(this->row(row));
+    }
+    return all;
+}
+
+void CommandTable::setSelected(int row, bool selected)
+{
+    setSelectCell(m_table, row, Column::Select, selected, m_selectCellFilter);
+}
+
+QString CommandTable::currentFrameText() const
+{
+    return frameText(row(m_table.currentRow()));
+}
+
+QVector<CheckedRow> CommandTable::checkedRows() const
+{
+    QVector<CheckedRow> checked;
+    for (int row = 0; row < m_table.rowCount(); ++row) {
+        if (isSelectCellChecked(m_table, row, Column::Select)) {
+            checked.append({row + 1, frameText(this->row(row))});
+        }
+    }
+    return checked;
+}
+
+void CommandTable::recomputeCurrentRow()
+{
+    m_table.blockSignals(true);
+    const int row = m_table.currentRow();
+    if (row >= 0) {
+        setCentredItem(m_table, row, Column::Crc, crcCellText(currentFrameText()));
+    }
+    m_table.blockSignals(false);
+}
+
+void CommandTable::normaliseCurrentAddress()
+{
+    const int row = m_table.currentRow();
+    if (row >= 0 && m_table.currentColumn() == Column::Addr) {
+        setCentredItem(m_table, row, Column::Addr,
+                       normalisedAddress(cellText(m_table, row, Column::Addr)));
+    }
+}
+
+void CommandTable::goOnFromCurrentCell()
+{
+    const int row = m_table.currentRow();
+    if (m_table.currentColumn() == Column::Data) {
+        edit(row + 1, Column::Addr);
+        return;
+    }
+    if (m_table.currentColumn() != Column::Addr) {
+        return;
+    }
+    const QString above = cellText(m_table, row - 1, Column::Addr);
+    if (cellText(m_table, row, Column::Addr).isEmpty() && !above.isEmpty()) {
+        setCentredItem(m_table, row, Column::Addr, nextAddress(above));
+    }
+    edit(row, Column::Data);
+}
+
+void CommandTable::takeEdited(int row, const CommandRow &edited)
+{
+    if (row < 0 || row >= m_table.rowCount()) {
+        return;
+    }
+    setCentredItem(m_table, row, Column::Cmd, edited.cmd);
+    setCentredItem(m_table, row, Column::Addr, edited.addr);
+    setLeftItem(m_table, row, Column::Data, groupPairsFromRight(edited.data));
+    setCentredItem(m_table, row, Column::DataType, edited.dataType);
+}
+
+void CommandTable::insertFilledRow(int row, const CommandRow &content)
+{
+    m_table.insertRow(row);
+    fillRow(row, content);
+}
+
+void CommandTable::fillRow(int row, const CommandRow &content)
+{
+    setCentredItem(m_table, row, Column::Description, content.description);
+    setSelected(row, content.selected);
+    setCentredItem(m_table, row, Column::Cmd, content.cmd);
+    setCentredItem(m_table, row, Column::Addr, content.addr);
+    setLeftItem(m_table, row, Column::Data, content.data);
+    setCentredItem(m_table, row, Column::Crc, content.crc);
+    const QPushButton *button = setSendCell(m_table, row, Column::Send);
+    connect(button, &QPushButton::clicked, this, &CommandTable::sendRequested);
+    setCentredItem(m_table, row, Column::DataType, content.dataType);
+    setLeftItem(m_table, row, Column::OriginalData, content.originalData);
+}
+
+void CommandTable::moveByCopy(int from, int to)
+{
+    m_table.blockSignals(true);
+    const CommandRow content = row(from);
+    insertFilledRow(to, content);
+    m_table.removeRow(to <= from ? from + 1 : from);
+    m_table.blockSignals(false);
+}
+
+void CommandTable::edit(int row, int column)
+{
+    if (QTableWidgetItem *item = m_table.item(row, column)) {
+        m_table.setCurrentItem(item);
+        m_table.editItem(item);
+    }
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "commandrow.h"
+#include "sendplan.h"
+
+#include <QObject>
+#include <QVector>
+
+class QTableWidget;
+
+/// The command table: its look, and its rows as command rows. The table widget is the data model;
+/// what a row carries is in its cells' texts and in its Select box.
+class CommandTable : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Sets the table up with nine empty rows. The table must outlive this; `selectCellFilter` is
+    /// installed as event filter on the containers of the Select boxes.
+    CommandTable(QTableWidget &table, QObject *selectCellFilter, QObject *parent = nullptr);
+
+    /// Inserts an empty row and returns whether it did. Beyond index 512 nothing is inserted, and
+    /// the table's signals stay blocked until somebody unblocks them.
+    bool insertEmptyRow(int row);
+
+    /// Inserts a row that pauses a sequence for 1000 ms.
+    void insertDelayRow(int row);
+
+    /// Inserts a copy of a row, hidden columns and Select box included, behind it.
+    void cloneRow(int row);
+
+    /// Moves a row by one place by making a new row of it; a row that has left the table (-1) is
+    /// passed over. Returns false for the row at the edge.
+    bool moveUp(int row);
+    bool moveDown(int row);
+
+    /// Removes all rows and puts nine empty ones in their place.
+    void clear();
+
+    /// Replaces all rows; empty rows follow where there are fewer than nine.
+    void replaceRows(const QVector<CommandRow> &rows);
+
+    int rowCount() const;
+    CommandRow row(int row) const;
+    QVector<CommandRow> rows() const;
+
+    /// Gives a row a new Select box.
+    void setSelected(int row, bool selected);
+
+    /// CMD, Addr and Data of the current row joined, without blanks; empty without a current row.
+    QString currentFrameText() const;
+
+    /// The rows whose Select box is checked, in order.
+    QVector<CheckedRow> checkedRows() const;
+
+    /// Brings the CRC cell of the current row up to date, without a signal of the table.
+    void recomputeCurrentRow();
+
+    /// Writes the address of the current cell in its normal form; other cells are left alone.
+    void normaliseCurrentAddress();
+
+    /// Enter ends the editing of the current cell: goes on from Addr to Data, proposing an address
+    /// where there is none, and from Data to the next row's Addr.
+    void goOnFromCurrentCell();
+
+    /// Writes what the direct editor hands back; a row outside the table is left alone.
+    void takeEdited(int row, const CommandRow &edited);
+
+signals:
+    /// A row's send button was clicked.
+    void sendRequested();
+
+private:
+    void insertFilledRow(int row, const CommandRow &content);
+    void fillRow(int row, const CommandRow &content);
+    void moveByCopy(int from, int to);
+    void edit(int row, int column);
+
+    QTableWidget &m_table;
+    QObject *m_selectCellFilter;
+};

@@ -1,0 +1,14 @@
+#include "datadelegate.h"
+
+#include <QLineEdit>
+
+void DataDelegate::finishByEnter(QLineEdit *editor)
+{
+    emit closeEditor(editor, NoHint);
+    emit enterdata();
+}
+
+void DataDelegate::finishByFocusOut(QLineEdit *editor)
+{
+    emit closeEditor(editor, NoHint);
+}

@@ -1,0 +1,116 @@
+#include "rowactions.h"
+
+#include "commandcolumns.h"
+#include "commandtable.h"
+#include "delaymarker.h"
+
+#include <QScrollBar>
+#include <QTableWidget>
+
+namespace Column = CommandColumn;
+
+RowActions::RowActions(QTableWidget &table, CommandTable &rows, QObject *parent)
+    : QObject(parent)
+    , m_table(table)
+    , m_rows(rows)
+{}
+
+QMenu *RowActions::menuAt(const QPoint &position, RowMenus &menus)
+{
+    const QModelIndex cell = m_table.indexAt(position);
+    const QTableWidgetItem *item = m_table.itemAt(position);
+    m_contextCell = item != nullptr ? cell : QModelIndex();
+    if (cell.column() == Column::Cmd) {
+        const bool noMenu = item == nullptr || item->text() == delayMarker;
+        return noMenu ? nullptr : &menus.cmdMenu();
+    }
+    if (cell.column() == Column::Select) {
+        const bool hasBox = m_table.cellWidget(cell.row(), cell.column()) != nullptr;
+        return hasBox ? &menus.selectMenu() : nullptr;
+    }
+    return item != nullptr ? &menus.rowMenu() : nullptr;
+}
+
+void RowActions::run(RowAction action)
+{
+    const int row = contextRow();
+    switch (action) {
+    case RowAction::Edit:
+        emit editRequested(row);
+        break;
+    case RowAction::Insert:
+        m_rows.insertEmptyRow(row);
+        selectAfterChange(row);
+        break;
+    case RowAction::Clone:
+        m_rows.cloneRow(row);
+        selectAfterChange(row + 1);
+        break;
+    case RowAction::Delete:
+        removeRow(row);
+        break;
+    case RowAction::Up:
+        moveUp(row);
+        break;
+    case RowAction::Down:
+        moveDown(row);
+        break;
+    case RowAction::Delay:
+        m_rows.insertDelayRow(row);
+        selectAfterChange(row);
+        break;
+    }
+}
+
+void RowActions::selectRows(bool selected)
+{
+    for (const QModelIndex &index : m_table.selectionModel()->selectedRows(0)) {
+        m_rows.setSelected(index.row(), selected);
+    }
+}
+
+void RowActions::writeCmd(const QString &cmd)
+{
+    if (QTableWidgetItem *item = m_table.item(m_contextCell.row(), m_contextCell.column())) {
+        item->setText(cmd);
+    }
+}
+
+void RowActions::appendRowAtEnd()
+{
+    const QScrollBar *bar = m_table.verticalScrollBar();
+    if (bar->value() == bar->maximum()) {
+        m_rows.insertEmptyRow(m_table.rowCount());
+    }
+}
+
+void RowActions::removeRow(int row)
+{
+    if (m_table.rowCount() == 1) {
+        emit refused(QStringLiteral("Keep at least one line!"));
+        return;
+    }
+    m_table.removeRow(row);
+}
+
+void RowActions::moveUp(int row)
+{
+    if (!m_rows.moveUp(row)) {
+        emit refused(QStringLiteral("Has reached the top!"));
+    }
+    selectAfterChange(row - 1);
+}
+
+void RowActions::moveDown(int row)
+{
+    if (!m_rows.moveDown(row)) {
+        emit refused(QStringLiteral("Has reached the bottom!"));
+    }
+    selectAfterChange(row + 1);
+}
+
+void RowActions::selectAfterChange(int row)
+{
+    m_table.selectRow(row);
+    emit modified();
+}

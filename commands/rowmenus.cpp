@@ -1,0 +1,66 @@
+#include "rowmenus.h"
+
+#include <QCoreApplication>
+#include <QWidget>
+
+namespace {
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("RowMenus", text);
+}
+
+QAction *addAction(QMenu &menu, const QString &text)
+{
+    auto *action = new QAction(text, menu.parent());
+    menu.addAction(action);
+    return action;
+}
+
+template<typename Meaning>
+std::optional<Meaning> meaningOf(const QHash<QAction *, Meaning> &meanings, QAction *action)
+{
+    const auto found = meanings.constFind(action);
+    return found != meanings.cend() ? std::optional(*found) : std::nullopt;
+}
+
+} // namespace
+
+RowMenus::RowMenus(QWidget *parent, bool withEdit)
+    : m_rowMenu(new QMenu(parent))
+    , m_selectMenu(new QMenu(parent))
+    , m_cmdMenu(new QMenu(parent))
+{
+    if (withEdit) {
+        m_rowActions.insert(addAction(*m_rowMenu, translated("edit")), RowAction::Edit);
+    }
+    m_rowActions.insert(addAction(*m_rowMenu, translated("insert")), RowAction::Insert);
+    m_rowActions.insert(addAction(*m_rowMenu, translated("clone")), RowAction::Clone);
+    m_rowActions.insert(addAction(*m_rowMenu, translated("delete")), RowAction::Delete);
+    m_rowActions.insert(addAction(*m_rowMenu, translated("up")), RowAction::Up);
+    m_rowActions.insert(addAction(*m_rowMenu, translated("down")), RowAction::Down);
+    m_rowActions.insert(addAction(*m_rowMenu, translated("delay")), RowAction::Delay);
+
+    m_selections.insert(addAction(*m_selectMenu, translated("select all")), true);
+    m_selections.insert(addAction(*m_selectMenu, translated("select none")), false);
+
+    for (const char *byte : {"10", "03", "42"}) {
+        const QString cmd = QLatin1String(byte);
+        m_cmds.insert(addAction(*m_cmdMenu, cmd), cmd);
+    }
+}
+
+std::optional<RowAction> RowMenus::rowAction(QAction *action) const
+{
+    return meaningOf(m_rowActions, action);
+}
+
+std::optional<bool> RowMenus::selection(QAction *action) const
+{
+    return meaningOf(m_selections, action);
+}
+
+std::optional<QString> RowMenus::cmd(QAction *action) const
+{
+    return meaningOf(m_cmds, action);
+}

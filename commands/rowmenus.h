@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QHash>
+#include <QMenu>
+
+#include <optional>
+
+/// What the row menu can do with a row.
+enum class RowAction { Edit, Insert, Clone, Delete, Up, Down, Delay };
+
+/// The three context menus of the command table. Their actions are told apart by pointer, never by
+/// their texts.
+class RowMenus
+{
+public:
+    /// Menus and actions belong to the parent. The row menu begins with "edit" if asked to.
+    RowMenus(QWidget *parent, bool withEdit);
+
+    QMenu &rowMenu() { return *m_rowMenu; }
+    QMenu &selectMenu() { return *m_selectMenu; }
+    QMenu &cmdMenu() { return *m_cmdMenu; }
+
+    /// What an action of the row menu stands for; nothing for any other action.
+    std::optional<RowAction> rowAction(QAction *action) const;
+
+    /// Whether an action of the select menu checks or unchecks; nothing for any other action.
+    std::optional<bool> selection(QAction *action) const;
+
+    /// The command byte that an action of the CMD menu stands for; nothing for any other action.
+    std::optional<QString> cmd(QAction *action) const;
+
+private:
+    QMenu *m_rowMenu;
+    QMenu *m_selectMenu;
+    QMenu *m_cmdMenu;
+    QHash<QAction *, RowAction> m_rowActions;
+    QHash<QAction *, bool> m_selections;
+    QHash<QAction *, QString> m_cmds;
+};

@@ -1,0 +1,122 @@
+#include "seriallink.h"
+
+#include <QDeadlineTimer>
+#include <QThread>
+
+namespace {
+
+constexpr unsigned long settleMs = 2;
+constexpr int moreDataMs = 5;
+constexpr int writtenMs = 2000;
+constexpr int longestInstructionBytes = 65535;
+
+bool endsLink(QSerialPort::SerialPortError error)
+{
+    return error == QSerialPort::ReadError || error == QSerialPort::WriteError ||
+           error == QSerialPort::ResourceError;
+}
+
+} // namespace
+
+SerialLink::SerialLink(int longestRead, QObject *parent)
+    : QObject(parent)
+{
+    m_port.setReadBufferSize(longestRead);
+    connect(&m_port, &QSerialPort::readyRead, this, &SerialLink::onReadyRead);
+    connect(&m_port, &QSerialPort::errorOccurred, this, &SerialLink::onError);
+}
+
+bool SerialLink::open(const SerialSettings &settings)
+{
+    close();
+    m_port.setBaudRate(settings.baudRate, QSerialPort::AllDirections);
+    m_port.setFlowControl(QSerialPort::NoFlowControl);
+    m_port.setDataBits(settings.dataBits);
+    m_port.setParity(settings.parity);
+    m_port.setStopBits(settings.stopBits);
+    m_port.setPortName(settings.portName);
+    m_failed = false;
+    m_openPortName = m_port.open(QIODevice::ReadWrite) ? settings.portName : QString();
+    return m_port.isOpen();
+}
+
+void SerialLink::close()
+{
+    if (m_port.isOpen()) {
+        m_port.clear(QSerialPort::AllDirections);
+        m_port.close();
+        m_openPortName.clear();
+    }
+}
+
+QByteArray SerialLink::readArrived()
+{
+    if (!m_port.isOpen()) {
+        return {};
+    }
+    QThread::msleep(settleMs);
+    m_port.waitForReadyRead(moreDataMs);
+    return m_port.readAll();
+}
+
+bool SerialLink::isOpen() const
+{
+    return m_port.isOpen();
+}
+
+QString SerialLink::closedMessage() const
+{
+    return QStringLiteral("Please open the Com Port!");
+}
+
+int SerialLink::longestInstruction() const
+{
+    return longestInstructionBytes;
+}
+
+void SerialLink::write(const QByteArray &block)
+{
+    m_port.write(block);
+    m_port.flush();
+}
+
+void SerialLink::waitForWritten()
+{
+    const QDeadlineTimer deadline(writtenMs);
+    m_waitsForWritten = true;
+    while (m_port.bytesToWrite() > 0 &&
+           m_port.waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) {
+    }
+    m_waitsForWritten = false;
+    if (m_arrivedMeanwhile) {
+        m_arrivedMeanwhile = false;
+        QMetaObject::invokeMethod(this, &SerialLink::arrived, Qt::QueuedConnection);
+    }
+}
+
+void SerialLink::onReadyRead()
+{
+    if (m_waitsForWritten) {
+        m_arrivedMeanwhile = true;
+    } else {
+        emit arrived();
+    }
+}
+
+void SerialLink::onError(QSerialPort::SerialPortError error)
+{
+    if (!endsLink(error) || m_failed || !m_port.isOpen()) {
+        return;
+    }
+    m_failed = true;
+    const QString reason = m_port.errorString();
+    QMetaObject::invokeMethod(
+        this, [this, reason] { reportLoss(reason); }, Qt::QueuedConnection);
+}
+
+void SerialLink::reportLoss(const QString &reason)
+{
+    if (m_failed && m_port.isOpen()) {
+        emit lost(reason);
+    }
+}
