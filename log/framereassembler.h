@@ -38,4 +38,6 @@ private:
     void flush(QVector<ReceivedPiece> &pieces);
 
     QByteArray m_buffer;
+    /// The piece given out last was a frame.
+    bool m_behindFrame = false;
 };
