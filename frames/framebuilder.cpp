@@ -95,23 +95,28 @@ std::optional<QByteArray> parsePayload(const QString &commandText)
 
 QByteArray buildFrame(const QString &commandText, const FrameLayout &layout)
 {
-    std::optional<QByteArray> content = parsePayload(commandText);
-    if (!content) {
+    return frameOfPayload(parsePayload(commandText).value_or(QByteArray()), layout);
+}
+
+QByteArray frameOfPayload(const QByteArray &payload, const FrameLayout &layout)
+{
+    if (payload.isEmpty()) {
         return {};
     }
+    QByteArray content = payload;
     if (layout.withCrc) {
-        const quint16 crc = crc16Modbus(*content);
-        content->append(static_cast<char>(crc & 0xFFU));
-        content->append(static_cast<char>(crc >> 8U));
+        const quint16 crc = crc16Modbus(content);
+        content.append(static_cast<char>(crc & 0xFFU));
+        content.append(static_cast<char>(crc >> 8U));
     }
     QByteArray frame;
-    frame.reserve(content->size() + 5);
+    frame.reserve(content.size() + 5);
     if (layout.withStartBytes) {
         frame.append(static_cast<char>(layout.startBytes.first));
         frame.append(static_cast<char>(layout.startBytes.second));
     }
     if (layout.withLength) {
-        appendLength(frame, *content, layout);
+        appendLength(frame, content, layout);
     }
-    return frame.append(*content);
+    return frame.append(content);
 }

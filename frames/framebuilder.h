@@ -35,3 +35,6 @@ std::optional<QByteArray> parsePayload(const QString &commandText);
 /// of a payload that begins with 0x10, a zero byte and two bytes, most significant byte first. An
 /// empty result means that there is nothing to send (see parsePayload).
 QByteArray buildFrame(const QString &commandText, const FrameLayout &layout);
+
+/// The frame of these payload bytes (see buildFrame); empty when there are none.
+QByteArray frameOfPayload(const QByteArray &payload, const FrameLayout &layout);

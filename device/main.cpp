@@ -1,0 +1,69 @@
+#include "deviceoptions.h"
+#include "devicesession.h"
+#include "pseudoterminal.h"
+#include "publishedlink.h"
+#include "shutdownsignals.h"
+
+#include <QCoreApplication>
+
+#include <csignal>
+#include <cstdio>
+
+namespace {
+
+constexpr int failed = 1;
+constexpr int wrongUsage = 2;
+
+void complain(const QString &message)
+{
+    std::fputs(qPrintable(QStringLiteral("tarnwick-device: %1\n").arg(message)), stderr);
+}
+
+void say(const QString &text)
+{
+    std::fputs(qPrintable(text), stdout);
+    std::fflush(stdout);
+}
+
+int runDevice(const DeviceOptions &options)
+{
+    // A reader of our output that goes away must not end us before the link is removed.
+    std::signal(SIGPIPE, SIG_IGN);
+    const ShutdownSignals shutdown;
+    QObject::connect(&shutdown, &ShutdownSignals::arrived, &QCoreApplication::quit);
+
+    const std::optional<PseudoTerminal> terminal = PseudoTerminal::open();
+    if (!terminal) {
+        complain(QStringLiteral("No pseudo-terminal: %1.").arg(qt_error_string()));
+        return failed;
+    }
+    const QString folder = options.portsFolder.isEmpty()
+                               ? defaultPortsFolder(QStringLiteral("tarnwick"))
+                               : options.portsFolder;
+    const DeviceSession session(options, *terminal);
+    PublishedLink link(folder, options.linkName);
+    const QString error = link.publish(terminal->portPath());
+    if (!error.isEmpty()) {
+        complain(error);
+        return failed;
+    }
+    say(link.path() + '\n');
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const CommandLine line = parseCommandLine(QCoreApplication::arguments());
+    if (!line.error.isEmpty()) {
+        complain(line.error + QStringLiteral(" See --help."));
+        return wrongUsage;
+    }
+    if (line.helpWanted) {
+        say(deviceHelpText());
+        return 0;
+    }
+    return runDevice(line.options);
+}
