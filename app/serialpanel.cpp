@@ -117,8 +117,10 @@ void SerialPanel::showOpen(bool open)
     } else {
         showIdle(*m_form.pushButton_OpenCom, tr("Open Com Port"));
     }
-    for (QComboBox *box : {m_form.comboBox_Comm, m_form.comboBox_Parity, m_form.comboBox_Baudrate,
-                           m_form.comboBox_DataBit, m_form.comboBox_StopBit}) {
+    const QList<QWidget *> settings{m_form.comboBox_Comm, m_form.comboBox_Parity,
+                                    m_form.comboBox_Baudrate, m_form.comboBox_DataBit,
+                                    m_form.comboBox_StopBit};
+    for (QWidget *box : settings) {
         box->setEnabled(!open);
     }
 }

@@ -58,6 +58,7 @@ QCheckBox::indicator:checked:hover, QCheckBox::indicator:checked:focus {
 QTableWidget QLineEdit { padding-left: 2px; border-radius: 0px; }
 QTableWidget QPushButton { padding: 0px; border: 1px solid transparent; }
 QTableWidget QPushButton:focus { border-color: #0090ff; }
+UnitLineEdit { font-family: Arial; font-size: 16px; }
 UnitLineEdit QPushButton { padding: 0px; }
 )";
 

@@ -39,6 +39,7 @@ void UnitLineEdit::setUnit(const QString &unit)
     if (unit.isEmpty() || unit == m_unit->text()) {
         return;
     }
+    ensurePolished();
     m_unit->setText(unit);
     const int width = fontMetrics().horizontalAdvance(unit);
     m_unit->setFixedWidth(width);

@@ -37,6 +37,7 @@ void styleTable(QTableWidget &table, int columns, int rows)
     table.verticalHeader()->setDefaultSectionSize(rowHeight);
     table.verticalHeader()->hide();
     table.verticalScrollBar()->setStyleSheet(QLatin1String(scrollBarStyle));
+    table.horizontalHeader()->setHighlightSections(false);
     table.horizontalHeader()->setStyleSheet(QLatin1String(headerStyle));
     table.setStyleSheet(QLatin1String(tableStyle));
     table.setShowGrid(false);

@@ -1,0 +1,15 @@
+#include "pathcombobox.h"
+
+#include <QStylePainter>
+
+void PathComboBox::paintEvent(QPaintEvent * /*event*/)
+{
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                               QStyle::SC_ComboBoxEditField, this);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideLeft, room.width());
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
