@@ -4,6 +4,7 @@
 #include "numbercodec.h"
 #include "ui_directeditor.h"
 
+#include <QScreen>
 #include <QShowEvent>
 #include <QSignalBlocker>
 
@@ -26,6 +27,29 @@ constexpr auto editorStyle =
     "QCheckBox::indicator:checked:hover{image:url(:/Image/Checkbox_check_hover.png);}"
     "QLabel{color: #313c61;}";
 
+/// A field that cannot be edited is still read: its text must not fade into the background.
+void keepReadable(QLineEdit *field)
+{
+    QPalette palette = field->palette();
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x66, 0x66, 0x66));
+    field->setPalette(palette);
+}
+
+/// The width of a line edit that shows this many pairs of hex digits whole, whichever they are.
+int widthForPairs(const QLineEdit *field, int pairs)
+{
+    const QFontMetrics metrics = field->fontMetrics();
+    int digitWidth = 0;
+    for (const QChar digit : QStringLiteral("0123456789ABCDEF")) {
+        digitWidth = qMax(digitWidth, metrics.horizontalAdvance(digit));
+    }
+    const int textWidth =
+        2 * pairs * digitWidth + (pairs - 1) * metrics.horizontalAdvance(QLatin1Char(' '));
+    // A line edit's size hint is seventeen "x" and what stands around a text.
+    const int hinted = 17 * metrics.horizontalAdvance(QLatin1Char('x'));
+    return textWidth + field->sizeHint().width() - hinted;
+}
+
 } // namespace
 
 DirectEditor::DirectEditor(QWidget *parent)
@@ -36,7 +60,8 @@ DirectEditor::DirectEditor(QWidget *parent)
     m_ui->comboBox_dataType->setCurrentIndex(shortTypeIndex);
     setWindowTitle(tr("edit"));
     setStyleSheet(QLatin1String(editorStyle));
-    resize(widthForValues(), height());
+    keepReadable(m_ui->lineEdit_Data);
+    resize(qMin(widthForValues(), screen()->availableGeometry().width()), height());
 }
 
 DirectEditor::~DirectEditor() = default;
@@ -159,14 +184,7 @@ int DirectEditor::widthForValues() const
     constexpr int pairs = 8 * 4;
     QLineEdit *hex = m_ui->lineEdit_Data;
     hex->ensurePolished();
-    const QFontMetrics metrics = hex->fontMetrics();
-    int digitWidth = 0;
-    for (const QChar digit : QStringLiteral("0123456789ABCDEF")) {
-        digitWidth = qMax(digitWidth, metrics.horizontalAdvance(digit));
-    }
-    const int blankWidth = metrics.horizontalAdvance(QLatin1Char(' '));
-    const int around = hex->sizeHint().width() - metrics.horizontalAdvance(QLatin1Char('x')) * 17;
-    hex->setMinimumWidth(pairs * 2 * digitWidth + (pairs - 1) * blankWidth + around);
+    hex->setMinimumWidth(widthForPairs(hex, pairs));
     const int width = minimumSizeHint().width();
     hex->setMinimumWidth(0);
     return width;
