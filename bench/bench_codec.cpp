@@ -1,0 +1,76 @@
+#include "numbercodec.h"
+#include "stringcodec.h"
+
+#include <QElapsedTimer>
+#include <QStringList>
+#include <QTextStream>
+
+#include <algorithm>
+
+// How long one keystroke of a long value list costs: each conversion, the median of many runs.
+
+namespace {
+
+constexpr int elements = 4000;
+constexpr int runs = 101;
+
+template<typename Work>
+double medianMilliseconds(Work work)
+{
+    QVector<qint64> times;
+    for (int run = 0; run < runs; ++run) {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        times.append(timer.nsecsElapsed());
+    }
+    std::sort(times.begin(), times.end());
+    return static_cast<double>(times.at(runs / 2)) / 1e6;
+}
+
+template<typename Encode, typename Decode>
+void print(const char *name, const QString &value, Encode encode, Decode decode)
+{
+    const QString hex = encode(value);
+    const double there = medianMilliseconds([&] { return encode(value).size(); });
+    const double back = medianMilliseconds([&] { return decode(hex).size(); });
+    QTextStream(stdout) << QString("%1 to hex %2 ms, to value %3 ms\n")
+                               .arg(name, -9)
+                               .arg(there, 7, 'f', 3)
+                               .arg(back, 7, 'f', 3);
+}
+
+void printNumbers(const char *name, NumberKind kind)
+{
+    const QString number = QString::number(numberFormat(kind).lowest);
+    const QString list = QStringList(QVector<QString>(elements, number).toList()).join(',');
+    print(
+        name, list, [kind](const QString &value) { return encodeNumbers(value, kind); },
+        [kind](const QString &hex) { return decodeNumbers(hex, kind); });
+}
+
+void printText(const char *name, StringEncoding encoding)
+{
+    const QString text = QString::fromUtf8("啊").repeated(elements);
+    print(
+        name, text, [encoding](const QString &value) { return encodeString(value, encoding).hex; },
+        [encoding](const QString &hex) { return decodeString(hex, encoding); });
+}
+
+} // namespace
+
+int main()
+{
+    QTextStream(stdout) << elements << " elements, median of " << runs << " runs\n";
+    printNumbers("int", NumberKind::Int);
+    printNumbers("uint", NumberKind::UInt);
+    printNumbers("char", NumberKind::Char);
+    printNumbers("uchar", NumberKind::UChar);
+    printNumbers("short", NumberKind::Short);
+    printNumbers("ushort", NumberKind::UShort);
+    printNumbers("longlong", NumberKind::LongLong);
+    printText("GB2312", StringEncoding::Gb2312);
+    printText("GBK", StringEncoding::Gbk);
+    printText("Unicode", StringEncoding::Unicode);
+    return 0;
+}

@@ -1,0 +1,191 @@
+#include "directeditor.h"
+
+#include "hextext.h"
+#include "numbercodec.h"
+#include "ui_directeditor.h"
+
+#include <QScreen>
+#include <QShowEvent>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr auto editorStyle =
+    "QPushButton{background: #ffffff;border: 2px solid #d9dfe7;border-radius: 4px;color: #333333;}"
+    "QPushButton:hover{background: #0090ff;border-radius: 4px;color: #fefefe;}"
+    "QPushButton:disabled{background: #cccccc;color:#666666}"
+    "QComboBox{background: #ffffff;border: 1px solid rgba(51,51,51,0.30);border-radius: 4px;}"
+    "QComboBox::drop-down{border:none;}"
+    "QComboBox::down-arrow{width: 21px;height: 11px;right:7px;"
+    "image: url(:/Image/ComboBox-downArrow.png)}"
+    "QComboBox QAbstractItemView {background-color: #ffffff;}"
+    "QLineEdit{background: #ffffff;border: 1px solid rgba(51,51,51,0.30);border-radius: 4px;}"
+    "QCheckBox::indicator {width :  26px ;height :  26px ;}"
+    "QCheckBox::indicator:unchecked {image:url(:/Image/Checkbox_uncheck.png);}"
+    "QCheckBox::indicator:unchecked:hover {image:url(:/Image/Checkbox_uncheck_hover.png);}"
+    "QCheckBox::indicator:checked{image:url(:/Image/Checkbox_check.png);}"
+    "QCheckBox::indicator:checked:hover{image:url(:/Image/Checkbox_check_hover.png);}"
+    "QLabel{color: #313c61;}";
+
+/// A field that cannot be edited is still read: its text must not fade into the background.
+void keepReadable(QLineEdit *field)
+{
+    QPalette palette = field->palette();
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x66, 0x66, 0x66));
+    field->setPalette(palette);
+}
+
+/// The width of a line edit that shows this many pairs of hex digits whole, whichever they are.
+int widthForPairs(const QLineEdit *field, int pairs)
+{
+    const QFontMetrics metrics = field->fontMetrics();
+    int digitWidth = 0;
+    for (const QChar digit : QStringLiteral("0123456789ABCDEF")) {
+        digitWidth = qMax(digitWidth, metrics.horizontalAdvance(digit));
+    }
+    const int textWidth =
+        2 * pairs * digitWidth + (pairs - 1) * metrics.horizontalAdvance(QLatin1Char(' '));
+    // A line edit's size hint is seventeen "x" and what stands around a text.
+    const int hinted = 17 * metrics.horizontalAdvance(QLatin1Char('x'));
+    return textWidth + field->sizeHint().width() - hinted;
+}
+
+} // namespace
+
+DirectEditor::DirectEditor(QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::DirectEditor>())
+{
+    m_ui->setupUi(this);
+    m_ui->comboBox_dataType->setCurrentIndex(shortTypeIndex);
+    setWindowTitle(tr("edit"));
+    setStyleSheet(QLatin1String(editorStyle));
+    keepReadable(m_ui->lineEdit_Data);
+    resize(qMin(widthForValues(), screen()->availableGeometry().width()), height());
+}
+
+DirectEditor::~DirectEditor() = default;
+
+void DirectEditor::loadFromMembers()
+{
+    m_unencodableTold = false;
+    m_ui->lineEdit_Od->setText(editCmd);
+    m_ui->lineEdit_Addr->setText(editAddr);
+    m_ui->lineEdit_Data->setText(groupPairsFromRight(withoutBlanks(editData.toUpper())));
+    m_ui->lineEdit_Data->setCursorPosition(0);
+    showValueOfHex();
+    selectType(editType);
+}
+
+void DirectEditor::on_originalDataChange()
+{
+    const QString decimals = m_ui->lineEdit_originalData->text();
+    m_ui->lineEdit_originalData->setText(encodeNumbers(decimals, NumberKind::Int));
+}
+
+void DirectEditor::on_lineEdit_originalData_textChanged()
+{
+    const EncodedText encoded = encodedValue();
+    const QSignalBlocker blocker(m_ui->lineEdit_Data);
+    m_ui->lineEdit_Data->setText(encoded.hex);
+    tellUnencodable(encoded.unencodable);
+}
+
+void DirectEditor::on_pushButton_ok_clicked()
+{
+    const bool isString = m_ui->comboBox_dataType->currentIndex() == stringTypeIndex;
+    editData = withoutBlanks(m_ui->lineEdit_Data->text());
+    editCmd = m_ui->lineEdit_Od->text();
+    editAddr = m_ui->lineEdit_Addr->text();
+    editType = (isString ? m_ui->comboBox_encode : m_ui->comboBox_dataType)->currentText();
+    emit SendData();
+    accept();
+}
+
+void DirectEditor::on_comboBox_dataType_currentIndexChanged()
+{
+    showValueOfHex();
+}
+
+void DirectEditor::on_comboBox_encode_currentIndexChanged()
+{
+    showValueOfHex();
+}
+
+void DirectEditor::on_pushButton_cancel_clicked()
+{
+    close();
+}
+
+void DirectEditor::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        m_ui->lineEdit_Od->setFocus();
+        m_ui->lineEdit_Od->selectAll();
+    }
+}
+
+/// Reads the hex in the chosen type. The hex itself stays: only typing a value changes it.
+void DirectEditor::showValueOfHex()
+{
+    const QSignalBlocker blocker(m_ui->lineEdit_originalData);
+    const int type = m_ui->comboBox_dataType->currentIndex();
+    const bool isString = type == stringTypeIndex;
+    const QString hex = m_ui->lineEdit_Data->text();
+    m_ui->comboBox_encode->setEnabled(isString);
+    m_ui->lineEdit_originalData->setText(isString
+                                             ? withoutTerminator(decodeString(hex, encoding()))
+                                             : decodeNumbers(hex, static_cast<NumberKind>(type)));
+}
+
+void DirectEditor::selectType(const QString &rowType)
+{
+    const EditorSelection selection = editorSelection(rowType);
+    m_ui->comboBox_dataType->setCurrentIndex(selection.type);
+    m_ui->comboBox_encode->setCurrentIndex(selection.encoding);
+}
+
+/// The hex of the value as typed; nothing, not even a terminator, for an empty field.
+EncodedText DirectEditor::encodedValue() const
+{
+    const QString value = m_ui->lineEdit_originalData->text();
+    const int type = m_ui->comboBox_dataType->currentIndex();
+    if (value.isEmpty()) {
+        return {};
+    }
+    if (type != stringTypeIndex) {
+        return {encodeNumbers(value, static_cast<NumberKind>(type)), {}};
+    }
+    EncodedText encoded = encodeString(value, encoding());
+    encoded.hex = withTerminator(encoded.hex);
+    return encoded;
+}
+
+/// Tells once, not with every further character. The flag changes first: whoever is told may run
+/// an event loop.
+void DirectEditor::tellUnencodable(const QString &unencodable)
+{
+    const bool toldBefore = m_unencodableTold;
+    m_unencodableTold = !unencodable.isEmpty();
+    if (m_unencodableTold && !toldBefore) {
+        emit unencodableTyped(unencodableReport(unencodable, encoding(), textCodec(encoding())));
+    }
+}
+
+StringEncoding DirectEditor::encoding() const
+{
+    return static_cast<StringEncoding>(m_ui->comboBox_encode->currentIndex());
+}
+
+/// The dialog width at which the hex of eight "int" values can be seen whole.
+int DirectEditor::widthForValues() const
+{
+    constexpr int pairs = 8 * 4;
+    QLineEdit *hex = m_ui->lineEdit_Data;
+    hex->ensurePolished();
+    hex->setMinimumWidth(widthForPairs(hex, pairs));
+    const int width = minimumSizeHint().width();
+    hex->setMinimumWidth(0);
+    return width;
+}
