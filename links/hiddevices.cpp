@@ -1,0 +1,65 @@
+#include "hiddevices.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+#include <hidapi.h>
+#include <iterator>
+#include <memory>
+#include <optional>
+
+namespace {
+
+/// From this many different types on, one look at all that is attached is cheaper than one for
+/// each.
+constexpr int manyTypes = 64;
+
+QVector<HidDevice> enumerate(DeviceIds type)
+{
+    const std::unique_ptr<hid_device_info, decltype(&hid_free_enumeration)> chain(
+        hid_enumerate(type.vendor, type.product), &hid_free_enumeration);
+    QVector<HidDevice> devices;
+    for (const hid_device_info *info = chain.get(); info != nullptr; info = info->next) {
+        devices.append({QString::fromLocal8Bit(info->path), {info->vendor_id, info->product_id}});
+    }
+    return devices;
+}
+
+bool isOfType(const HidDevice &device, DeviceIds type)
+{
+    return (type.vendor == 0 || type.vendor == device.ids.vendor) &&
+           (type.product == 0 || type.product == device.ids.product);
+}
+
+QVector<HidDevice> ofType(const QVector<HidDevice> &devices, DeviceIds type)
+{
+    QVector<HidDevice> matching;
+    std::copy_if(devices.begin(), devices.end(), std::back_inserter(matching),
+                 [type](const HidDevice &device) { return isOfType(device, type); });
+    return matching;
+}
+
+std::optional<QVector<HidDevice>> everythingIfCheaper(const QVector<DeviceIds> &wanted)
+{
+    const QSet<DeviceIds> types(wanted.begin(), wanted.end());
+    return types.size() < manyTypes ? std::nullopt : std::optional(enumerate({}));
+}
+
+} // namespace
+
+QVector<HidDevice> attachedHidDevices(const QVector<DeviceIds> &wanted)
+{
+    const auto everything = everythingIfCheaper(wanted);
+    QHash<DeviceIds, QVector<HidDevice>> found;
+    QVector<HidDevice> devices;
+    for (const DeviceIds type : wanted) {
+        auto ofThisType = found.constFind(type);
+        if (ofThisType == found.constEnd()) {
+            ofThisType =
+                found.insert(type, everything ? ofType(*everything, type) : enumerate(type));
+        }
+        devices += *ofThisType;
+    }
+    return devices;
+}

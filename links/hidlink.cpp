@@ -1,0 +1,94 @@
+#include "hidlink.h"
+
+#include "hiddevices.h"
+#include "reports.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+HidPacket makePacket(quint8 reportId, const QByteArray &report)
+{
+    HidPacket packet;
+    packet.data[0] = reportId;
+    packet.length = report.size();
+    std::copy(report.begin(), report.end(), packet.data + 1);
+    return packet;
+}
+
+} // namespace
+
+HidLink::HidLink(QString deviceIdFile, QObject *parent)
+    : QObject(parent)
+    , m_deviceIdFile(std::move(deviceIdFile))
+{
+    connect(&m_thread, &HidThread::packetReceived, &m_receiver,
+            [this](const HidPacket &packet) { emit packetReceived(packet); });
+    connect(&m_thread, &HidThread::deviceDisconnected, &m_receiver,
+            [this] { emit deviceDisconnected(); });
+}
+
+HidLink::~HidLink()
+{
+    close();
+}
+
+void HidLink::readDeviceTypes()
+{
+    m_thread.setIdList(readDeviceIdFile(m_deviceIdFile));
+}
+
+QStringList HidLink::listDevices()
+{
+    readDeviceTypes();
+    m_listedIds.clear();
+    QStringList paths;
+    for (const HidDevice &device : attachedHidDevices(m_thread.idList())) {
+        m_listedIds.insert(device.path, device.ids);
+        paths.append(device.path);
+    }
+    return paths;
+}
+
+bool HidLink::open(const QString &path, quint8 reportId)
+{
+    close();
+    if (!m_thread.openByPath(path)) {
+        return false;
+    }
+    const DeviceIds ids = idsOf(path);
+    m_reportId = reportId;
+    m_thread.setIds(ids.vendor, ids.product);
+    m_thread.setPacketSize(readPacketSize(m_deviceIdFile, ids));
+    m_thread.start();
+    return true;
+}
+
+void HidLink::close()
+{
+    m_thread.stop();
+    // What is still on its way must not be taken for something of the next device.
+    QCoreApplication::removePostedEvents(&m_receiver);
+    m_thread.close();
+}
+
+QString HidLink::closedMessage() const
+{
+    return QStringLiteral("Please open the HID Device!");
+}
+
+void HidLink::write(const QByteArray &block)
+{
+    for (const QByteArray &report : splitIntoReports(block, m_thread.packetSize())) {
+        m_thread.queuePacket(makePacket(m_reportId, report));
+    }
+}
+
+DeviceIds HidLink::idsOf(const QString &path) const
+{
+    const DeviceIds inPath = parseDeviceIds(path);
+    return inPath != DeviceIds() ? inPath : m_listedIds.value(path);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "hidthread.h"
+#include "link.h"
+
+#include <QHash>
+#include <QObject>
+
+/// The HID link: lists the attached devices of the known types, opens one of them, and sends blocks
+/// of frames to it as reports.
+class HidLink : public QObject, public Link
+{
+    Q_OBJECT
+
+public:
+    /// The device types and their packet sizes come from this device-ID file.
+    explicit HidLink(QString deviceIdFile, QObject *parent = nullptr);
+    ~HidLink() override;
+
+    /// Reads the device-ID file, creating it if it is missing.
+    void readDeviceTypes();
+    /// Reads the device-ID file and returns the paths of the attached devices.
+    QStringList listDevices();
+
+    /// Opens the device at a path, after closing the one that is open. Returns whether it is open.
+    bool open(const QString &path, quint8 reportId);
+    /// Stops the worker and closes the device. Nothing that the device had sent is signalled after.
+    void close();
+
+    bool isOpen() const override { return m_thread.isOpen(); }
+    QString closedMessage() const override;
+    int longestInstruction() const override { return 255; }
+    void write(const QByteArray &block) override;
+    void waitForWritten() override {}
+
+    /// Bytes of data in each report of the device opened last.
+    int packetSize() const { return m_thread.packetSize(); }
+    /// IDs of the device opened last.
+    DeviceIds ids() const { return {m_thread.vendorId(), m_thread.productId()}; }
+
+signals:
+    /// The open device has sent a report.
+    void packetReceived(HidPacket packet);
+    /// The device can't be written to any more; the link is to be closed.
+    void deviceDisconnected();
+
+private:
+    DeviceIds idsOf(const QString &path) const;
+
+    QString m_deviceIdFile;
+    /// What the system said about the paths listed last, since not every path tells its IDs.
+    QHash<QString, DeviceIds> m_listedIds;
+    quint8 m_reportId = 0;
+    HidThread m_thread;
+    /// Takes the worker's signals, and nothing else that is queued.
+    QObject m_receiver;
+};

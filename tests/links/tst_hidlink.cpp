@@ -1,0 +1,398 @@
+#include "fakehid.h"
+#include "hiddevices.h"
+#include "hidlink.h"
+#include "hidnode.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using Function = HidCall::Function;
+
+namespace {
+
+const char smallPath[] = R"(\\?\hid#vid_eeef&pid_1616#6&1&0&0000)";
+const char largePath[] = R"(\\?\hid#vid_eeef&pid_2929#6&2&0&0000)";
+const char barePath[] = "/dev/hidraw-bare";
+
+constexpr DeviceIds small{0xEEEF, 0x1616};
+constexpr DeviceIds large{0xEEEF, 0x2929};
+
+QStringList paths(const QVector<HidDevice> &devices)
+{
+    QStringList list;
+    for (const HidDevice &device : devices) {
+        list.append(device.path);
+    }
+    return list;
+}
+
+} // namespace
+
+class TestHidLink : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void listsInOrderOfTheTypes();
+    void typeListedTwice();
+    void deviceListedTwiceBySystem();
+    void typeWithoutIds();
+    void manyTypes();
+    void enumerationIsFreed();
+
+    void listing();
+    void listingReadsTheFileAfresh();
+    void closedLink();
+    void opening_data();
+    void opening();
+    void openingFails();
+    void openingAnother();
+    void idsOfListedPath();
+    void writesReports_data();
+    void writesReports();
+    void writingWhileClosed();
+    void closingStopsFirst();
+    void received();
+    void disconnectionIsSignalledOnce();
+    void nothingOldAfterReopening();
+    void closingFromTheSignal();
+    void reopeningUnderLoad();
+    void access();
+
+private:
+    void replaceFile(const QByteArray &content);
+
+    FakeHid &m_fake = FakeHid::instance();
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_file;
+};
+
+void TestHidLink::init()
+{
+    m_fake.reset();
+    m_fake.addDevice(smallPath, small.vendor, small.product);
+    m_fake.addDevice("/dev/keyboard", 0x1234, 0x0001);
+    m_fake.addDevice(largePath, large.vendor, large.product);
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_file = m_folder->filePath("hidDeviceID.ini");
+}
+
+void TestHidLink::cleanup()
+{
+    QCOMPARE(m_fake.misuses(), 0);
+    QCOMPARE(m_fake.openHandles(), 0);
+}
+
+void TestHidLink::replaceFile(const QByteArray &content)
+{
+    QFile file(m_file);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+void TestHidLink::listsInOrderOfTheTypes()
+{
+    m_fake.addDevice(barePath, small.vendor, small.product);
+    const QVector<HidDevice> devices = attachedHidDevices({large, small});
+    QCOMPARE(paths(devices), QStringList({largePath, smallPath, barePath}));
+    QVERIFY(devices.at(2).ids == small);
+
+    const QVector<HidCall> calls = m_fake.calls(Function::Enumerate);
+    QCOMPARE(calls.size(), 2);
+    QCOMPARE(calls.at(0).product, large.product);
+    QCOMPARE(calls.at(1).vendor, small.vendor);
+    QCOMPARE(calls.at(1).product, small.product);
+    QVERIFY(attachedHidDevices({}).isEmpty());
+}
+
+void TestHidLink::typeListedTwice()
+{
+    const QStringList expected{smallPath, largePath, smallPath};
+    QCOMPARE(paths(attachedHidDevices({small, large, small})), expected);
+}
+
+void TestHidLink::deviceListedTwiceBySystem()
+{
+    m_fake.addDevice(smallPath, small.vendor, small.product);
+    QCOMPARE(paths(attachedHidDevices({small})), QStringList({smallPath, smallPath}));
+}
+
+void TestHidLink::typeWithoutIds()
+{
+    QCOMPARE(paths(attachedHidDevices({{}})), QStringList({smallPath, "/dev/keyboard", largePath}));
+    QCOMPARE(paths(attachedHidDevices({{0xEEEF, 0}})), QStringList({smallPath, largePath}));
+}
+
+void TestHidLink::manyTypes()
+{
+    QVector<DeviceIds> wanted;
+    for (int i = 0; i < 100'000; ++i) {
+        wanted.append({quint16(0xE000 + i / 50'000), quint16(i % 50'000)});
+    }
+    wanted += {large, small, {0, 0x0001}, large};
+    const QStringList expected{largePath, smallPath, "/dev/keyboard", largePath};
+    QCOMPARE(paths(attachedHidDevices(wanted)), expected);
+    QCOMPARE(m_fake.count(Function::Enumerate), 1);
+}
+
+void TestHidLink::enumerationIsFreed()
+{
+    attachedHidDevices({small, {1, 1}, large, small});
+    QCOMPARE(m_fake.count(Function::FreeEnumeration), 2);
+}
+
+void TestHidLink::listing()
+{
+    HidLink link(m_file);
+    QCOMPARE(link.listDevices(), QStringList({largePath, smallPath}));
+    QVERIFY(QFile::exists(m_file));
+    QFile::remove(m_file);
+    link.readDeviceTypes();
+    QVERIFY(QFile::exists(m_file));
+}
+
+void TestHidLink::listingReadsTheFileAfresh()
+{
+    HidLink link(m_file);
+    link.listDevices();
+    replaceFile("vid_1234,pid_0001,64");
+    QCOMPARE(link.listDevices(), QStringList("/dev/keyboard"));
+    replaceFile("");
+    QCOMPARE(link.listDevices(), QStringList());
+}
+
+void TestHidLink::closedLink()
+{
+    const HidLink link(m_file);
+    QVERIFY(!link.isOpen());
+    QCOMPARE(link.closedMessage(), QString("Please open the HID Device!"));
+    QCOMPARE(link.longestInstruction(), 255);
+}
+
+void TestHidLink::opening_data()
+{
+    QTest::addColumn<QByteArray>("types");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<quint16>("product");
+    QTest::addColumn<int>("packetSize");
+
+    const QByteArray usual = defaultDeviceIdFile();
+    QTest::newRow("long packets") << usual << largePath << large.product << 512;
+    QTest::newRow("short packets") << usual << smallPath << small.product << 64;
+    QTest::newRow("not in the file") << QByteArray() << largePath << large.product << 64;
+    QTest::newRow("unusable size")
+        << QByteArray("VID_EEEF,PID_2929,0") << largePath << large.product << 64;
+}
+
+void TestHidLink::opening()
+{
+    QFETCH(QByteArray, types);
+    QFETCH(QString, path);
+    QFETCH(quint16, product);
+    QFETCH(int, packetSize);
+
+    replaceFile(types);
+    HidLink link(m_file);
+    QVERIFY(link.open(path, 0));
+    QVERIFY(link.isOpen());
+    QCOMPARE(link.ids().vendor, quint16(0xEEEF));
+    QCOMPARE(link.ids().product, product);
+    QCOMPARE(link.packetSize(), packetSize);
+    QTRY_VERIFY(m_fake.count(Function::Read) > 0);
+    QCOMPARE(m_fake.calls(Function::Read).at(0).size, packetSize);
+}
+
+void TestHidLink::openingFails()
+{
+    HidLink link(m_file);
+    QVERIFY(!link.open(QString(), 0));
+    QVERIFY(!link.open("/dev/hidraw-gone", 0));
+    QVERIFY(!link.open("/dev/null", 0));
+    QVERIFY(!link.isOpen());
+    QCOMPARE(m_fake.count(Function::Read), 0);
+}
+
+void TestHidLink::openingAnother()
+{
+    replaceFile(defaultDeviceIdFile());
+    HidLink link(m_file);
+    QVERIFY(link.open(smallPath, 0));
+    QTRY_VERIFY(m_fake.count(Function::Read) > 0);
+    QVERIFY(link.open(largePath, 0));
+    QCOMPARE(link.packetSize(), 512);
+    QCOMPARE(m_fake.count(Function::Close), 1);
+    QVERIFY(!link.open("/dev/hidraw-gone", 0));
+    QVERIFY(!link.isOpen());
+    QCOMPARE(m_fake.count(Function::Close), 2);
+}
+
+void TestHidLink::idsOfListedPath()
+{
+    m_fake.addDevice(barePath, large.vendor, large.product);
+    HidLink link(m_file);
+    QVERIFY(link.open(barePath, 0));
+    QVERIFY(link.ids() == DeviceIds());
+    QCOMPARE(link.packetSize(), 64);
+
+    link.listDevices();
+    QVERIFY(link.open(barePath, 0));
+    QVERIFY(link.ids() == large);
+    QCOMPARE(link.packetSize(), 512);
+}
+
+void TestHidLink::writesReports_data()
+{
+    QTest::addColumn<QByteArray>("types");
+    QTest::addColumn<quint8>("reportId");
+    QTest::addColumn<QByteArray>("block");
+    QTest::addColumn<QVector<QByteArray>>("buffers");
+
+    const auto buffer = [](char id, const QByteArray &data, int size) {
+        return (id + data).leftJustified(size + 1, '\0');
+    };
+    const QByteArray shortPackets = "VID_EEEF,PID_1616,64";
+    const QByteArray longPackets = "VID_EEEF,PID_1616,512";
+    QTest::newRow("one frame") << shortPackets << quint8(0) << QByteArray("frame")
+                               << QVector<QByteArray>{buffer(0, "frame", 64)};
+    QTest::newRow("exactly one report")
+        << shortPackets << quint8(0x1F) << QByteArray(64, 'a')
+        << QVector<QByteArray>{buffer(0x1F, QByteArray(64, 'a'), 64)};
+    QTest::newRow("three reports")
+        << shortPackets << quint8(0xFE) << QByteArray(130, 'b')
+        << QVector<QByteArray>{buffer(char(0xFE), QByteArray(64, 'b'), 64),
+                               buffer(char(0xFE), QByteArray(64, 'b'), 64),
+                               buffer(char(0xFE), "bb", 64)};
+    QTest::newRow("long report") << longPackets << quint8(1) << QByteArray(130, 'c')
+                                 << QVector<QByteArray>{buffer(1, QByteArray(130, 'c'), 512)};
+}
+
+void TestHidLink::writesReports()
+{
+    QFETCH(QByteArray, types);
+    QFETCH(quint8, reportId);
+    QFETCH(QByteArray, block);
+    QFETCH(QVector<QByteArray>, buffers);
+
+    replaceFile(types);
+    m_fake.readWithoutWaiting();
+    HidLink link(m_file);
+    QVERIFY(link.open(smallPath, reportId));
+    link.write(block);
+    link.waitForWritten();
+    QTRY_COMPARE(m_fake.written().size(), buffers.size());
+    QCOMPARE(m_fake.written(), buffers);
+}
+
+void TestHidLink::writingWhileClosed()
+{
+    HidLink link(m_file);
+    link.write("lost");
+    QVERIFY(link.open(smallPath, 0));
+    QTRY_VERIFY(m_fake.count(Function::Read) > 1);
+    QVERIFY(m_fake.written().isEmpty());
+}
+
+void TestHidLink::closingStopsFirst()
+{
+    HidLink link(m_file);
+    QVERIFY(link.open(smallPath, 0));
+    QTRY_VERIFY(m_fake.count(Function::Read) > 0);
+    link.close();
+    link.close();
+    QVERIFY(!link.isOpen());
+    QCOMPARE(m_fake.calls().last().function, Function::Close);
+    QCOMPARE(m_fake.count(Function::Close), 1);
+}
+
+void TestHidLink::received()
+{
+    HidLink link(m_file);
+    QSignalSpy spy(&link, &HidLink::packetReceived);
+    QVERIFY(link.open(smallPath, 9));
+    m_fake.sendReport("answer");
+    QTRY_COMPARE(spy.size(), 1);
+    const auto packet = spy.at(0).at(0).value<HidPacket>();
+    QCOMPARE(packet.length, 6);
+    QCOMPARE(packet.data[0], quint8(0));
+    QCOMPARE(packet.data[1], quint8('a'));
+}
+
+void TestHidLink::disconnectionIsSignalledOnce()
+{
+    HidLink link(m_file);
+    QSignalSpy spy(&link, &HidLink::deviceDisconnected);
+    QVERIFY(link.open(smallPath, 0));
+    m_fake.failWrites();
+    link.write(QByteArray(640, 'x'));
+    QTRY_COMPARE(spy.size(), 1);
+    QVERIFY(link.isOpen());
+    link.close();
+    QVERIFY(!link.isOpen());
+    QCoreApplication::processEvents();
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(m_fake.written().size(), 1);
+}
+
+/// The old device's last words must not end, or be shown on, the next connection.
+void TestHidLink::nothingOldAfterReopening()
+{
+    HidLink link(m_file);
+    QSignalSpy disconnections(&link, &HidLink::deviceDisconnected);
+    QSignalSpy packets(&link, &HidLink::packetReceived);
+    QVERIFY(link.open(smallPath, 0));
+    m_fake.sendReport("old");
+    m_fake.failWrites(1);
+    link.write(QByteArray(128, 'x'));
+    // Without running the event loop, so that the signals are still on their way.
+    while (m_fake.written().size() < 2) {
+        QThread::yieldCurrentThread();
+    }
+    QVERIFY(link.open(largePath, 0));
+    const int read = m_fake.count(Function::Read);
+    QTRY_VERIFY(m_fake.count(Function::Read) > read);
+    QCOMPARE(disconnections.size(), 0);
+    QCOMPARE(packets.size(), 0);
+    QVERIFY(link.isOpen());
+}
+
+void TestHidLink::closingFromTheSignal()
+{
+    HidLink link(m_file);
+    connect(&link, &HidLink::deviceDisconnected, &link, &HidLink::close);
+    QVERIFY(link.open(smallPath, 0));
+    m_fake.failWrites();
+    link.write("x");
+    QTRY_VERIFY(!link.isOpen());
+    QCOMPARE(m_fake.count(Function::Close), 1);
+}
+
+void TestHidLink::reopeningUnderLoad()
+{
+    m_fake.readWithoutWaiting();
+    HidLink link(m_file);
+    int packets = 0;
+    connect(&link, &HidLink::packetReceived, this, [&packets] { ++packets; });
+    for (int round = 0; round < 50; ++round) {
+        QVERIFY(link.open(round % 2 == 0 ? smallPath : largePath, quint8(round)));
+        link.write(QByteArray(10'000, 'x'));
+        m_fake.sendReport(QByteArray(64, 'y'));
+        const int before = packets;
+        QTRY_VERIFY(packets > before);
+        if (round % 3 == 0) {
+            link.close();
+        }
+    }
+}
+
+void TestHidLink::access()
+{
+    QVERIFY(!refusesAccess("/dev/null"));
+    QVERIFY(!refusesAccess("/dev/hidraw-gone"));
+}
+
+QTEST_GUILESS_MAIN(TestHidLink)
+#include "tst_hidlink.moc"
