@@ -1,0 +1,50 @@
+#pragma once
+
+#include "commandrow.h"
+#include "linedecoder.h"
+
+#include <QByteArray>
+#include <QVector>
+
+#include <optional>
+
+/// The most rows that are loaded from one file: more would keep the window busy for seconds.
+inline constexpr int mostCommandRows = 10'000;
+
+/// The most bytes that a command file may have.
+inline constexpr int largestCommandFile = 8 * 1024 * 1024;
+
+/// The most bytes that a line may have: the longest instruction there can be, 65535 bytes written
+/// with blanks between them, and room for its description.
+inline constexpr int longestCommandLine = 256 * 1024;
+
+/// Reads the lines of a command file, one after the other.
+class CommandLineReader
+{
+public:
+    /// The row of a line, given with or without its line end. Nothing for an empty line, for a
+    /// comment and for an invalid line: one with too few or too many fields, or too long.
+    std::optional<CommandRow> read(const QByteArray &line);
+
+    bool sawInvalidLine() const { return m_sawInvalidLine; }
+
+private:
+    LineDecoder m_decoder;
+    bool m_sawInvalidLine = false;
+};
+
+/// What a command file holds.
+struct CommandFile
+{
+    /// The rows of all valid lines, in the order of the file.
+    QVector<CommandRow> rows;
+    bool hasInvalidLines = false;
+    /// There are more than mostCommandRows; reading stopped there.
+    bool hasTooManyRows = false;
+};
+
+/// Reads the bytes of a command file; any bytes will do.
+CommandFile readCommandFile(const QByteArray &bytes);
+
+/// The lines that stand for the rows, each with its line end, without those of empty rows.
+QString commandFileText(const QVector<CommandRow> &rows);
