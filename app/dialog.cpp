@@ -1,10 +1,9 @@
 #include "dialog.h"
 
-#include "addrdelegate.h"
 #include "commandcolumns.h"
-#include "datadelegate.h"
 #include "datafolder.h"
 #include "fieldcutter.h"
+#include "placement.h"
 #include "styles.h"
 #include "ui_dialog.h"
 #include "version.h"
@@ -47,13 +46,16 @@ Dialog::Dialog(QWidget *parent)
     , m_maximumInstructionLength(longestInstruction)
     , m_serialLink(FrameReassembler::capacity - FrameReassembler::longestFrame, this)
     , m_serialPanel(*m_form, m_serialLink, this)
-    , m_loopPanel(*m_form, this)
+    , m_hidLink(dataFile(QStringLiteral("hidDeviceID.ini")), this)
+    , m_hidPanel(*m_form, m_hidLink, this)
     , m_commands(*m_form->tableWidget_Register, this, this)
     , m_rowActions(*m_form->tableWidget_Register, m_commands, this)
+    , m_editor(this)
     , m_log(*m_form->tableWidget_Message, this)
+    , m_files(this, dataFolder(), fileHooks())
     , m_receiver([this] { return readStartBytes(); }, this)
     , m_sender(*this, this)
-    , m_loop(m_sender, this)
+    , m_loop(*m_form, m_sender, this)
 {
     setUpWindow();
     connectLinks();
@@ -61,6 +63,9 @@ Dialog::Dialog(QWidget *parent)
     setUpCommands();
     setUpMessages();
     setUpTimers();
+    m_files.setLastLoadFolder(m_settings.lastLoadPath);
+    m_files.setLastSaveFolder(m_settings.lastSavePath);
+    m_hidLink.readDeviceTypes();
     setLinkMode(linkMode());
     m_form->tabWidget->setCurrentIndex(m_settings.linkMode);
 }
@@ -72,7 +77,12 @@ Dialog::~Dialog()
 
 void Dialog::closeEvent(QCloseEvent *event)
 {
-    stopLoop();
+    if (m_commandsModified && userWantsToSave()) {
+        // SAVE
+    }
+    m_loop.stop();
+    m_settings.lastLoadPath = m_files.lastLoadFolder();
+    m_settings.lastSavePath = m_files.lastSaveFolder();
     m_settingsFile.save(m_settings);
     event->accept();
 }
@@ -113,17 +123,14 @@ void Dialog::setUpCommands()
             &Dialog::tableRegisterContexMenuRequested);
     connect(&m_rowActions, &RowActions::refused, this, &Dialog::showMessage);
     connect(&m_rowActions, &RowActions::modified, this, [this] { m_commandsModified = true; });
+    connect(&m_rowActions, &RowActions::editRequested, this, &Dialog::editRow);
+    connect(&m_editor, &DirectEditor::SendData, this, &Dialog::editor_dataIn);
+    connect(&m_editor, &DirectEditor::unencodableTyped, this, &Dialog::showMessage,
+            Qt::QueuedConnection);
     connect(&m_commands, &CommandTable::sendRequested, this, &Dialog::SendOne);
 
-    auto *addrDelegate = new AddrDelegate(this);
-    auto *dataDelegate = new DataDelegate(this);
-    addrDelegate->installEventFilter(addrDelegate);
-    dataDelegate->installEventFilter(dataDelegate);
-    table->setItemDelegateForColumn(CommandColumn::Addr, addrDelegate);
-    table->setItemDelegateForColumn(CommandColumn::Data, dataDelegate);
-    connect(addrDelegate, &AddrDelegate::enterdata, this, &Dialog::on_DataEnter);
-    connect(addrDelegate, &AddrDelegate::AfterCommitData, this, &Dialog::on_DataEdited);
-    connect(dataDelegate, &DataDelegate::enterdata, this, &Dialog::on_DataEnter);
+    connect(&m_commands, &CommandTable::addressCommitted, this, &Dialog::on_DataEdited);
+    connect(&m_commands, &CommandTable::enterPressed, this, &Dialog::on_DataEnter);
 }
 
 void Dialog::setUpMessages()
@@ -134,18 +141,34 @@ void Dialog::setUpMessages()
     }
 }
 
+FileActionHooks Dialog::fileHooks()
+{
+    FileActionHooks hooks;
+    hooks.showMessage = [this](const QString &text) { showMessage(text); };
+    hooks.commands = [this] { return m_commands.rows(); };
+    hooks.replaceCommands = [this](const auto &rows) { m_commands.replaceRows(rows); };
+    hooks.commandsUnmodified = [this] { m_commandsModified = false; };
+    hooks.messages = [this] { return m_log.rows(); };
+    return hooks;
+}
+
 void Dialog::setUpTimers()
 {
     connect(&m_timer1, &QTimer::timeout, this, &Dialog::Timer1_Out_Event);
-    connect(&m_timer2, &QTimer::timeout, this, &Dialog::Timer2_Out_Event);
-    m_timer2.setTimerType(Qt::PreciseTimer);
+    connect(&m_loop.timer(), &QTimer::timeout, this, &Dialog::Timer2_Out_Event);
     m_timer1.start(firstRefreshMs);
 }
 
 void Dialog::connectLinks()
 {
     connect(&m_serialLink, &SerialLink::arrived, this, &Dialog::serial_receiveData);
-    connect(&m_serialLink, &SerialLink::lost, this, &Dialog::endSerialLink);
+    connect(&m_serialLink, &SerialLink::lost, this, [this](const QString &reason) {
+        const QString port = m_serialLink.openPortName();
+        endSerialLink();
+        showMessage(tr("The connection to %1 is lost: %2").arg(port, reason));
+    });
+    connect(&m_hidLink, &HidLink::packetReceived, this, &Dialog::hid_receiveData);
+    connect(&m_hidLink, &HidLink::deviceDisconnected, this, &Dialog::Close_HidDevice_From_thread);
     connect(&m_receiver, &Receiver::frameReceived, this,
             [this](const QString &hexText) { m_log.appendReceived(hexText, withCrc()); });
     connect(&m_receiver, &Receiver::noticeReceived, this, &Dialog::logNotice);
@@ -156,17 +179,14 @@ void Dialog::connectSending()
     connect(&m_sender, &Sender::message, this, &Dialog::showMessage);
     connect(&m_sender, &Sender::sent, this,
             [this](const QString &hexText) { m_log.appendSent(hexText, withCrc()); });
-    connect(&m_loop, &SendLoop::passEnded, this, [this] { m_timer2.start(m_cycleDelayMs); });
-    connect(&m_loop, &SendLoop::foundNothing, this, [this] {
-        m_loopPanel.showNothingToSend();
-        showMessage(QStringLiteral("No thing to send"));
-    });
+    connect(&m_loop, &LoopControl::message, this, &Dialog::showMessage);
 }
 
 void Dialog::on_tabWidget_currentChanged(int index)
 {
     if (index == int(LinkMode::Uart)) {
         setLinkMode(LinkMode::Uart);
+        m_hidPanel.close();
     } else if (index == int(LinkMode::Hid)) {
         setLinkMode(LinkMode::Hid);
         m_serialPanel.close();
@@ -197,6 +217,26 @@ void Dialog::serial_receiveData()
     m_receiver.take(m_serialLink.readArrived());
 }
 
+void Dialog::on_pushButton_ConnectHID_clicked()
+{
+    if (m_hidLink.isOpen()) {
+        m_hidPanel.close();
+    } else if (!m_hidPanel.open()) {
+        QMessageBox::information(nullptr, QStringLiteral("HID"), QStringLiteral("Open fail"),
+                                 QMessageBox::Ok);
+    }
+}
+
+void Dialog::hid_receiveData(HidPacket packet)
+{
+    m_receiver.take(HidLink::readArrived(packet));
+}
+
+void Dialog::Close_HidDevice_From_thread()
+{
+    endHidLink();
+}
+
 void Dialog::SendOne()
 {
     takeCrcFlag();
@@ -217,27 +257,43 @@ void Dialog::on_pushButton_SendAll_2_clicked()
 void Dialog::on_pushButton_Start_Loop_clicked()
 {
     if (m_loop.isRunning()) {
-        stopLoop();
-    } else {
-        startLoop();
+        m_loop.stop();
+        return;
     }
+    takeCrcFlag();
+    m_loop.start(m_commands.checkedRows(), linkMode());
 }
 
 void Dialog::Timer1_Out_Event()
 {
     m_timer1.stop();
     m_serialPanel.refreshPorts(portsFolder());
+    m_hidPanel.refreshDevices();
 }
 
 void Dialog::Timer2_Out_Event()
 {
-    m_timer2.stop();
-    m_loop.runPass();
+    m_loop.tick();
 }
 
 void Dialog::on_pushButton_ClearMessage_clicked()
 {
     m_log.clear();
+}
+
+void Dialog::on_pushButton_SaveMessage_clicked()
+{
+    m_files.saveMessages();
+}
+
+void Dialog::on_pushButton_LoadCommand_clicked()
+{
+    m_files.loadCommands();
+}
+
+void Dialog::on_pushButton_SaveCommand_clicked()
+{
+    m_files.saveCommands();
 }
 
 void Dialog::on_pushButton_ClearCommand_clicked()
@@ -297,6 +353,16 @@ void Dialog::on_DataEnter()
     m_commands.goOnFromCurrentCell();
 }
 
+void Dialog::editor_dataIn()
+{
+    CommandRow edited;
+    edited.cmd = m_editor.editCmd;
+    edited.addr = m_editor.editAddr;
+    edited.data = m_editor.editData;
+    edited.dataType = m_editor.editType;
+    m_commands.takeEdited(m_rowActions.contextRow(), edited);
+}
+
 void Dialog::doMouseTrackTip(const QModelIndex &index)
 {
     if (index.column() == tipColumn) {
@@ -323,7 +389,7 @@ StartBytes Dialog::startBytes() const
 void Dialog::setLinkMode(LinkMode mode)
 {
     m_settings.linkMode = int(mode);
-    m_sender.setLink(&m_serialLink);
+    m_sender.setLink(mode == LinkMode::Uart ? static_cast<Link *>(&m_serialLink) : &m_hidLink);
 }
 
 StartBytes Dialog::readStartBytes()
@@ -356,49 +422,38 @@ void Dialog::openSerialPort()
     }
 }
 
-void Dialog::startLoop()
+void Dialog::editRow(int row)
 {
-    takeCrcFlag();
-    if (!m_sender.requireOpenLink()) {
-        return;
-    }
-    const LoopPlan plan = m_sender.planLoop(m_commands.checkedRows());
-    if (plan.tooManyEntries) {
-        showMessage(QStringLiteral("Too many order!"));
-        return;
-    }
-    if (!plan.overlongRows.isEmpty()) {
-        showMessage(overlongRowsMessage(plan.overlongRows));
-    }
-    if (plan.texts.isEmpty()) {
-        showMessage(QStringLiteral("Not a Command was selected to send!"));
-        return;
-    }
-    // The link may have been lost while a message was shown.
-    if (!m_sender.isLinkOpen()) {
-        return;
-    }
-    m_cycleDelayMs = m_loopPanel.cycleDelayMs();
-    m_loop.start(plan, m_loopPanel.intervalMs());
-    m_loopPanel.showRunning(linkMode());
-    m_timer2.start(m_cycleDelayMs);
+    const CommandRow content = m_commands.row(row);
+    m_editor.editCmd = content.cmd;
+    m_editor.editAddr = content.addr;
+    m_editor.editData = content.data;
+    m_editor.editType = content.dataType;
+    m_editor.loadFromMembers();
+    const QTableWidget &table = *m_form->tableWidget_Register;
+    placeBesideRow(m_editor, table, table.model()->index(row, CommandColumn::Cmd));
+    m_editor.setModal(true);
+    m_editor.show();
 }
 
-void Dialog::stopLoop()
+bool Dialog::userWantsToSave()
 {
-    if (m_loop.isRunning()) {
-        m_loop.stop();
-        m_timer2.stop();
-        m_loopPanel.showStopped(linkMode());
-    }
+    QMessageBox question(QMessageBox::Question, tr("Message"),
+                         QStringLiteral("Do you want to save your command?"),
+                         QMessageBox::Yes | QMessageBox::No);
+    return question.exec() == QMessageBox::Yes;
 }
 
-void Dialog::endSerialLink(const QString &reason)
+void Dialog::endSerialLink()
 {
-    const QString port = m_serialLink.openPortName();
-    stopLoop();
+    m_loop.stop();
     m_serialPanel.close();
-    showMessage(tr("The connection to %1 is lost: %2").arg(port, reason));
+}
+
+void Dialog::endHidLink()
+{
+    m_loop.stop();
+    m_hidPanel.close();
 }
 
 void Dialog::logNotice(const QString &hexText)

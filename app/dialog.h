@@ -1,14 +1,17 @@
 #pragma once
 
 #include "commandtable.h"
+#include "directeditor.h"
+#include "fileactions.h"
 #include "framesettings.h"
-#include "looppanel.h"
+#include "hidlink.h"
+#include "hidpanel.h"
+#include "loopcontrol.h"
 #include "messagelog.h"
 #include "receiver.h"
 #include "rowactions.h"
 #include "rowmenus.h"
 #include "sender.h"
-#include "sendloop.h"
 #include "seriallink.h"
 #include "serialpanel.h"
 #include "settings.h"
@@ -45,6 +48,9 @@ private slots:
     void on_comboBox_Comm_activated(int index);
     void on_comboBox_Baudrate_activated(int index);
     void serial_receiveData();
+    void on_pushButton_ConnectHID_clicked();
+    void hid_receiveData(HidPacket packet);
+    void Close_HidDevice_From_thread();
 
     void SendOne();
     void on_pushButton_SendAll_clicked();
@@ -54,6 +60,9 @@ private slots:
     void Timer2_Out_Event();
 
     void on_pushButton_ClearMessage_clicked();
+    void on_pushButton_SaveMessage_clicked();
+    void on_pushButton_LoadCommand_clicked();
+    void on_pushButton_SaveCommand_clicked();
     void on_pushButton_ClearCommand_clicked();
 
     void tableRegisterContexMenuRequested(const QPoint &pos);
@@ -66,6 +75,7 @@ private slots:
     void On_tableWidget_Register_textchange();
     void on_DataEdited();
     void on_DataEnter();
+    void editor_dataIn();
     void doMouseTrackTip(const QModelIndex &index);
 
 private:
@@ -76,6 +86,7 @@ private:
     void setUpWindow();
     void setUpCommands();
     void setUpMessages();
+    FileActionHooks fileHooks();
     void setUpTimers();
     void connectLinks();
     void connectSending();
@@ -87,9 +98,10 @@ private:
     void showMessage(const QString &text);
 
     void openSerialPort();
-    void startLoop();
-    void stopLoop();
-    void endSerialLink(const QString &reason);
+    void editRow(int row);
+    bool userWantsToSave();
+    void endSerialLink();
+    void endHidLink();
     void logNotice(const QString &hexText);
 
     std::unique_ptr<Ui::Dialog> m_form;
@@ -97,19 +109,20 @@ private:
     Settings m_settings;
     int m_crcFlag = 0;
     int m_maximumInstructionLength;
-    int m_cycleDelayMs = 0;
     bool m_commandsModified = false;
 
     SerialLink m_serialLink;
     SerialPanel m_serialPanel;
-    LoopPanel m_loopPanel;
+    HidLink m_hidLink;
+    HidPanel m_hidPanel;
     CommandTable m_commands;
     RowActions m_rowActions;
     std::unique_ptr<RowMenus> m_menus;
+    DirectEditor m_editor;
     MessageLog m_log;
+    FileActions m_files;
     Receiver m_receiver;
     Sender m_sender;
-    SendLoop m_loop;
+    LoopControl m_loop;
     QTimer m_timer1;
-    QTimer m_timer2;
 };

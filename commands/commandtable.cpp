@@ -1,7 +1,9 @@
 #include "commandtable.h"
 
+#include "addrdelegate.h"
 #include "cellwidgets.h"
 #include "commandcolumns.h"
+#include "datadelegate.h"
 #include "hextext.h"
 #include "tableitems.h"
 #include "tablelook.h"
@@ -42,6 +44,7 @@ CommandTable::CommandTable(QTableWidget &table, QObject *selectCellFilter, QObje
     m_table.setColumnHidden(Column::DataType, true);
     m_table.setColumnHidden(Column::OriginalData, true);
     m_table.blockSignals(false);
+    installDelegates();
 }
 
 bool CommandTable::insertEmptyRow(int row)
@@ -205,6 +208,19 @@ void CommandTable::takeEdited(int row, const CommandRow &edited)
     setCentredItem(m_table, row, Column::Addr, edited.addr);
     setLeftItem(m_table, row, Column::Data, groupPairsFromRight(edited.data));
     setCentredItem(m_table, row, Column::DataType, edited.dataType);
+}
+
+void CommandTable::installDelegates()
+{
+    auto *addrDelegate = new AddrDelegate(parent());
+    auto *dataDelegate = new DataDelegate(parent());
+    addrDelegate->installEventFilter(addrDelegate);
+    dataDelegate->installEventFilter(dataDelegate);
+    m_table.setItemDelegateForColumn(Column::Addr, addrDelegate);
+    m_table.setItemDelegateForColumn(Column::Data, dataDelegate);
+    connect(addrDelegate, &AddrDelegate::AfterCommitData, this, &CommandTable::addressCommitted);
+    connect(addrDelegate, &AddrDelegate::enterdata, this, &CommandTable::enterPressed);
+    connect(dataDelegate, &DataDelegate::enterdata, this, &CommandTable::enterPressed);
 }
 
 void CommandTable::insertFilledRow(int row, const CommandRow &content)

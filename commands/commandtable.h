@@ -70,7 +70,14 @@ signals:
     /// A row's send button was clicked.
     void sendRequested();
 
+    /// The address in the current cell was edited. Edited data are not announced like this.
+    void addressCommitted();
+
+    /// Enter ended the editing of the current cell.
+    void enterPressed();
+
 private:
+    void installDelegates();
     void insertFilledRow(int row, const CommandRow &content);
     void fillRow(int row, const CommandRow &content);
     void moveByCopy(int from, int to);

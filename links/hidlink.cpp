@@ -4,11 +4,14 @@
 #include "reports.h"
 
 #include <QCoreApplication>
+#include <QThread>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
+
+constexpr unsigned long settleMs = 2;
 
 HidPacket makePacket(quint8 reportId, const QByteArray &report)
 {
@@ -73,6 +76,13 @@ void HidLink::close()
     // What is still on its way must not be taken for something of the next device.
     QCoreApplication::removePostedEvents(&m_receiver);
     m_thread.close();
+}
+
+QByteArray HidLink::readArrived(const HidPacket &packet)
+{
+    QThread::msleep(settleMs);
+    const int length = qBound(0, packet.length, longestReport);
+    return {reinterpret_cast<const char *>(&packet.data[1]), length};
 }
 
 QString HidLink::closedMessage() const

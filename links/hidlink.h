@@ -27,6 +27,9 @@ public:
     /// Stops the worker and closes the device. Nothing that the device had sent is signalled after.
     void close();
 
+    /// The data of a report that has arrived, 2 ms after it did.
+    static QByteArray readArrived(const HidPacket &packet);
+
     bool isOpen() const override { return m_thread.isOpen(); }
     QString closedMessage() const override;
     int longestInstruction() const override { return 255; }

@@ -77,12 +77,18 @@ int SerialLink::longestInstruction() const
 void SerialLink::write(const QByteArray &block)
 {
     m_port.write(block);
-    m_port.flush();
+    // Not flush(): to a port that takes nothing just now, it fails for good.
+    writeOut(0);
 }
 
 void SerialLink::waitForWritten()
 {
-    const QDeadlineTimer deadline(writtenMs);
+    writeOut(writtenMs);
+}
+
+void SerialLink::writeOut(int milliseconds)
+{
+    const QDeadlineTimer deadline(milliseconds);
     m_waitsForWritten = true;
     while (m_port.bytesToWrite() > 0 &&
            m_port.waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) {

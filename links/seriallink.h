@@ -54,6 +54,7 @@ signals:
     void lost(const QString &reason);
 
 private:
+    void writeOut(int milliseconds);
     void onReadyRead();
     void onError(QSerialPort::SerialPortError error);
     void reportLoss(const QString &reason);

@@ -72,14 +72,16 @@ void MessageLog::clear()
     bringIn();
 }
 
-QStringList MessageLog::rowTexts(int row)
+QVector<std::array<QString, 7>> MessageLog::rows()
 {
     bringIn();
-    QStringList texts;
-    for (int column = 0; column < filledColumns; ++column) {
-        texts.append(cellText(m_table, row, column));
+    QVector<std::array<QString, filledColumns>> all(m_count);
+    for (int row = 0; row < m_count; ++row) {
+        for (int column = 0; column < filledColumns; ++column) {
+            all[row][static_cast<size_t>(column)] = cellText(m_table, row, column);
+        }
     }
-    return texts;
+    return all;
 }
 
 void MessageLog::bringIn()

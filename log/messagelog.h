@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QVector>
 
+#include <array>
+
 class QTableWidget;
 
 /// The message log: a row for each frame sent or received, numbered, in a table that empties
@@ -42,8 +44,8 @@ public:
     /// Rows that are filled.
     int count() const { return m_count; }
 
-    /// The texts of columns 0 to 6 of a filled row.
-    QStringList rowTexts(int row);
+    /// The texts of columns 0 to 6 of all filled rows.
+    QVector<std::array<QString, 7>> rows();
 
     /// Brings rows that wait for the display into the table.
     void bringIn();

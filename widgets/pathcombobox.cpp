@@ -8,8 +8,8 @@ void PathComboBox::paintEvent(QPaintEvent * /*event*/)
     QStyleOptionComboBox option;
     initStyleOption(&option);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                               QStyle::SC_ComboBoxEditField, this);
+    const QRect room =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
     option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideLeft, room.width());
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

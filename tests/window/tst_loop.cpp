@@ -241,6 +241,8 @@ void TestLoop::aLostPortEndsTheLoop()
 
 void TestLoop::closingTheWindowEndsTheLoop()
 {
+    MessageBoxes boxes;
+    boxes.answerWith(QMessageBox::No);
     LoopWindow window("5", "5", "1");
     window.click("pushButton_Start_Loop");
     QTRY_VERIFY(window.messageCount() >= 2);

@@ -1,0 +1,76 @@
+#include "hidpanel.h"
+
+#include "hidlink.h"
+#include "styles.h"
+#include "ui_dialog.h"
+
+#include <QStandardItemModel>
+
+namespace {
+
+constexpr int hexBase = 16;
+
+/// The paths, each with itself as tool tip, so that a long one can be read in full.
+QStandardItemModel *modelOf(const QStringList &paths, QObject *owner)
+{
+    auto *model = new QStandardItemModel(owner);
+    for (const QString &path : paths) {
+        auto *item = new QStandardItem(path);
+        item->setToolTip(path);
+        model->appendRow(item);
+    }
+    return model;
+}
+
+} // namespace
+
+HidPanel::HidPanel(Ui::Dialog &form, HidLink &link, QObject *parent)
+    : QObject(parent)
+    , m_form(form)
+    , m_link(link)
+{
+    showIdle(*m_form.pushButton_ConnectHID, tr("Open HID Device"));
+}
+
+void HidPanel::refreshDevices()
+{
+    QComboBox &box = *m_form.comboBox_Hid_Device;
+    const QStringList paths = m_link.listDevices();
+    const int chosen = paths.indexOf(box.currentText());
+    // The box frees the model that it had, since that one was its own, too.
+    box.setModel(modelOf(paths, &box));
+    if (chosen >= 0) {
+        box.setCurrentIndex(chosen);
+    }
+}
+
+bool HidPanel::open()
+{
+    const auto reportId =
+        static_cast<quint8>(m_form.lineEdit_RpID->text().toUInt(nullptr, hexBase));
+    close();
+    if (!m_link.open(m_form.comboBox_Hid_Device->currentText(), reportId)) {
+        return false;
+    }
+    showOpen(true);
+    return true;
+}
+
+void HidPanel::close()
+{
+    if (m_link.isOpen()) {
+        m_link.close();
+        showOpen(false);
+    }
+}
+
+void HidPanel::showOpen(bool open)
+{
+    if (open) {
+        showBusy(*m_form.pushButton_ConnectHID, tr("Linking..."));
+    } else {
+        showIdle(*m_form.pushButton_ConnectHID, tr("Open HID Device"));
+    }
+    m_form.lineEdit_RpID->setEnabled(!open);
+    m_form.comboBox_Hid_Device->setEnabled(!open);
+}

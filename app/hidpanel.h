@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+
+namespace Ui {
+class Dialog;
+}
+class HidLink;
+
+/// The "HID" tab: the list of devices, and the device opened as the tab says.
+class HidPanel : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Form and link must outlive the panel.
+    HidPanel(Ui::Dialog &form, HidLink &link, QObject *parent = nullptr);
+
+    /// Lists the attached devices anew; the one that was chosen stays so if it is still there.
+    void refreshDevices();
+
+    /// Opens the chosen device, closing an open one first. Returns whether that succeeded.
+    bool open();
+
+    /// Closes the device, if one is open.
+    void close();
+
+private:
+    void showOpen(bool open);
+
+    Ui::Dialog &m_form;
+    HidLink &m_link;
+};
