@@ -75,9 +75,9 @@ void TestFrameBuilder::payloads_data()
     add("literal alone", "\"AB\"", "41 42");
     add("blank in a literal", "\"A B\"", "41 20 42");
     add("slash in a literal", "\"A/B\" 01", "41 2f 42 01");
-    add("digits in a literal", "\"123\"", "31 32 33");
+    add("digits in a literal", R"("123")", "31 32 33");
     add("control characters in a literal", "\"\t\n\x7F\"", "09 0a 7f");
-    add("two literals", "\"A\"\"B\"", "41 42");
+    add("two literals", R"("A""B")", "41 42");
     add("empty literal", "01 \"\" 02", "01 02");
     add("no closing quote", "01 \"AB 0", "01 41 42 20 30");
     add("no closing quote, slash", "\"A/B", "41 2f 42");

@@ -17,6 +17,7 @@ private slots:
     void fastModeSendsBlocks();
     void fastModeWithoutPauseEndsAtOnce();
     void intervalModeSendsRowByRow();
+    void manyShortIntervalsAreWhole();
     void intervalModeAddsPauses();
     void textsWithoutPauseAreSkipped_data();
     void textsWithoutPauseAreSkipped();
@@ -159,6 +160,23 @@ void TestSendLoop::intervalModeSendsRowByRow()
     QVERIFY(bench.gapBefore(2) >= 20 * nsPerMs);
     QVERIFY(bench.endedAtNs - bench.link.writtenAtNs.last() >= 20 * nsPerMs);
     QVERIFY(bench.loop.isRunning());
+}
+
+void TestSendLoop::manyShortIntervalsAreWhole()
+{
+    constexpr int rows = 40;
+    constexpr int intervalMs = 2;
+    QStringList texts;
+    for (int i = 0; i < rows; ++i) {
+        texts.append(QStringLiteral("01"));
+    }
+    Bench bench;
+    bench.run(texts, intervalMs);
+    QTRY_COMPARE(bench.passEnded.size(), 1);
+    QCOMPARE(bench.link.blocks.size(), rows);
+    for (int block = 1; block < rows; ++block) {
+        QVERIFY(bench.gapBefore(block) >= intervalMs * nsPerMs);
+    }
 }
 
 void TestSendLoop::intervalModeAddsPauses()

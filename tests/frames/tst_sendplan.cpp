@@ -63,7 +63,7 @@ QString described(const QVector<QueueEntry> &queue)
 
 QString digits(int count)
 {
-    return QString(count, QLatin1Char('1'));
+    return QStringLiteral("1").repeated(count);
 }
 
 } // namespace
