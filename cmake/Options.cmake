@@ -25,3 +25,7 @@ if(TARNWICK_SANITIZE)
     -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${TARNWICK_SANITIZE})
 endif()
+
+if(TARNWICK_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

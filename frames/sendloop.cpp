@@ -29,6 +29,7 @@ void SendLoop::stop()
     m_running = false;
     m_inPass = false;
     m_sentCount = 0;
+    ++m_stops;
 }
 
 void SendLoop::runPass()
@@ -48,19 +49,21 @@ void SendLoop::runPass()
 
 void SendLoop::goOn()
 {
+    const unsigned stops = m_stops;
     m_sinceHandOver.start();
-    while (m_inPass && !isPassDone()) {
+    while (!isPassDone()) {
         const int pauseMs = m_intervalMs > 0 ? sendTextStep() : sendBlockStep();
-        // A message shown while sending may have let in a stop, or even a new start.
-        if (m_inPass && pauseMs > 0) {
+        // A message shown while sending may have let in a stop, and even a new start.
+        if (stops != m_stops) {
+            return;
+        }
+        if (pauseMs > 0) {
             waitSinceHandOver(pauseMs);
             return;
         }
     }
-    if (m_inPass) {
-        m_inPass = false;
-        emit passEnded();
-    }
+    m_inPass = false;
+    emit passEnded();
 }
 
 bool SendLoop::isPassDone() const
@@ -83,10 +86,10 @@ int SendLoop::sendTextStep()
     if (isDelay(text)) {
         return delayMilliseconds(text);
     }
+    ++m_sentCount;
     if (!m_sender.sendText(text)) {
         m_sinceHandOver.start();
     }
-    ++m_sentCount;
     return m_intervalMs;
 }
 

@@ -24,7 +24,7 @@ public:
 
     bool isRunning() const { return m_running; }
 
-    /// Frames sent in interval mode since the start.
+    /// Rows sent in interval mode since the start; 0 when the loop is stopped.
     int sentCount() const { return m_sentCount; }
 
     /// Marks the loop as running; an interval in ms of 0 selects the prepared blocks.
@@ -57,6 +57,7 @@ private:
     bool m_inPass = false;
     int m_step = 0;
     int m_sentCount = 0;
+    unsigned m_stops = 0;
     QElapsedTimer m_sinceHandOver;
     QTimer m_wait;
 };

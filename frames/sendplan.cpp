@@ -123,14 +123,11 @@ QStringList splitBlockText(const QString &blockText, const QString &startBytesTe
     int begin = 0;
     int found = blockText.indexOf(startBytesText);
     while (found >= 0) {
-        const int next = blockText.indexOf(startBytesText, found + charactersToNextFrame);
-        const int end = next < 0 ? blockText.size() : next;
-        pieces.append(blockText.mid(begin, end - begin));
-        begin = end;
-        found = next;
+        if (found > begin) {
+            pieces.append(blockText.mid(begin, found - begin));
+        }
+        begin = found;
+        found = blockText.indexOf(startBytesText, found + charactersToNextFrame);
     }
-    if (pieces.isEmpty()) {
-        pieces.append(blockText);
-    }
-    return pieces;
+    return pieces << blockText.mid(begin);
 }

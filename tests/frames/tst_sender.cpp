@@ -1,0 +1,338 @@
+#include "fakeframesettings.h"
+#include "fakelink.h"
+#include "sender.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+class TestSender : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void oneFrame();
+    void oneWithCrc();
+    void oneOverAClosedLink();
+    void oneWithNothingToSend_data();
+    void oneWithNothingToSend();
+    void oneOfADelayRow();
+    void oneTooLong_data();
+    void oneTooLong();
+    void warningComesBeforeTheFrame();
+    void oneWhoseLinkClosesDuringAMessage();
+    void oneReadsTheLayoutOnce();
+
+    void allInOneWrite();
+    void allOverAClosedLink();
+    void allOfNothing();
+    void allLeavesOverlongRowsOut();
+    void allOverlong();
+    void allWaitsBehindTheLog();
+    void allWhoseLinkClosesDuringAMessage();
+    void allReadsTheLayoutForEachRow();
+    void allWithoutStartBytesIsOneLogRow();
+    void allCutsAtStartBytesInPayloads();
+
+    void loopPlanChecksNoLink();
+    void textHandedOverBeforeItIsLogged();
+    void blockHandedOverBeforeItIsLogged();
+    void linkCanBeExchanged();
+};
+
+namespace {
+
+/// A sender on a fake link, with all it says in one list.
+class Bench
+{
+public:
+    Bench()
+    {
+        sender.setLink(&link);
+        QObject::connect(&sender, &Sender::message, &sender,
+                         [this](const QString &text) { said.append("message " + text); });
+        QObject::connect(&sender, &Sender::handedOver, &sender,
+                         [this] { said.append("handed over"); });
+        QObject::connect(&sender, &Sender::sent, &sender,
+                         [this](const QString &text) { said.append("sent " + text); });
+    }
+
+    FakeFrameSettings settings;
+    FakeLink link;
+    Sender sender{settings};
+    QStringList said;
+};
+
+QString warning(int length)
+{
+    return QStringLiteral("message Instruction length %1 is out of the maximum range,<br> "
+                          "sending errors may occur!")
+        .arg(length);
+}
+
+QString bytes(int count)
+{
+    return QStringLiteral("42").repeated(count);
+}
+
+} // namespace
+
+void TestSender::oneFrame()
+{
+    Bench bench;
+    bench.sender.sendOne("010203");
+    QCOMPARE(bench.link.blocks, QVector<QByteArray>{QByteArray::fromHex("5aa503010203")});
+    QCOMPARE(bench.link.calls, (QStringList{"write", "wait"}));
+    QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 03 01 02 03 "}));
+}
+
+void TestSender::oneWithCrc()
+{
+    Bench bench;
+    bench.settings.layout.withCrc = true;
+    bench.sender.sendOne("010300000001");
+    QCOMPARE(bench.said.last(), QString("sent 5A A5 08 01 03 00 00 00 01 84 0A "));
+}
+
+void TestSender::oneOverAClosedLink()
+{
+    Bench bench;
+    bench.link.open = false;
+    bench.sender.sendOne(bytes(70000));
+    QCOMPARE(bench.said, QStringList{"message closed"});
+    QVERIFY(bench.link.calls.isEmpty());
+    QCOMPARE(bench.settings.layoutsRead, 0);
+}
+
+void TestSender::oneWithNothingToSend_data()
+{
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("empty") << QString();
+    QTest::newRow("odd") << "012";
+    QTest::newRow("comment") << "/01";
+}
+
+void TestSender::oneWithNothingToSend()
+{
+    QFETCH(QString, text);
+    Bench bench;
+    bench.sender.sendOne(text);
+    QCOMPARE(bench.said, QStringList{"message No thing to send!"});
+    QVERIFY(bench.link.calls.isEmpty());
+}
+
+void TestSender::oneOfADelayRow()
+{
+    Bench bench;
+    bench.sender.sendOne("++1000");
+    QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 03 00 10 00 "}));
+}
+
+void TestSender::oneTooLong_data()
+{
+    QTest::addColumn<int>("longest");
+    QTest::addColumn<int>("payloadBytes");
+    QTest::addColumn<bool>("withCrc");
+    QTest::addColumn<int>("warned");
+
+    QTest::newRow("fits") << 255 << 255 << false << 0;
+    QTest::newRow("one more") << 255 << 256 << false << 256;
+    QTest::newRow("fits with CRC") << 255 << 253 << true << 0;
+    QTest::newRow("one more with CRC") << 255 << 254 << true << 256;
+    QTest::newRow("300") << 255 << 300 << false << 300;
+    QTest::newRow("300 with CRC") << 255 << 300 << true << 302;
+    QTest::newRow("large fits") << 65535 << 65535 << false << 0;
+    QTest::newRow("large, one more") << 65535 << 65536 << false << 65536;
+    QTest::newRow("large fits with CRC") << 65535 << 65533 << true << 0;
+    QTest::newRow("large, one more with CRC") << 65535 << 65534 << true << 65536;
+}
+
+void TestSender::oneTooLong()
+{
+    QFETCH(int, longest);
+    QFETCH(int, payloadBytes);
+    QFETCH(bool, withCrc);
+    QFETCH(int, warned);
+    Bench bench;
+    bench.link.longest = longest;
+    bench.settings.layout.withCrc = withCrc;
+    bench.sender.sendOne(bytes(payloadBytes));
+    QCOMPARE(bench.said.value(0), warned > 0 ? warning(warned) : QString("handed over"));
+    QCOMPARE(bench.link.blocks.size(), 1);
+    QCOMPARE(bench.link.blocks.at(0).size(), 3 + payloadBytes + (withCrc ? 2 : 0));
+}
+
+void TestSender::warningComesBeforeTheFrame()
+{
+    Bench bench;
+    bench.link.longest = 1;
+    bool warnedFirst = false;
+    QObject::connect(&bench.sender, &Sender::message, &bench.sender,
+                     [&] { warnedFirst = bench.link.calls.isEmpty(); });
+    bench.sender.sendOne("0102");
+    QVERIFY(warnedFirst);
+    QCOMPARE(bench.said, (QStringList{warning(2), "handed over", "sent 5A A5 02 01 02 "}));
+}
+
+void TestSender::oneWhoseLinkClosesDuringAMessage()
+{
+    Bench bench;
+    bench.settings.onNextLayout = [&] { bench.link.open = false; };
+    bench.sender.sendOne("0102");
+    QVERIFY(bench.link.calls.isEmpty());
+    QVERIFY(bench.said.isEmpty());
+}
+
+void TestSender::oneReadsTheLayoutOnce()
+{
+    Bench bench;
+    bench.sender.sendOne("0102");
+    QCOMPARE(bench.settings.layoutsRead, 1);
+    bench.sender.sendOne("012");
+    QCOMPARE(bench.settings.layoutsRead, 2);
+}
+
+void TestSender::allInOneWrite()
+{
+    Bench bench;
+    bench.sender.sendAll({{1, "01"}, {2, "++5000"}, {4, "0203"}});
+    QCOMPARE(bench.link.blocks, QVector<QByteArray>{QByteArray::fromHex("5aa501015aa5020203")});
+    QCOMPARE(bench.link.calls, (QStringList{"write", "wait"}));
+    QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 ", "sent 5A A5 02 02 03 "}));
+}
+
+void TestSender::allOverAClosedLink()
+{
+    Bench bench;
+    bench.link.open = false;
+    bench.sender.sendAll({{1, "01"}});
+    QCOMPARE(bench.said, QStringList{"message closed"});
+    QVERIFY(bench.link.calls.isEmpty());
+    QCOMPARE(bench.settings.layoutsRead, 0);
+}
+
+void TestSender::allOfNothing()
+{
+    const QVector<QVector<CheckedRow>> selections{{}, {{1, "++10"}}, {{1, "012"}, {2, "/"}}};
+    for (const QVector<CheckedRow> &rows : selections) {
+        Bench bench;
+        bench.sender.sendAll(rows);
+        QCOMPARE(bench.said, QStringList{"message Not thing to send!"});
+        QVERIFY(bench.link.calls.isEmpty());
+    }
+}
+
+void TestSender::allLeavesOverlongRowsOut()
+{
+    Bench bench;
+    bench.sender.sendAll({{2, bytes(65533)}, {3, "01"}, {6, bytes(70000)}});
+    QCOMPARE(bench.said, (QStringList{"message row: 2 6 instruction length is out of the maximum "
+                                      "range, sending errors may occur!",
+                                      "handed over", "sent 5A A5 01 01 "}));
+    QCOMPARE(bench.settings.layoutsRead, 1);
+}
+
+void TestSender::allOverlong()
+{
+    Bench bench;
+    bench.sender.sendAll({{5, bytes(70000)}});
+    QCOMPARE(bench.said, (QStringList{"message row: 5 instruction length is out of the maximum "
+                                      "range, sending errors may occur!",
+                                      "message Not thing to send!"}));
+}
+
+void TestSender::allWaitsBehindTheLog()
+{
+    Bench bench;
+    int saidBefore = 0;
+    bench.link.whileWaiting = [&] { saidBefore = bench.said.size(); };
+    bench.sender.sendAll({{1, "01"}, {2, "02"}});
+    QCOMPARE(saidBefore, 3);
+    QCOMPARE(bench.said.size(), 3);
+}
+
+void TestSender::allWhoseLinkClosesDuringAMessage()
+{
+    Bench bench;
+    bench.settings.onNextLayout = [&] { bench.link.open = false; };
+    bench.sender.sendAll({{1, "01"}});
+    QVERIFY(bench.link.blocks.isEmpty());
+    QVERIFY(bench.said.isEmpty());
+}
+
+void TestSender::allReadsTheLayoutForEachRow()
+{
+    Bench bench;
+    bench.settings.onNextLayout = [&] {
+        bench.settings.layout.startBytes.first = static_cast<quint8>(bench.settings.layoutsRead);
+    };
+    bench.sender.sendAll({{1, "01"}, {2, "++1"}, {3, "02"}});
+    QCOMPARE(bench.settings.layoutsRead, 2);
+    QCOMPARE(bench.link.blocks, QVector<QByteArray>{QByteArray::fromHex("01a5010102a50102")});
+}
+
+void TestSender::allWithoutStartBytesIsOneLogRow()
+{
+    Bench bench;
+    bench.settings.layout.withStartBytes = false;
+    bench.sender.sendAll({{1, "01"}, {2, "02"}});
+    QCOMPARE(bench.said, (QStringList{"handed over", "sent 01 01 01 02 "}));
+}
+
+void TestSender::allCutsAtStartBytesInPayloads()
+{
+    Bench bench;
+    bench.sender.sendAll({{1, "5AA501"}, {2, "02"}});
+    QCOMPARE(bench.link.blocks.size(), 1);
+    QCOMPARE(bench.said,
+             (QStringList{"handed over", "sent 5A A5 03 ", "sent 5A A5 01 ", "sent 5A A5 01 02 "}));
+}
+
+void TestSender::loopPlanChecksNoLink()
+{
+    Bench bench;
+    bench.link.open = false;
+    bench.settings.layout.withCrc = true;
+    const LoopPlan plan = bench.sender.planLoop({{1, "010300000001"}, {2, bytes(65531)}});
+    QCOMPARE(plan.overlongRows, QVector<int>{2});
+    QCOMPARE(plan.queue.size(), 1);
+    QCOMPARE(plan.queue.at(0).block.toHex(' '), QByteArray("5a a5 08 01 03 00 00 00 01 84 0a"));
+    QVERIFY(bench.said.isEmpty());
+}
+
+void TestSender::textHandedOverBeforeItIsLogged()
+{
+    Bench bench;
+    QVERIFY(bench.sender.sendText("01"));
+    QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 "}));
+    QVERIFY(!bench.sender.sendText("1"));
+    bench.link.open = false;
+    QVERIFY(!bench.sender.sendText("01"));
+    QCOMPARE(bench.link.blocks.size(), 1);
+}
+
+void TestSender::blockHandedOverBeforeItIsLogged()
+{
+    Bench bench;
+    bench.sender.sendBlock(QByteArray::fromHex("5aa501015aa50102"));
+    QCOMPARE(bench.link.calls, QStringList{"write"});
+    QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 ", "sent 5A A5 01 02 "}));
+}
+
+void TestSender::linkCanBeExchanged()
+{
+    Bench bench;
+    FakeLink other;
+    bench.sender.setLink(&other);
+    bench.link.open = false;
+    QVERIFY(bench.sender.isLinkOpen());
+    bench.sender.sendOne("01");
+    QCOMPARE(other.blocks.size(), 1);
+    QVERIFY(bench.link.calls.isEmpty());
+    other.open = false;
+    QVERIFY(!bench.sender.requireOpenLink());
+    QCOMPARE(bench.said.last(), QString("message closed"));
+}
+
+QTEST_APPLESS_MAIN(TestSender)
+#include "tst_sender.moc"
