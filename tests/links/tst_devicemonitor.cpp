@@ -28,12 +28,12 @@ class Told : public QStringList
 public:
     explicit Told(const DeviceMonitor &monitor)
     {
-        QObject::connect(&monitor, &DeviceMonitor::arrived, [this](DeviceKind kind, QString name) {
-            append("+ " + text(kind) + name);
-        });
-        QObject::connect(&monitor, &DeviceMonitor::removed, [this](DeviceKind kind, QString name) {
-            append("- " + text(kind) + name);
-        });
+        QObject::connect(
+            &monitor, &DeviceMonitor::arrived,
+            [this](DeviceKind kind, const QString &name) { append("+ " + text(kind) + name); });
+        QObject::connect(
+            &monitor, &DeviceMonitor::removed,
+            [this](DeviceKind kind, const QString &name) { append("- " + text(kind) + name); });
         QObject::connect(&monitor, &DeviceMonitor::refreshNeeded, [this] { append("refresh"); });
     }
 
