@@ -1,7 +1,7 @@
 #include "naturalorder.h"
 #include "portlist.h"
+#include "portsfolder.h"
 
-#include <QDir>
 #include <QSerialPortInfo>
 
 #include <algorithm>
@@ -18,23 +18,9 @@ QStringList systemPorts()
     return names;
 }
 
-/// A link whose target is gone is no port; QDir lists it as a system file and leaves it out here.
-QStringList linkedPorts(const QString &folder)
-{
-    QStringList paths;
-    for (const QFileInfo &entry :
-         QDir(folder).entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
-        if (entry.isSymLink() && entry.exists()) {
-            paths.append(entry.absoluteFilePath());
-        }
-    }
-    std::sort(paths.begin(), paths.end(), naturallyBefore);
-    return paths;
-}
-
 } // namespace
 
 PortList listPorts(const QString &linksFolder)
 {
-    return {systemPorts() + linkedPorts(linksFolder)};
+    return {systemPorts() + linkedPortNames(linksFolder)};
 }

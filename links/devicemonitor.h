@@ -1,0 +1,53 @@
+#pragma once
+
+#include "watcheddevice.h"
+
+#include <QElapsedTimer>
+#include <QFileSystemWatcher>
+#include <QHash>
+#include <QMap>
+#include <QObject>
+
+#include <memory>
+
+class SystemWatch;
+
+/// Tells when serial ports and HID devices come and go: those that the system announces, and the
+/// links in a folder that are used like serial ports.
+class DeviceMonitor : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The folder must be there when watching starts.
+    explicit DeviceMonitor(QString portsFolder, QObject *parent = nullptr);
+    ~DeviceMonitor() override;
+
+    /// Begins to watch; what is there already is not announced. Returns false when the system
+    /// doesn't let us watch its devices; the folder is watched all the same.
+    bool start();
+
+    /// Whether a device came within the last so many milliseconds and is still there. It is named
+    /// as it is opened, by port name or HID device path.
+    bool arrivedWithin(const QString &path, int milliseconds) const;
+
+signals:
+    /// A port (by name; links by absolute path) or a HID device (by a path with its IDs, such as
+    /// "/dev/hidraw0#VID_EEEF&PID_1616") has come.
+    void arrived(DeviceKind kind, const QString &name);
+    /// One has gone, by the name that it had on arrival.
+    void removed(DeviceKind kind, const QString &name);
+    /// More has happened than could be told; the device lists are to be read again.
+    void refreshNeeded();
+
+private:
+    void announceArrival(const WatchedDevice &device);
+    void announceRemoval(const WatchedDevice &device);
+    void comparePorts();
+
+    QString m_portsFolder;
+    QFileSystemWatcher m_folderWatcher;
+    QMap<QString, QString> m_linkedPorts;
+    std::unique_ptr<SystemWatch> m_system;
+    QHash<QString, QElapsedTimer> m_arrivals;
+};
