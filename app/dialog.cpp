@@ -1,9 +1,7 @@
 #include "dialog.h"
 
-#include "commandcolumns.h"
 #include "datafolder.h"
 #include "fieldcutter.h"
-#include "placement.h"
 #include "styles.h"
 #include "ui_dialog.h"
 #include "version.h"
@@ -21,6 +19,7 @@ constexpr int longestMs = 10000;
 constexpr int commandStretch = 10;
 constexpr int messageStretch = 8;
 constexpr int tipColumn = 5;
+constexpr int refreshAfterEventMs = 500;
 
 } // namespace
 
@@ -44,17 +43,19 @@ Dialog::Dialog(QWidget *parent)
     , m_settingsFile(dataFile(QStringLiteral("debuggerConfig.ini")))
     , m_settings(m_settingsFile.load())
     , m_maximumInstructionLength(longestInstruction)
+    , m_frameOptions(*m_form, m_settings, m_maximumInstructionLength, this)
     , m_serialLink(FrameReassembler::capacity - FrameReassembler::longestFrame, this)
     , m_serialPanel(*m_form, m_serialLink, this)
     , m_hidLink(dataFile(QStringLiteral("hidDeviceID.ini")), this)
     , m_hidPanel(*m_form, m_hidLink, this)
     , m_commands(*m_form->tableWidget_Register, this, this)
     , m_rowActions(*m_form->tableWidget_Register, m_commands, this)
-    , m_editor(this)
+    , m_rowEditor(*m_form->tableWidget_Register, m_commands, this)
     , m_log(*m_form->tableWidget_Message, this)
+    , m_devices(m_serialLink, m_hidLink, m_log, this)
     , m_files(this, dataFolder(), fileHooks())
-    , m_receiver([this] { return readStartBytes(); }, this)
-    , m_sender(*this, this)
+    , m_receiver([this] { return m_frameOptions.readStartBytes(); }, this)
+    , m_sender(m_frameOptions, this)
     , m_loop(*m_form, m_sender, this)
 {
     setUpWindow();
@@ -63,6 +64,7 @@ Dialog::Dialog(QWidget *parent)
     setUpCommands();
     setUpMessages();
     setUpTimers();
+    watchDevices();
     m_files.setLastLoadFolder(m_settings.lastLoadPath);
     m_files.setLastSaveFolder(m_settings.lastSavePath);
     m_hidLink.readDeviceTypes();
@@ -78,7 +80,7 @@ Dialog::~Dialog()
 void Dialog::closeEvent(QCloseEvent *event)
 {
     if (m_commandsModified && userWantsToSave()) {
-        // SAVE
+        m_files.saveCommands();
     }
     m_loop.stop();
     m_settings.lastLoadPath = m_files.lastLoadFolder();
@@ -123,9 +125,9 @@ void Dialog::setUpCommands()
             &Dialog::tableRegisterContexMenuRequested);
     connect(&m_rowActions, &RowActions::refused, this, &Dialog::showMessage);
     connect(&m_rowActions, &RowActions::modified, this, [this] { m_commandsModified = true; });
-    connect(&m_rowActions, &RowActions::editRequested, this, &Dialog::editRow);
-    connect(&m_editor, &DirectEditor::SendData, this, &Dialog::editor_dataIn);
-    connect(&m_editor, &DirectEditor::unencodableTyped, this, &Dialog::showMessage,
+    connect(&m_rowActions, &RowActions::editRequested, &m_rowEditor, &RowEditor::open);
+    connect(&m_rowEditor.editor(), &DirectEditor::SendData, this, &Dialog::editor_dataIn);
+    connect(&m_rowEditor.editor(), &DirectEditor::unencodableTyped, this, &Dialog::showMessage,
             Qt::QueuedConnection);
     connect(&m_commands, &CommandTable::sendRequested, this, &Dialog::SendOne);
 
@@ -169,16 +171,33 @@ void Dialog::connectLinks()
     });
     connect(&m_hidLink, &HidLink::packetReceived, this, &Dialog::hid_receiveData);
     connect(&m_hidLink, &HidLink::deviceDisconnected, this, &Dialog::Close_HidDevice_From_thread);
-    connect(&m_receiver, &Receiver::frameReceived, this,
-            [this](const QString &hexText) { m_log.appendReceived(hexText, withCrc()); });
+    connect(&m_receiver, &Receiver::frameReceived, this, [this](const QString &hexText) {
+        m_log.appendReceived(hexText, m_frameOptions.withCrc());
+    });
     connect(&m_receiver, &Receiver::noticeReceived, this, &Dialog::logNotice);
+}
+
+void Dialog::watchDevices()
+{
+    connect(&m_devices, &DeviceWatch::portGone, this, &Dialog::endSerialLink);
+    connect(&m_devices, &DeviceWatch::hidGone, this, &Dialog::endHidLink);
+    connect(&m_devices, &DeviceWatch::listsOutdated, this,
+            [this] { m_timer1.start(refreshAfterEventMs); });
+    if (!m_devices.start()) {
+        QTimer::singleShot(0, this, [this] {
+            showMessage(QStringLiteral("The hardware monitoring registration failed, and the "
+                                       "hardware could not be identified!"));
+        });
+    }
 }
 
 void Dialog::connectSending()
 {
     connect(&m_sender, &Sender::message, this, &Dialog::showMessage);
-    connect(&m_sender, &Sender::sent, this,
-            [this](const QString &hexText) { m_log.appendSent(hexText, withCrc()); });
+    connect(&m_frameOptions, &FrameOptions::badHeader, this, &Dialog::showMessage);
+    connect(&m_sender, &Sender::sent, this, [this](const QString &hexText) {
+        m_log.appendSent(hexText, m_frameOptions.withCrc());
+    });
     connect(&m_loop, &LoopControl::message, this, &Dialog::showMessage);
 }
 
@@ -239,13 +258,13 @@ void Dialog::Close_HidDevice_From_thread()
 
 void Dialog::SendOne()
 {
-    takeCrcFlag();
+    m_frameOptions.takeCrcFlag(linkMode());
     m_sender.sendOne(m_commands.currentFrameText());
 }
 
 void Dialog::on_pushButton_SendAll_clicked()
 {
-    takeCrcFlag();
+    m_frameOptions.takeCrcFlag(linkMode());
     m_sender.sendAll(m_commands.checkedRows());
 }
 
@@ -260,7 +279,7 @@ void Dialog::on_pushButton_Start_Loop_clicked()
         m_loop.stop();
         return;
     }
-    takeCrcFlag();
+    m_frameOptions.takeCrcFlag(linkMode());
     m_loop.start(m_commands.checkedRows(), linkMode());
 }
 
@@ -355,12 +374,7 @@ void Dialog::on_DataEnter()
 
 void Dialog::editor_dataIn()
 {
-    CommandRow edited;
-    edited.cmd = m_editor.editCmd;
-    edited.addr = m_editor.editAddr;
-    edited.data = m_editor.editData;
-    edited.dataType = m_editor.editType;
-    m_commands.takeEdited(m_rowActions.contextRow(), edited);
+    m_rowEditor.takeBack(m_rowActions.contextRow());
 }
 
 void Dialog::doMouseTrackTip(const QModelIndex &index)
@@ -370,43 +384,10 @@ void Dialog::doMouseTrackTip(const QModelIndex &index)
     }
 }
 
-FrameLayout Dialog::nextFrameLayout()
-{
-    FrameLayout layout;
-    layout.startBytes = readStartBytes();
-    layout.withStartBytes = m_settings.noAppendHeader == 0;
-    layout.withLength = m_settings.noAppendLength == 0;
-    layout.withCrc = withCrc();
-    layout.maximumInstructionLength = m_maximumInstructionLength;
-    return layout;
-}
-
-StartBytes Dialog::startBytes() const
-{
-    return parseStartBytes(m_form->lineEdit_SBytes->text()).value_or(fallbackStartBytes);
-}
-
 void Dialog::setLinkMode(LinkMode mode)
 {
     m_settings.linkMode = int(mode);
     m_sender.setLink(mode == LinkMode::Uart ? static_cast<Link *>(&m_serialLink) : &m_hidLink);
-}
-
-StartBytes Dialog::readStartBytes()
-{
-    // Both links share the header of the serial tab; the HID tab's own field is never read.
-    const std::optional<StartBytes> read = parseStartBytes(m_form->lineEdit_SBytes->text());
-    if (!read) {
-        showMessage(QStringLiteral("Startbytes Length error"));
-    }
-    return read.value_or(fallbackStartBytes);
-}
-
-void Dialog::takeCrcFlag()
-{
-    const QCheckBox *box =
-        linkMode() == LinkMode::Uart ? m_form->checkBox_CRC_EN : m_form->checkBox_CRC_EN_2;
-    m_crcFlag = box->isChecked() ? 1 : 0;
 }
 
 void Dialog::showMessage(const QString &text)
@@ -420,20 +401,6 @@ void Dialog::openSerialPort()
         QMessageBox::information(nullptr, QStringLiteral("UART"), QStringLiteral("Open fail"),
                                  QMessageBox::Ok);
     }
-}
-
-void Dialog::editRow(int row)
-{
-    const CommandRow content = m_commands.row(row);
-    m_editor.editCmd = content.cmd;
-    m_editor.editAddr = content.addr;
-    m_editor.editData = content.data;
-    m_editor.editType = content.dataType;
-    m_editor.loadFromMembers();
-    const QTableWidget &table = *m_form->tableWidget_Register;
-    placeBesideRow(m_editor, table, table.model()->index(row, CommandColumn::Cmd));
-    m_editor.setModal(true);
-    m_editor.show();
 }
 
 bool Dialog::userWantsToSave()

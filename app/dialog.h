@@ -1,15 +1,16 @@
 #pragma once
 
 #include "commandtable.h"
-#include "directeditor.h"
+#include "devicewatch.h"
 #include "fileactions.h"
-#include "framesettings.h"
+#include "frameoptions.h"
 #include "hidlink.h"
 #include "hidpanel.h"
 #include "loopcontrol.h"
 #include "messagelog.h"
 #include "receiver.h"
 #include "rowactions.h"
+#include "roweditor.h"
 #include "rowmenus.h"
 #include "sender.h"
 #include "seriallink.h"
@@ -27,7 +28,7 @@ class Dialog;
 
 /// The main window. It owns the rooms' objects, wires them together, forwards what the user does,
 /// and shows their messages.
-class Dialog : public QDialog, private FrameSettings
+class Dialog : public QDialog
 {
     Q_OBJECT
 
@@ -79,10 +80,6 @@ private slots:
     void doMouseTrackTip(const QModelIndex &index);
 
 private:
-    FrameLayout nextFrameLayout() override;
-    StartBytes startBytes() const override;
-    bool withCrc() const override { return m_crcFlag != 0; }
-
     void setUpWindow();
     void setUpCommands();
     void setUpMessages();
@@ -90,15 +87,13 @@ private:
     void setUpTimers();
     void connectLinks();
     void connectSending();
+    void watchDevices();
 
     LinkMode linkMode() const { return static_cast<LinkMode>(m_settings.linkMode); }
     void setLinkMode(LinkMode mode);
-    StartBytes readStartBytes();
-    void takeCrcFlag();
     void showMessage(const QString &text);
 
     void openSerialPort();
-    void editRow(int row);
     bool userWantsToSave();
     void endSerialLink();
     void endHidLink();
@@ -107,10 +102,10 @@ private:
     std::unique_ptr<Ui::Dialog> m_form;
     SettingsFile m_settingsFile;
     Settings m_settings;
-    int m_crcFlag = 0;
     int m_maximumInstructionLength;
     bool m_commandsModified = false;
 
+    FrameOptions m_frameOptions;
     SerialLink m_serialLink;
     SerialPanel m_serialPanel;
     HidLink m_hidLink;
@@ -118,8 +113,9 @@ private:
     CommandTable m_commands;
     RowActions m_rowActions;
     std::unique_ptr<RowMenus> m_menus;
-    DirectEditor m_editor;
+    RowEditor m_rowEditor;
     MessageLog m_log;
+    DeviceWatch m_devices;
     FileActions m_files;
     Receiver m_receiver;
     Sender m_sender;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "devicemonitor.h"
+
+#include <QObject>
+
+class HidLink;
+class MessageLog;
+class SerialLink;
+
+/// Writes devices that come and go into the message log, and tells when one in use has gone.
+class DeviceWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Links and log must outlive the watch.
+    DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, MessageLog &log,
+                QObject *parent = nullptr);
+
+    /// Begins to watch the system's devices and the folder of port links. Returns false when the
+    /// system doesn't let us watch its devices.
+    bool start() { return m_monitor.start(); }
+
+signals:
+    /// The open serial port's device has gone; emitted before its row is logged.
+    void portGone();
+
+    /// The open HID device has gone; emitted before its row is logged.
+    void hidGone();
+
+    /// The lists of ports and devices are out of date.
+    void listsOutdated();
+
+private:
+    void noteArrival(DeviceKind kind, const QString &name);
+    void noteRemoval(DeviceKind kind, const QString &name);
+    bool isOpenPort(const QString &name) const;
+    bool isOpenHidDevice(const QString &path) const;
+
+    const SerialLink &m_serialLink;
+    const HidLink &m_hidLink;
+    MessageLog &m_log;
+    DeviceMonitor m_monitor;
+};

@@ -1,0 +1,44 @@
+#include "frameoptions.h"
+
+#include "ui_dialog.h"
+
+FrameOptions::FrameOptions(const Ui::Dialog &form, const Settings &settings,
+                           int maximumInstructionLength, QObject *parent)
+    : QObject(parent)
+    , m_form(form)
+    , m_settings(settings)
+    , m_maximumInstructionLength(maximumInstructionLength)
+{}
+
+void FrameOptions::takeCrcFlag(LinkMode mode)
+{
+    const QCheckBox *box =
+        mode == LinkMode::Uart ? m_form.checkBox_CRC_EN : m_form.checkBox_CRC_EN_2;
+    m_crcFlag = box->isChecked() ? 1 : 0;
+}
+
+StartBytes FrameOptions::readStartBytes()
+{
+    // Both links share the header of the serial tab; the HID tab's own field is never read.
+    const std::optional<StartBytes> read = parseStartBytes(m_form.lineEdit_SBytes->text());
+    if (!read) {
+        emit badHeader(QStringLiteral("Startbytes Length error"));
+    }
+    return read.value_or(fallbackStartBytes);
+}
+
+FrameLayout FrameOptions::nextFrameLayout()
+{
+    FrameLayout layout;
+    layout.startBytes = readStartBytes();
+    layout.withStartBytes = m_settings.noAppendHeader == 0;
+    layout.withLength = m_settings.noAppendLength == 0;
+    layout.withCrc = withCrc();
+    layout.maximumInstructionLength = m_maximumInstructionLength;
+    return layout;
+}
+
+StartBytes FrameOptions::startBytes() const
+{
+    return parseStartBytes(m_form.lineEdit_SBytes->text()).value_or(fallbackStartBytes);
+}
