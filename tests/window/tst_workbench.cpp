@@ -1,0 +1,270 @@
+#include "windowdriver.h"
+
+#include <QFileDialog>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestWorkbench : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void closingUnchangedAsksNothing();
+    void closingChangedAsksOnce();
+    void closingCanSave();
+    void savedCommandsAreLoadedAgain();
+    void clearingIsNoChange();
+    void theLogIsSavedWithoutDeviceRows();
+    void theEditorWritesIntoItsRow();
+    void theEditorOutlivesItsRow();
+    void portsThatComeAndGoAreLoggedAndListed();
+    void theOpenPortIsClosedWhenItGoes();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+namespace {
+
+QString portsFolder()
+{
+    return QCoreApplication::applicationDirPath() + "/ports";
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+/// Answers the next file dialog with a file name.
+class FileChoice : public QObject
+{
+public:
+    explicit FileChoice(QString path)
+        : m_path(std::move(path))
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        auto *dialog =
+            event->type() == QEvent::Show ? qobject_cast<QFileDialog *>(object) : nullptr;
+        if (dialog != nullptr) {
+            QMetaObject::invokeMethod(
+                dialog,
+                [this, dialog] {
+                    dialog->findChild<QLineEdit *>("fileNameEdit")->setText(m_path);
+                    QMetaObject::invokeMethod(dialog, "accept");
+                },
+                Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+private:
+    QString m_path;
+};
+
+/// Right-clicks a position of the command table and dismisses the menu.
+void rememberContext(WindowDriver &window, const QPoint &position)
+{
+    QTimer::singleShot(0, [] {
+        if (QWidget *menu = QApplication::activePopupWidget()) {
+            menu->close();
+        }
+    });
+    QMetaObject::invokeMethod(&window.window(), "tableRegisterContexMenuRequested",
+                              Q_ARG(QPoint, position));
+}
+
+/// Opens the direct editor on a row by way of the row menu's slot.
+DirectEditor *openEditor(WindowDriver &window, int row)
+{
+    window.window().findChild<RowEditor *>()->open(row);
+    return window.window().findChild<DirectEditor *>();
+}
+
+} // namespace
+
+void TestWorkbench::init()
+{
+    QFile::remove(QCoreApplication::applicationDirPath() + "/debuggerConfig.ini");
+    QDir(portsFolder()).removeRecursively();
+    QDir().mkpath(portsFolder());
+}
+
+void TestWorkbench::closingUnchangedAsksNothing()
+{
+    MessageBoxes boxes;
+    WindowDriver window;
+    window.window().close();
+    QVERIFY(!window.window().isVisible());
+    QCOMPARE(boxes.texts(), QStringList());
+}
+
+void TestWorkbench::closingChangedAsksOnce()
+{
+    MessageBoxes boxes;
+    boxes.answerWith(QMessageBox::No);
+    WindowDriver window;
+    window.setRow(0, "03", "0000", "0001");
+    window.window().close();
+    QVERIFY(!window.window().isVisible());
+    QCOMPARE(boxes.texts(), QStringList{"Do you want to save your command?"});
+    QCOMPARE(boxes.titles(), QStringList{"Message"});
+}
+
+void TestWorkbench::closingCanSave()
+{
+    const QString path = m_folder.filePath("closed.txt");
+    MessageBoxes boxes;
+    boxes.answerWith(QMessageBox::Yes);
+    const FileChoice choice(path);
+    WindowDriver window;
+    window.setRow(0, "03", "0000", "0001");
+    window.window().close();
+    QVERIFY(!window.window().isVisible());
+    QCOMPARE(contentOf(path), QByteArray(",unselect,03 0000 0001\n"));
+    const QSettings settings(QCoreApplication::applicationDirPath() + "/debuggerConfig.ini",
+                             QSettings::IniFormat);
+    QCOMPARE(settings.value("/set/LastSavePath").toString(), m_folder.path() + "/");
+}
+
+void TestWorkbench::savedCommandsAreLoadedAgain()
+{
+    const QString path = m_folder.filePath("commands.txt");
+    MessageBoxes boxes;
+    const FileChoice choice(path);
+    WindowDriver window;
+    window.setRow(0, "5A", "", "01");
+    window.commands()->item(0, CommandColumn::Description)->setText("Row");
+    window.setRow(2, "++", "", "500");
+    window.checkRow(2);
+    window.click("pushButton_SaveCommand");
+    QCOMPARE(contentOf(path), QByteArray("Row,unselect,5A %%%% 01\n,select,++  500\n"));
+
+    window.click("pushButton_ClearCommand");
+    QCOMPARE(window.commands()->item(0, CommandColumn::Cmd)->text(), QString());
+    window.click("pushButton_LoadCommand");
+    QCOMPARE(window.commands()->rowCount(), 9);
+    const auto text = [&window](int row, int column) {
+        return window.commands()->item(row, column)->text();
+    };
+    QCOMPARE(text(0, CommandColumn::Description), QString("Row"));
+    QCOMPARE(text(0, CommandColumn::Addr), QString());
+    QCOMPARE(text(0, CommandColumn::Data), QString("01"));
+    QVERIFY(!text(0, CommandColumn::Crc).isEmpty());
+    QCOMPARE(text(0, CommandColumn::DataType), QString());
+    QCOMPARE(text(1, CommandColumn::Cmd), QString("++"));
+    QCOMPARE(text(1, CommandColumn::Data), QString("500"));
+    QCOMPARE(text(2, CommandColumn::DataType), QString("short"));
+    window.window().close();
+    QCOMPARE(boxes.texts(), QStringList());
+}
+
+void TestWorkbench::clearingIsNoChange()
+{
+    MessageBoxes boxes;
+    WindowDriver window;
+    window.setRow(0, "03", "0000", "0001");
+    window.click("pushButton_ClearCommand");
+    window.window().close();
+    QCOMPARE(boxes.texts(), QStringList());
+}
+
+void TestWorkbench::theLogIsSavedWithoutDeviceRows()
+{
+    const QString path = m_folder.filePath("log.txt");
+    const FileChoice choice(path);
+    WindowDriver window;
+    TestPort port;
+    window.open(port);
+    window.setRow(0, "01", "0300", "000001");
+    window.call("SendOne");
+    window.window().findChild<MessageLog *>()->appendEvent("Uart", "Insert x");
+    window.call("SendOne");
+    window.click("pushButton_SaveMessage");
+    QCOMPARE(contentOf(path),
+             QByteArray("1, 5A A5  06  01 0300  00 00 01  \n2, 5A A5  06  01 0300  00 00 01  \n"));
+}
+
+void TestWorkbench::theEditorWritesIntoItsRow()
+{
+    WindowDriver window;
+    window.setRow(3, "10", "0001", "00 00 00 01");
+    QTableWidget *table = window.commands();
+    const QPoint cell = table->visualItemRect(table->item(3, CommandColumn::Data)).center();
+    rememberContext(window, cell);
+    DirectEditor *editor = openEditor(window, 3);
+    QVERIFY(editor->isModal());
+    QVERIFY(editor->isVisible());
+    editor->findChild<QComboBox *>("comboBox_dataType")->setCurrentIndex(0);
+    auto *value = editor->findChild<QLineEdit *>("lineEdit_originalData");
+    value->selectAll();
+    QTest::keyClicks(value, "1,-1");
+    QTest::mouseClick(editor->findChild<QPushButton *>("pushButton_ok"), Qt::LeftButton);
+    QVERIFY(!editor->isVisible());
+    QCOMPARE(table->item(3, CommandColumn::Data)->text(), QString("00 00 00 01 FF FF FF FF"));
+    QCOMPARE(table->item(3, CommandColumn::DataType)->text(), QString("int"));
+}
+
+void TestWorkbench::theEditorOutlivesItsRow()
+{
+    WindowDriver window;
+    window.setRow(3, "10", "0001", "0001");
+    QTableWidget *table = window.commands();
+    const QPoint cell = table->visualItemRect(table->item(3, CommandColumn::Data)).center();
+    rememberContext(window, cell);
+    DirectEditor *editor = openEditor(window, 3);
+    window.call("on_pushButton_ClearCommand_clicked");
+    QTest::mouseClick(editor->findChild<QPushButton *>("pushButton_ok"), Qt::LeftButton);
+    for (int row = 0; row < table->rowCount(); ++row) {
+        QCOMPARE(table->item(row, CommandColumn::Cmd)->text(), QString());
+    }
+}
+
+void TestWorkbench::portsThatComeAndGoAreLoggedAndListed()
+{
+    WindowDriver window;
+    const TestPort port;
+    const QString link = portsFolder() + "/device";
+    QVERIFY(QFile::link(port.path(), link));
+    QTRY_COMPARE(window.messageCount(), 1);
+    QCOMPARE(window.message(0), QStringList({"Uart", "", "", "", "", "Insert " + link, ""}));
+    QTRY_VERIFY(window.combo("comboBox_Comm")->findText(link) >= 0);
+    QVERIFY(QFile::remove(link));
+    QTRY_COMPARE(window.messageCount(), 2);
+    QCOMPARE(window.message(1), QStringList({"Uart", "", "", "", "", "Remove " + link, ""}));
+    QTRY_VERIFY(window.combo("comboBox_Comm")->findText(link) < 0);
+}
+
+void TestWorkbench::theOpenPortIsClosedWhenItGoes()
+{
+    WindowDriver window;
+    const TestPort port;
+    const QString link = portsFolder() + "/device";
+    QVERIFY(QFile::link(port.path(), link));
+    QComboBox *ports = window.combo("comboBox_Comm");
+    QTRY_VERIFY(ports->findText(link) >= 0);
+    ports->setCurrentIndex(ports->findText(link));
+    window.click("pushButton_OpenCom");
+    QCOMPARE(window.button("pushButton_OpenCom")->text(), QString("Linking..."));
+    window.setRow(0, "03", "0000", "0001");
+    window.checkRow(0);
+    window.edit("lineEdit_StepValue")->setText("10");
+    window.edit("lineEdit_CycleTime")->setText("10");
+    window.click("pushButton_Start_Loop");
+    QTRY_VERIFY(window.messageCount() >= 3);
+    QVERIFY(QFile::remove(link));
+    QTRY_COMPARE(window.button("pushButton_OpenCom")->text(), QString("Open Com Port"));
+    QCOMPARE(window.button("pushButton_Start_Loop")->text(), QString("Auto Send"));
+    QVERIFY(window.find<QTabWidget>("tabWidget")->isEnabled());
+    const int rows = window.messageCount();
+    QCOMPARE(window.message(rows - 1).at(5), QString("Remove " + link));
+}
+
+QTEST_MAIN(TestWorkbench)
+#include "tst_workbench.moc"
