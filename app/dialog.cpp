@@ -6,9 +6,12 @@
 #include "ui_dialog.h"
 #include "version.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QIntValidator>
 #include <QMessageBox>
+#include <QShortcut>
 #include <QToolTip>
 
 namespace {
@@ -141,6 +144,22 @@ void Dialog::setUpMessages()
         table->setMouseTracking(true);
         connect(table, &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
     }
+    auto *copy = new QShortcut(QKeySequence::Copy, m_form->tableWidget_Message);
+    copy->setContext(Qt::WidgetShortcut);
+    connect(copy, &QShortcut::activated, this, &Dialog::copyMessages);
+}
+
+/// The selected rows, as the saved log would show them.
+void Dialog::copyMessages()
+{
+    const auto rows = m_log.rows();
+    QVector<MessageRow> selected;
+    for (const QModelIndex &index : m_form->tableWidget_Message->selectionModel()->selectedRows()) {
+        if (index.row() < rows.size()) {
+            selected.append(rows.at(index.row()));
+        }
+    }
+    QApplication::clipboard()->setText(messageFileText(selected));
 }
 
 FileActionHooks Dialog::fileHooks()

@@ -97,6 +97,7 @@ private:
     bool userWantsToSave();
     void endSerialLink();
     void endHidLink();
+    void copyMessages();
     void logNotice(const QString &hexText);
 
     std::unique_ptr<Ui::Dialog> m_form;

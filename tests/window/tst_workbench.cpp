@@ -1,5 +1,6 @@
 #include "windowdriver.h"
 
+#include <QClipboard>
 #include <QFileDialog>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -16,6 +17,7 @@ private slots:
     void savedCommandsAreLoadedAgain();
     void clearingIsNoChange();
     void theLogIsSavedWithoutDeviceRows();
+    void selectedLogRowsAreCopied();
     void theEditorWritesIntoItsRow();
     void theEditorOutlivesItsRow();
     void portsThatComeAndGoAreLoggedAndListed();
@@ -189,6 +191,22 @@ void TestWorkbench::theLogIsSavedWithoutDeviceRows()
     window.click("pushButton_SaveMessage");
     QCOMPARE(contentOf(path),
              QByteArray("1, 5A A5  06  01 0300  00 00 01  \n2, 5A A5  06  01 0300  00 00 01  \n"));
+}
+
+void TestWorkbench::selectedLogRowsAreCopied()
+{
+    WindowDriver window;
+    TestPort port;
+    window.open(port);
+    window.setRow(0, "01", "0300", "000001");
+    window.call("SendOne");
+    window.call("SendOne");
+    window.window().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window.window()));
+    window.messages()->selectRow(1);
+    window.messages()->setFocus();
+    QTest::keySequence(window.messages(), QKeySequence::Copy);
+    QCOMPARE(QApplication::clipboard()->text(), QString("2, 5A A5  06  01 0300  00 00 01  \n"));
 }
 
 void TestWorkbench::theEditorWritesIntoItsRow()
