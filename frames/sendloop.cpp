@@ -3,7 +3,19 @@
 #include "delaymarker.h"
 #include "sender.h"
 
+#include <QThread>
+
 #include <algorithm>
+
+namespace {
+
+constexpr qint64 nsPerMs = 1000000;
+constexpr qint64 nsPerUs = 1000;
+/// Even precise timers count whole milliseconds and come late by up to this; they are set early by
+/// as much, and what is left of a wait is slept.
+constexpr int timerIsLateMs = 1;
+
+} // namespace
 
 SendLoop::SendLoop(Sender &sender, QObject *parent)
     : QObject(parent)
@@ -11,7 +23,7 @@ SendLoop::SendLoop(Sender &sender, QObject *parent)
 {
     m_wait.setSingleShot(true);
     m_wait.setTimerType(Qt::PreciseTimer);
-    connect(&m_wait, &QTimer::timeout, this, &SendLoop::goOn);
+    connect(&m_wait, &QTimer::timeout, this, &SendLoop::endWait);
     connect(&m_sender, &Sender::handedOver, this, [this] { m_sinceHandOver.start(); });
 }
 
@@ -95,7 +107,16 @@ int SendLoop::sendTextStep()
 
 void SendLoop::waitSinceHandOver(int milliseconds)
 {
-    constexpr qint64 nsPerMs = 1000000;
-    const qint64 leftNs = milliseconds * nsPerMs - m_sinceHandOver.nsecsElapsed();
-    m_wait.start(static_cast<int>(std::max<qint64>(0, (leftNs + nsPerMs - 1) / nsPerMs)));
+    m_waitNs = milliseconds * nsPerMs;
+    const qint64 leftMs = (m_waitNs - m_sinceHandOver.nsecsElapsed()) / nsPerMs;
+    m_wait.start(static_cast<int>(std::max<qint64>(0, leftMs - timerIsLateMs)));
+}
+
+void SendLoop::endWait()
+{
+    const qint64 leftNs = m_waitNs - m_sinceHandOver.nsecsElapsed();
+    if (leftNs > 0) {
+        QThread::usleep(static_cast<unsigned long>(leftNs / nsPerUs));
+    }
+    goOn();
 }

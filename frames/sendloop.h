@@ -49,6 +49,7 @@ private:
     int sendBlockStep();
     int sendTextStep();
     void waitSinceHandOver(int milliseconds);
+    void endWait();
 
     Sender &m_sender;
     LoopPlan m_plan;
@@ -59,5 +60,6 @@ private:
     int m_sentCount = 0;
     unsigned m_stops = 0;
     QElapsedTimer m_sinceHandOver;
+    qint64 m_waitNs = 0;
     QTimer m_wait;
 };

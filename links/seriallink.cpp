@@ -56,6 +56,9 @@ QByteArray SerialLink::readArrived()
     }
     QThread::msleep(settleMs);
     m_port.waitForReadyRead(moreDataMs);
+    // The port takes half a kilobyte a time from the system; all that waits there belongs to it.
+    while (m_port.waitForReadyRead(0)) {
+    }
     return m_port.readAll();
 }
 

@@ -1,6 +1,7 @@
 #include "messagelog.h"
 
 #include "fieldcutter.h"
+#include "plaincelldelegate.h"
 #include "tableitems.h"
 #include "tablelook.h"
 
@@ -39,6 +40,7 @@ MessageLog::MessageLog(QTableWidget &table, QObject *parent)
                          {tr("Data"), 90, QHeaderView::Stretch, true},
                          {tr("CRC"), 63},
                          {QString(), 63}});
+    m_table.setItemDelegate(new PlainCellDelegate(this));
     showBlankTable();
     m_displayFrame.setSingleShot(true);
     m_displayFrame.setInterval(displayFrameMs);
@@ -114,12 +116,10 @@ void MessageLog::append(Entry entry)
 {
     ++m_count;
     m_waiting.append(std::move(entry));
+    beginDisplayFrame();
     if (m_rowsThisFrame < rowsAtOncePerFrame) {
         ++m_rowsThisFrame;
         bringIn();
-    }
-    if (!m_displayFrame.isActive()) {
-        m_displayFrame.start();
     }
 }
 
@@ -138,10 +138,24 @@ void MessageLog::forgetAll()
     m_tableIsStale = true;
 }
 
+/// A row after a quiet time is painted at once, what follows it at the pace of the display.
+void MessageLog::beginDisplayFrame()
+{
+    if (m_displayFrame.isActive()) {
+        m_table.setUpdatesEnabled(false);
+    } else {
+        m_displayFrame.start();
+    }
+}
+
 void MessageLog::onDisplayFrame()
 {
     m_rowsThisFrame = 0;
     bringIn();
+    if (!m_table.updatesEnabled()) {
+        m_table.setUpdatesEnabled(true);
+        m_displayFrame.start();
+    }
 }
 
 void MessageLog::showBlankTable()

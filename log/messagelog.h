@@ -16,7 +16,8 @@ class QTableWidget;
 ///
 /// The first rows of each display frame come into the table at once. What a flood brings beyond
 /// them waits for the next display frame, so that rows which the log would empty again before
-/// anybody could see them are never built. Whoever reads the log through this class sees every row.
+/// anybody could see them are never built; and the table is painted once in a display frame,
+/// however many rows it brought. Whoever reads the log through this class sees every row.
 class MessageLog : public QObject
 {
     Q_OBJECT
@@ -64,6 +65,7 @@ private:
     void append(Entry entry);
     void makeRoom();
     void forgetAll();
+    void beginDisplayFrame();
     void onDisplayFrame();
     void showBlankTable();
     void fillRow(int row, const Entry &entry);

@@ -15,6 +15,9 @@ public:
     /// What is opened as the port.
     QString path() const { return m_path; }
 
+    /// The far end itself, for who wants to wait for it; it never blocks.
+    int descriptor() const { return m_master; }
+
     /// Everything that has arrived so far.
     QByteArray received();
 

@@ -1,0 +1,88 @@
+#include "figures.h"
+#include "hextext.h"
+#include "messagelog.h"
+
+#include <QApplication>
+#include <QTableWidget>
+
+// What a row of the message log costs, in the ways rows come in.
+
+namespace {
+
+constexpr int rowsOfAFullLog = 1025;
+constexpr int floodRows = 60000;
+
+/// A log in a table of the size it has in the window.
+class ShownLog
+{
+public:
+    ShownLog()
+        : m_log(m_table)
+    {
+        m_table.resize(900, 350);
+        m_table.show();
+        QCoreApplication::processEvents();
+    }
+
+    /// Microseconds a row, for rows of which every `rowsAtATime` the display has its turn.
+    double cost(int rows, int rowsAtATime)
+    {
+        const double seconds = medianSeconds([&] {
+            for (int row = 0; row < rows; ++row) {
+                m_log.appendReceived(m_text, true);
+                if (row % rowsAtATime == rowsAtATime - 1) {
+                    m_log.bringIn();
+                    QCoreApplication::processEvents();
+                }
+            }
+            m_log.bringIn();
+            QCoreApplication::processEvents();
+        });
+        return seconds * 1e6 / rows;
+    }
+
+    /// Microseconds for the rows of a full log, brought in at once and not yet painted.
+    double costOfFullTable()
+    {
+        const double seconds = medianSeconds([&] {
+            m_log.clear();
+            for (int row = 0; row < rowsOfAFullLog; ++row) {
+                m_log.appendReceived(m_text, true);
+            }
+            m_log.bringIn();
+        });
+        return seconds * 1e6 / rowsOfAFullLog;
+    }
+
+    double milliSecondsToPaint()
+    {
+        return 1000 * medianSeconds([this] { m_table.viewport()->repaint(); }, 51);
+    }
+
+    double milliSecondsToClear()
+    {
+        return 1000 * medianSeconds([this] { m_log.clear(); });
+    }
+
+private:
+    QTableWidget m_table;
+    MessageLog m_log;
+    const QString m_text = formatHexBytes(QByteArray::fromHex("5AA50803100000000000770102"));
+};
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    ShownLog log;
+    printHeading("log: a row of 13 bytes");
+    printFigure("one row for each repaint", log.cost(rowsOfAFullLog, 1), "us/row");
+    printFigure("50 rows for each repaint", log.cost(rowsOfAFullLog, 50), "us/row");
+    printFigure("500 rows for each repaint", log.cost(2 * rowsOfAFullLog, 500), "us/row");
+    printFigure("a full log at once, not painted", log.costOfFullTable(), "us/row");
+    printFigure("a flood of 60000 between two repaints", log.cost(floodRows, floodRows), "us/row");
+    printFigure("painting what is visible", log.milliSecondsToPaint(), "ms");
+    printFigure("emptying a full log", log.milliSecondsToClear(), "ms");
+    return 0;
+}
