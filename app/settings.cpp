@@ -1,5 +1,7 @@
 #include "settings.h"
 
+#include <QFileInfo>
+#include <QTemporaryFile>
 #include <QTextCodec>
 
 namespace {
@@ -10,6 +12,18 @@ const char *const linkModeKey = "/set/debuggerMode";
 const char *const noAppendHeaderKey = "/set/noAppendHeader";
 const char *const noAppendLengthKey = "/set/noAppendLength";
 const char *const isEditorFunKey = "/set/isEditorFun";
+
+/// What the program's own keys can need, with paths of any length.
+constexpr qint64 roomForOwnKeys = 16384;
+
+/// Whether the file can be written anew beside the one that is there. QSettings does not notice a
+/// full disk: it would put what little it could write in the file's place.
+bool hasRoom(const QString &path)
+{
+    const qint64 size = QFileInfo(path).size() + roomForOwnKeys;
+    QTemporaryFile probe(path);
+    return probe.open() && probe.write(QByteArray(int(size), ' ')) == size && probe.flush();
+}
 
 } // namespace
 
@@ -35,6 +49,10 @@ Settings SettingsFile::load() const
 
 void SettingsFile::save(const Settings &settings)
 {
+    // What is set is written at the latest when the object goes, so nothing is set.
+    if (!hasRoom(m_file.fileName())) {
+        return;
+    }
     m_file.setValue(lastLoadPathKey, settings.lastLoadPath);
     m_file.setValue(lastSavePathKey, settings.lastSavePath);
     m_file.setValue(linkModeKey, settings.linkMode);

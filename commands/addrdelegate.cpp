@@ -25,3 +25,8 @@ void AddrDelegate::finishByFocusOut(QLineEdit *editor)
     emit AfterCommitData();
     emit closeEditor(editor, NoHint);
 }
+
+void AddrDelegate::leaveByKey()
+{
+    emit AfterCommitData();
+}

@@ -23,4 +23,5 @@ signals:
 protected:
     void finishByEnter(QLineEdit *editor) override;
     void finishByFocusOut(QLineEdit *editor) override;
+    void leaveByKey() override;
 };

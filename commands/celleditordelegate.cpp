@@ -5,13 +5,14 @@
 
 namespace {
 
-bool isEnter(const QEvent &event)
+bool isEnter(int key)
 {
-    if (event.type() != QEvent::KeyPress) {
-        return false;
-    }
-    const int key = static_cast<const QKeyEvent &>(event).key();
     return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+bool leavesCell(int key)
+{
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_Escape;
 }
 
 } // namespace
@@ -31,9 +32,13 @@ bool CellEditorDelegate::eventFilter(QObject *object, QEvent *event)
     }
     if (event->type() == QEvent::KeyPress) {
         emit commitData(editor);
-        if (isEnter(*event)) {
+        const int key = static_cast<const QKeyEvent *>(event)->key();
+        if (isEnter(key)) {
             finishByEnter(editor);
             return true;
+        }
+        if (leavesCell(key)) {
+            leaveByKey();
         }
     }
     return QStyledItemDelegate::eventFilter(object, event);

@@ -23,4 +23,7 @@ protected:
 
     /// The editor has lost the focus; the text is committed.
     virtual void finishByFocusOut(QLineEdit *editor) = 0;
+
+    /// Tab or Escape was pressed; the text is committed, and the editor closes after this.
+    virtual void leaveByKey() {}
 };

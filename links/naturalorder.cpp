@@ -2,8 +2,14 @@
 
 namespace {
 
-/// The digits that begin at a position, without leading zeros.
-QStringRef numberAt(const QString &text, int position)
+/// A number in a text: its digits without leading zeros, and where it ends.
+struct Number
+{
+    QStringRef digits;
+    int end = 0;
+};
+
+Number numberAt(const QString &text, int position)
 {
     int begin = position;
     while (begin < text.size() && text.at(begin) == QLatin1Char('0')) {
@@ -13,7 +19,7 @@ QStringRef numberAt(const QString &text, int position)
     while (end < text.size() && text.at(end).isDigit()) {
         ++end;
     }
-    return text.midRef(begin, end - begin);
+    return {text.midRef(begin, end - begin), end};
 }
 
 int compareNumbers(const QStringRef &left, const QStringRef &right)
@@ -29,13 +35,14 @@ bool naturallyBefore(const QString &left, const QString &right)
     int r = 0;
     while (l < left.size() && r < right.size()) {
         if (left.at(l).isDigit() && right.at(r).isDigit()) {
-            const QStringRef leftNumber = numberAt(left, l);
-            const QStringRef rightNumber = numberAt(right, r);
-            if (const int order = compareNumbers(leftNumber, rightNumber); order != 0) {
+            const Number leftNumber = numberAt(left, l);
+            const Number rightNumber = numberAt(right, r);
+            const int order = compareNumbers(leftNumber.digits, rightNumber.digits);
+            if (order != 0) {
                 return order < 0;
             }
-            l = leftNumber.position() + leftNumber.size();
-            r = rightNumber.position() + rightNumber.size();
+            l = leftNumber.end;
+            r = rightNumber.end;
         } else if (left.at(l) != right.at(r)) {
             return left.at(l) < right.at(r);
         } else {

@@ -20,6 +20,7 @@ bool endsLink(QSerialPort::SerialPortError error)
 
 SerialLink::SerialLink(int longestRead, QObject *parent)
     : QObject(parent)
+    , m_port(this)
 {
     m_port.setReadBufferSize(longestRead);
     connect(&m_port, &QSerialPort::readyRead, this, &SerialLink::onReadyRead);

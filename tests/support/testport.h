@@ -1,5 +1,7 @@
 #pragma once
 
+#include "linesettings.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -23,6 +25,9 @@ public:
 
     /// Sends bytes to the one who has the port open; waits while there is no room.
     void send(const QByteArray &bytes) const;
+
+    /// How the one who has the port open has set the line.
+    LineSettings line() const { return readLineSettings(m_master); }
 
     /// Takes the device away, as pulling out its plug does.
     void unplug();

@@ -1,0 +1,258 @@
+#include "settings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
+
+class TestSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void missingFileGivesDefaults();
+    void missingKeysGiveDefaults();
+    void valuesAreRead();
+    void linkModeIsZeroOrOne_data();
+    void linkModeIsZeroOrOne();
+    void allKeysAreWrittenUnderTheGroup();
+    void switchesAreWrittenAsTheyWereRead();
+    void foldersSurvive_data();
+    void foldersSurvive();
+    void fileIsUtf8();
+    void foreignKeysAndGroupsSurvive();
+    void aFolderInItsPlaceIsNoError();
+    void rubbishGivesDefaults_data();
+    void rubbishGivesDefaults();
+    void aFullDiskLeavesTheFileAsItWas();
+
+private:
+    QString path() const { return m_folder->filePath("debuggerConfig.ini"); }
+    void write(const QByteArray &content) const;
+    QByteArray content() const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+void verifyDefaults(const Settings &settings)
+{
+    QCOMPARE(settings.lastLoadPath, QString());
+    QCOMPARE(settings.lastSavePath, QString());
+    QCOMPARE(settings.linkMode, 0);
+    QCOMPARE(settings.noAppendHeader, 0);
+    QCOMPARE(settings.noAppendLength, 0);
+    QCOMPARE(settings.isEditorFun, 0);
+}
+
+/// Lets no file grow beyond a size, as a full disk does.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        m_formerHandler = signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limit{bytes, m_former.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_former);
+        signal(SIGXFSZ, m_formerHandler);
+    }
+    FileSizeLimit(const FileSizeLimit &) = delete;
+    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
+
+private:
+    rlimit m_former{};
+    sighandler_t m_formerHandler;
+};
+
+} // namespace
+
+void TestSettings::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void TestSettings::write(const QByteArray &content) const
+{
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+QByteArray TestSettings::content() const
+{
+    QFile file(path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void TestSettings::missingFileGivesDefaults()
+{
+    verifyDefaults(SettingsFile(path()).load());
+    QVERIFY(!QFile::exists(path()));
+}
+
+void TestSettings::missingKeysGiveDefaults()
+{
+    write("[set]\nsomething=1\n[other]\ndebuggerMode=1\nLastLoadPath=/tmp\n");
+    verifyDefaults(SettingsFile(path()).load());
+}
+
+void TestSettings::valuesAreRead()
+{
+    write("[set]\nLastLoadPath=/load\nLastSavePath=/save\ndebuggerMode=1\n"
+          "noAppendHeader=2\nnoAppendLength=-3\nisEditorFun=4\n");
+    const Settings settings = SettingsFile(path()).load();
+    QCOMPARE(settings.lastLoadPath, QString("/load"));
+    QCOMPARE(settings.lastSavePath, QString("/save"));
+    QCOMPARE(settings.linkMode, 1);
+    QCOMPARE(settings.noAppendHeader, 2);
+    QCOMPARE(settings.noAppendLength, -3);
+    QCOMPARE(settings.isEditorFun, 4);
+}
+
+void TestSettings::linkModeIsZeroOrOne_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<int>("mode");
+
+    QTest::newRow("0") << QByteArray("0") << 0;
+    QTest::newRow("1") << QByteArray("1") << 1;
+    QTest::newRow("5") << QByteArray("5") << 1;
+    QTest::newRow("negative") << QByteArray("-1") << 1;
+    QTest::newRow("no number") << QByteArray("HID") << 0;
+    QTest::newRow("empty") << QByteArray() << 0;
+}
+
+void TestSettings::linkModeIsZeroOrOne()
+{
+    QFETCH(QByteArray, value);
+    write("[set]\ndebuggerMode=" + value + "\n");
+    QTEST(SettingsFile(path()).load().linkMode, "mode");
+}
+
+void TestSettings::allKeysAreWrittenUnderTheGroup()
+{
+    SettingsFile(path()).save({});
+    QCOMPARE(content(), QByteArray("[set]\nLastLoadPath=\nLastSavePath=\ndebuggerMode=0\n"
+                                   "isEditorFun=0\nnoAppendHeader=0\nnoAppendLength=0\n"));
+}
+
+void TestSettings::switchesAreWrittenAsTheyWereRead()
+{
+    write("[set]\ndebuggerMode=7\nisEditorFun=5\nnoAppendHeader=-6\nnoAppendLength=7\n");
+    SettingsFile file(path());
+    file.save(file.load());
+    QCOMPARE(content(), QByteArray("[set]\nLastLoadPath=\nLastSavePath=\ndebuggerMode=1\n"
+                                   "isEditorFun=5\nnoAppendHeader=-6\nnoAppendLength=7\n"));
+}
+
+void TestSettings::foldersSurvive_data()
+{
+    QTest::addColumn<QString>("folder");
+
+    QTest::newRow("plain") << "/home/user";
+    QTest::newRow("umlauts") << QStringLiteral(u"/home/M\u00FCller");
+    QTest::newRow("Chinese") << QStringLiteral(u"/home/\u547D\u4EE4");
+    QTest::newRow("beyond 16 bits") << QString::fromUtf8("/home/\xF0\x9F\x94\x8C");
+    QTest::newRow("marks of the format") << "/a,b;c=d \"e\" [f] %20 @g";
+    QTest::newRow("backslashes") << "C:\\new\\table\\x41";
+    QTest::newRow("blanks at its ends") << " /home ";
+}
+
+void TestSettings::foldersSurvive()
+{
+    QFETCH(QString, folder);
+    Settings settings;
+    settings.lastLoadPath = folder;
+    settings.lastSavePath = folder + "/save";
+    SettingsFile(path()).save(settings);
+    const Settings read = SettingsFile(path()).load();
+    QCOMPARE(read.lastLoadPath, folder);
+    QCOMPARE(read.lastSavePath, folder + "/save");
+}
+
+void TestSettings::fileIsUtf8()
+{
+    const QString folder = QStringLiteral(u"/home/\u547D\u4EE4");
+    Settings settings;
+    settings.lastLoadPath = folder;
+    SettingsFile(path()).save(settings);
+    QVERIFY(content().contains("LastLoadPath=" + folder.toUtf8()));
+    write("[set]\nLastSavePath=" + folder.toUtf8() + "\n");
+    QCOMPARE(SettingsFile(path()).load().lastSavePath, folder);
+}
+
+void TestSettings::foreignKeysAndGroupsSurvive()
+{
+    write("[other]\nkey=\"a, b\"\n\n[set]\nmine=kept\nisEditorFun=1\n");
+    SettingsFile file(path());
+    file.save(file.load());
+    QCOMPARE(content(), QByteArray("[other]\nkey=\"a, b\"\n\n[set]\nLastLoadPath=\nLastSavePath=\n"
+                                   "debuggerMode=0\nisEditorFun=1\nmine=kept\nnoAppendHeader=0\n"
+                                   "noAppendLength=0\n"));
+}
+
+void TestSettings::aFolderInItsPlaceIsNoError()
+{
+    QVERIFY(QDir(m_folder->path()).mkpath("debuggerConfig.ini/inside"));
+    SettingsFile file(path());
+    verifyDefaults(file.load());
+    file.save(file.load());
+    QVERIFY(QFile::exists(path() + "/inside"));
+}
+
+void TestSettings::rubbishGivesDefaults_data()
+{
+    QTest::addColumn<QByteArray>("rubbish");
+
+    QByteArray everyByte;
+    for (int i = 0; i < 4096; ++i) {
+        everyByte.append(static_cast<char>(i * 37));
+    }
+    QTest::newRow("binary") << everyByte;
+    QTest::newRow("zeros") << QByteArray(5000, '\0');
+    QTest::newRow("text") << QByteArray("this is no settings file\n");
+    QTest::newRow("marks") << QByteArray("]\n[]\n=\n==\n[[]]\ndebuggerMode=1\n");
+}
+
+void TestSettings::rubbishGivesDefaults()
+{
+    QFETCH(QByteArray, rubbish);
+    write(rubbish);
+    SettingsFile file(path());
+    verifyDefaults(file.load());
+    Settings settings;
+    settings.linkMode = 1;
+    file.save(settings);
+    QCOMPARE(SettingsFile(path()).load().linkMode, 1);
+}
+
+void TestSettings::aFullDiskLeavesTheFileAsItWas()
+{
+    const QByteArray former =
+        "[other]\nkey=" + QByteArray(2000, 'x') + "\n\n[set]\nisEditorFun=1\n";
+    write(former);
+    Settings settings = SettingsFile(path()).load();
+    settings.linkMode = 1;
+    {
+        const FileSizeLimit limit(1000);
+        SettingsFile(path()).save(settings);
+    }
+    QCOMPARE(content(), former);
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{"debuggerConfig.ini"});
+    SettingsFile(path()).save(settings);
+    QCOMPARE(SettingsFile(path()).load().linkMode, 1);
+    QVERIFY(content().startsWith("[other]\nkey=xxx"));
+}
+
+QTEST_GUILESS_MAIN(TestSettings)
+#include "tst_settings.moc"
