@@ -3,6 +3,8 @@
 #include <QDeadlineTimer>
 #include <QThread>
 
+#include <cerrno>
+
 namespace {
 
 constexpr unsigned long settleMs = 2;
@@ -115,6 +117,10 @@ void SerialLink::onReadyRead()
 
 void SerialLink::onError(QSerialPort::SerialPortError error)
 {
+    if (m_port.errorString() == qt_error_string(EAGAIN)) {
+        resumeReading();
+        return;
+    }
     if (!endsLink(error) || m_failed || !m_port.isOpen()) {
         return;
     }
@@ -122,6 +128,13 @@ void SerialLink::onError(QSerialPort::SerialPortError error)
     const QString reason = m_port.errorString();
     QMetaObject::invokeMethod(
         this, [this, reason] { reportLoss(reason); }, Qt::QueuedConnection);
+}
+
+/// What a wait has read already may be announced once more; the port then takes finding nothing for
+/// an error and stops listening. Setting the buffer's size makes it listen again.
+void SerialLink::resumeReading()
+{
+    m_port.setReadBufferSize(m_port.readBufferSize());
 }
 
 void SerialLink::reportLoss(const QString &reason)

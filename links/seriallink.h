@@ -57,6 +57,7 @@ private:
     void writeOut(int milliseconds);
     void onReadyRead();
     void onError(QSerialPort::SerialPortError error);
+    void resumeReading();
     void reportLoss(const QString &reason);
 
     QSerialPort m_port;

@@ -19,11 +19,11 @@ std::optional<int> frameLength(const QByteArray &buffer, int begin)
 class Walk
 {
 public:
-    Walk(const QByteArray &buffer, StartBytes startBytes, bool behindFrame,
+    Walk(const QByteArray &buffer, StartBytes startBytes, bool &frameSeen,
          QVector<ReceivedPiece> &pieces)
         : m_buffer(buffer)
         , m_pieces(pieces)
-        , m_frameSeen(behindFrame && buffer.size() == 1)
+        , m_frameSeen(frameSeen)
     {
         m_header.append(static_cast<char>(startBytes.first));
         m_header.append(static_cast<char>(startBytes.second));
@@ -50,8 +50,8 @@ public:
     }
 
 private:
-    /// Behind a whole frame a first start byte at the very end is the beginning of the next frame:
-    /// a running stream loses no frame to the place where it was cut into chunks.
+    /// In a stream that has shown a frame, a first start byte at the very end is the beginning of
+    /// the next one: no frame is lost to the place where the stream was cut into chunks.
     int endOfRubbish() const
     {
         const int size = m_buffer.size();
@@ -75,7 +75,7 @@ private:
     QByteArray m_header;
     QVector<ReceivedPiece> &m_pieces;
     int m_position = 0;
-    bool m_frameSeen;
+    bool &m_frameSeen;
 };
 
 } // namespace
@@ -87,10 +87,7 @@ QVector<ReceivedPiece> FrameReassembler::take(const QByteArray &chunk, StartByte
         flush(pieces);
     }
     m_buffer.append(chunk.left(capacity - m_buffer.size()));
-    m_buffer.remove(0, Walk(m_buffer, startBytes, m_behindFrame, pieces).run());
-    if (!pieces.isEmpty()) {
-        m_behindFrame = pieces.constLast().kind == ReceivedPiece::Kind::Frame;
-    }
+    m_buffer.remove(0, Walk(m_buffer, startBytes, m_frameSeen, pieces).run());
     return pieces;
 }
 

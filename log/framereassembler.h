@@ -38,6 +38,6 @@ private:
     void flush(QVector<ReceivedPiece> &pieces);
 
     QByteArray m_buffer;
-    /// The piece given out last was a frame.
-    bool m_behindFrame = false;
+    /// The stream has shown a whole frame.
+    bool m_frameSeen = false;
 };

@@ -105,6 +105,9 @@ void TestFrameReassembler::chunks_data()
         << QStringList{"F 5AA50101", "N 5A", "F 5AA50102"} << 0;
     QTest::newRow("a first start byte in a chunk of its own behind a frame")
         << Chunks{"5AA50101", "5A", "A50102"} << QStringList{"F 5AA50101", "F 5AA50102"} << 0;
+    QTest::newRow("a first start byte behind rubbish, once there was a frame")
+        << Chunks{"5AA50101", "09", "085A", "A50102"}
+        << QStringList{"F 5AA50101", "N 09", "N 08", "F 5AA50102"} << 0;
     QTest::newRow("a first start byte as the first of all bytes is rubbish")
         << Chunks{"5A", "A50102"} << QStringList{"N 5A", "N A50102"} << 0;
     QTest::newRow("a first start byte behind rubbish only is rubbish")

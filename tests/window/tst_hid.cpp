@@ -1,0 +1,236 @@
+#include "fakehid.h"
+#include "windowdriver.h"
+
+#include <QtTest>
+
+/// The HID tab of the real window, with devices that a stand-in for the HID library offers.
+class TestHid : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void devicesAreListedByTheirPaths();
+    void theChosenDeviceStaysChosen();
+    void openingShowsTheLink();
+    void aDeviceThatCantBeOpened();
+    void closedDeviceIsTold();
+    void aFrameGoesOutInReports();
+    void receivedReportsAreFramesAndNotices();
+    void theHeaderIsTheSerialTabs();
+    void aFailedWriteEndsLoopAndLink();
+    void theLoopRestsTheWidgetsOfTheTab();
+    void leavingTheTabClosesTheDevice();
+    void closingTheWindowClosesTheDevice();
+};
+
+namespace {
+
+const QByteArray smallDevice = "fake#VID_EEEF&PID_1616#1";
+const QByteArray largeDevice = "fake#VID_EEEF&PID_2929#1";
+constexpr int smallReport = 64;
+
+QByteArray hex(const QString &text)
+{
+    return QByteArray::fromHex(text.toLatin1());
+}
+
+/// A window on its HID tab, with the devices listed.
+class HidWindow : public WindowDriver
+{
+public:
+    HidWindow()
+    {
+        find<QTabWidget>("tabWidget")->setCurrentIndex(1);
+        call("Timer1_Out_Event");
+    }
+
+    void openDevice(const QByteArray &path)
+    {
+        combo("comboBox_Hid_Device")->setCurrentText(path);
+        click("pushButton_ConnectHID");
+    }
+
+    QString linkCaption() const { return button("pushButton_ConnectHID")->text(); }
+};
+
+QByteArray report(const QByteArray &frame, char reportId = 0, int size = smallReport)
+{
+    return reportId + frame.leftJustified(size, '\0');
+}
+
+} // namespace
+
+void TestHid::init()
+{
+    FakeHid::instance().reset();
+    FakeHid::instance().addDevice(smallDevice, 0xEEEF, 0x1616);
+    FakeHid::instance().addDevice(largeDevice, 0xEEEF, 0x2929);
+}
+
+void TestHid::devicesAreListedByTheirPaths()
+{
+    const HidWindow window;
+    const QComboBox *devices = window.combo("comboBox_Hid_Device");
+    QCOMPARE(devices->count(), 2);
+    QCOMPARE(devices->itemText(0), QString(largeDevice));
+    QCOMPARE(devices->itemText(1), QString(smallDevice));
+    QCOMPARE(devices->itemData(1, Qt::ToolTipRole).toString(), QString(smallDevice));
+}
+
+void TestHid::theChosenDeviceStaysChosen()
+{
+    HidWindow window;
+    window.combo("comboBox_Hid_Device")->setCurrentIndex(1);
+    window.call("Timer1_Out_Event");
+    QCOMPARE(window.combo("comboBox_Hid_Device")->currentText(), QString(smallDevice));
+}
+
+void TestHid::openingShowsTheLink()
+{
+    HidWindow window;
+    window.openDevice(smallDevice);
+    QCOMPARE(window.linkCaption(), QString("Linking..."));
+    QVERIFY(!window.edit("lineEdit_RpID")->isEnabled());
+    QVERIFY(!window.combo("comboBox_Hid_Device")->isEnabled());
+    window.click("pushButton_ConnectHID");
+    QCOMPARE(window.linkCaption(), QString("Open HID Device"));
+    QVERIFY(window.edit("lineEdit_RpID")->isEnabled());
+    QVERIFY(window.combo("comboBox_Hid_Device")->isEnabled());
+    QCOMPARE(FakeHid::instance().openHandles(), 0);
+}
+
+void TestHid::aDeviceThatCantBeOpened()
+{
+    MessageBoxes boxes;
+    FakeHid::instance().setOpenable(smallDevice, false);
+    HidWindow window;
+    window.openDevice(smallDevice);
+    QCOMPARE(boxes.texts(), QStringList{"Open fail"});
+    QCOMPARE(boxes.titles(), QStringList{"HID"});
+    QCOMPARE(window.linkCaption(), QString("Open HID Device"));
+    QVERIFY(window.edit("lineEdit_RpID")->isEnabled());
+}
+
+void TestHid::closedDeviceIsTold()
+{
+    MessageBoxes boxes;
+    HidWindow window;
+    window.setRow(0, "03", "0000", "0001");
+    window.checkRow(0);
+    for (const char *slot :
+         {"SendOne", "on_pushButton_SendAll_clicked", "on_pushButton_SendAll_2_clicked",
+          "on_pushButton_Start_Loop_clicked"}) {
+        window.call(slot);
+        QCOMPARE(boxes.takeTexts(), QStringList{"Please open the HID Device!"});
+    }
+}
+
+void TestHid::aFrameGoesOutInReports()
+{
+    MessageBoxes boxes;
+    HidWindow window;
+    window.edit("lineEdit_RpID")->setText("0x05");
+    window.openDevice(smallDevice);
+    window.check("checkBox_CRC_EN_2")->setChecked(true);
+    window.setRow(0, "01", "0300", "000001");
+    window.call("SendOne");
+    QTRY_COMPARE(FakeHid::instance().written().size(), 1);
+    QCOMPARE(FakeHid::instance().written().first(), report(hex("5AA508010300000001840A"), 5));
+    QCOMPARE(window.message(0).at(6), QString("84 0A "));
+
+    window.setRow(1, "11", "", QString("22").repeated(299));
+    window.call("SendOne");
+    QCOMPARE(boxes.texts(), QStringList{"Instruction length 302 is out of the maximum range,<br> "
+                                        "sending errors may occur!"});
+    QTRY_COMPARE(FakeHid::instance().written().size(), 1 + 5);
+    QCOMPARE(window.messageCount(), 2);
+}
+
+void TestHid::receivedReportsAreFramesAndNotices()
+{
+    HidWindow window;
+    window.openDevice(smallDevice);
+    FakeHid &hid = FakeHid::instance();
+    hid.sendReport(QByteArray(smallReport, '\0'));
+    hid.sendReport(hex("5AA50503001000FF"));
+    QTRY_COMPARE(window.messageCount(), 1);
+    QCOMPARE(window.message(0), QStringList({"1", "5A A5", " 05", " 03", "0010", " 00 FF ", ""}));
+    hid.sendReport(hex("0700"));
+    QTRY_COMPARE(window.messageCount(), 2);
+    QCOMPARE(window.message(1).at(5), QString("07 00 "));
+}
+
+void TestHid::theHeaderIsTheSerialTabs()
+{
+    HidWindow window;
+    window.openDevice(smallDevice);
+    window.edit("lineEdit_SBytes")->setText("0x12,0x34");
+    window.edit("lineEdit_SBytes_2")->setText("0xAB,0xCD");
+    window.setRow(0, "01", "0300", "01");
+    window.call("SendOne");
+    QTRY_COMPARE(FakeHid::instance().written().size(), 1);
+    QCOMPARE(FakeHid::instance().written().first(), report(hex("123404") + hex("01030001")));
+}
+
+void TestHid::aFailedWriteEndsLoopAndLink()
+{
+    HidWindow window;
+    window.openDevice(smallDevice);
+    window.setRow(0, "01", "0300", "01");
+    window.checkRow(0);
+    window.edit("lineEdit_StepValue")->setText("20");
+    window.edit("lineEdit_CycleTime")->setText("20");
+    window.click("pushButton_Start_Loop");
+    QTRY_VERIFY(window.messageCount() >= 2);
+    FakeHid::instance().failWrites();
+    QTRY_COMPARE(window.linkCaption(), QString("Open HID Device"));
+    QCOMPARE(window.button("pushButton_Start_Loop")->text(), QString("Auto Send"));
+    QVERIFY(window.find<QTabWidget>("tabWidget")->isEnabled());
+    QCOMPARE(FakeHid::instance().openHandles(), 0);
+    QCOMPARE(FakeHid::instance().misuses(), 0);
+}
+
+void TestHid::theLoopRestsTheWidgetsOfTheTab()
+{
+    HidWindow window;
+    window.openDevice(smallDevice);
+    window.setRow(0, "01", "0300", "01");
+    window.checkRow(0);
+    window.click("pushButton_Start_Loop");
+    const QStringList resting{"pushButton_ConnectHID", "checkBox_CRC_EN_2", "pushButton_SendAll_2",
+                              "lineEdit_SBytes_2"};
+    for (const QString &name : resting) {
+        const auto *widget = window.find<QWidget>(qPrintable(name));
+        QVERIFY2(!widget->isEnabledTo(widget->parentWidget()), qPrintable(name));
+    }
+    const auto *serialButton = window.button("pushButton_OpenCom");
+    QVERIFY(serialButton->isEnabledTo(serialButton->parentWidget()));
+    window.click("pushButton_Start_Loop");
+    for (const QString &name : resting) {
+        QVERIFY2(window.find<QWidget>(qPrintable(name))->isEnabled(), qPrintable(name));
+    }
+}
+
+void TestHid::leavingTheTabClosesTheDevice()
+{
+    HidWindow window;
+    window.openDevice(smallDevice);
+    window.find<QTabWidget>("tabWidget")->setCurrentIndex(0);
+    QCOMPARE(window.linkCaption(), QString("Open HID Device"));
+    QCOMPARE(FakeHid::instance().openHandles(), 0);
+}
+
+void TestHid::closingTheWindowClosesTheDevice()
+{
+    {
+        HidWindow window;
+        window.openDevice(smallDevice);
+        QCOMPARE(FakeHid::instance().openHandles(), 1);
+    }
+    QCOMPARE(FakeHid::instance().openHandles(), 0);
+    QCOMPARE(FakeHid::instance().misuses(), 0);
+}
+
+QTEST_MAIN(TestHid)
+#include "tst_hid.moc"
