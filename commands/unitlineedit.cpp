@@ -19,6 +19,7 @@ UnitLineEdit::UnitLineEdit(QWidget *parent)
     , m_layout(new QHBoxLayout)
 {
     m_unit->setFlat(true);
+    m_unit->setAutoDefault(false);
     m_unit->setStyleSheet(QLatin1String(unitStyle));
     m_unit->setFocusPolicy(Qt::NoFocus);
     m_unit->setCursor(Qt::ArrowCursor);

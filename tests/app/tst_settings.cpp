@@ -163,8 +163,8 @@ void TestSettings::foldersSurvive_data()
     QTest::newRow("umlauts") << QStringLiteral(u"/home/M\u00FCller");
     QTest::newRow("Chinese") << QStringLiteral(u"/home/\u547D\u4EE4");
     QTest::newRow("beyond 16 bits") << QString::fromUtf8("/home/\xF0\x9F\x94\x8C");
-    QTest::newRow("marks of the format") << "/a,b;c=d \"e\" [f] %20 @g";
-    QTest::newRow("backslashes") << "C:\\new\\table\\x41";
+    QTest::newRow("marks of the format") << R"(/a,b;c=d "e" [f] %20 @g)";
+    QTest::newRow("backslashes") << R"(C:\new\table\x41)";
     QTest::newRow("blanks at its ends") << " /home ";
 }
 

@@ -1,0 +1,282 @@
+#include "windowdriver.h"
+
+#include <QDir>
+#include <QSerialPort>
+#include <QSerialPortInfo>
+#include <QtTest>
+
+class TestSerialPorts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void openPortRestsTheBoxes();
+    void openFailureIsTold_data();
+    void openFailureIsTold();
+    void aBusyPortFails();
+    void choosingAnotherPortSwitches();
+    void choosingABadPortClosesTheOther();
+    void theOtherTabClosesThePort();
+    void portsAreListedAfterAWhile();
+    void linksAreListedBehindTheSystemsPorts();
+    void refreshSelectsTheChosenPortAgain();
+    void refreshOpensNothing();
+    void aLostPortIsToldOnce_data();
+    void aLostPortIsToldOnce();
+
+private:
+    QDir m_ports{QCoreApplication::applicationDirPath() + "/ports"};
+};
+
+namespace {
+
+const QStringList boxNames{"comboBox_Comm", "comboBox_Parity", "comboBox_Baudrate",
+                           "comboBox_DataBit", "comboBox_StopBit"};
+
+/// Picks an entry as a person does, so that the box says so.
+void pick(QComboBox *box, int index)
+{
+    box->setCurrentIndex(index);
+    emit box->activated(index);
+}
+
+QSerialPort *serialPort(WindowDriver &window)
+{
+    return window.window().findChild<QSerialPort *>();
+}
+
+bool looksOpen(const WindowDriver &window)
+{
+    return window.button("pushButton_OpenCom")->text() == "Linking...";
+}
+
+} // namespace
+
+void TestSerialPorts::cleanup()
+{
+    for (const QString &name : m_ports.entryList(QDir::AllEntries | QDir::System)) {
+        m_ports.remove(name);
+    }
+}
+
+void TestSerialPorts::openPortRestsTheBoxes()
+{
+    WindowDriver window;
+    const TestPort port;
+    window.open(port);
+    QVERIFY(looksOpen(window));
+    for (const QString &name : boxNames) {
+        QVERIFY(!window.combo(qPrintable(name))->isEnabled());
+    }
+    window.click("pushButton_OpenCom");
+    QVERIFY(!looksOpen(window));
+    QVERIFY(!serialPort(window)->isOpen());
+    for (const QString &name : boxNames) {
+        QVERIFY(window.combo(qPrintable(name))->isEnabled());
+    }
+}
+
+void TestSerialPorts::openFailureIsTold_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("no port in the list") << QString();
+    QTest::newRow("missing") << "/nowhere/port";
+    QTest::newRow("no terminal") << "/dev/null";
+}
+
+void TestSerialPorts::openFailureIsTold()
+{
+    QFETCH(QString, name);
+    MessageBoxes boxes;
+    WindowDriver window;
+    bool hadParent = true;
+    connect(&boxes, &MessageBoxes::shown, this,
+            [&] { hadParent = QApplication::activeModalWidget()->parent() != nullptr; });
+    QComboBox *ports = window.combo("comboBox_Comm");
+    ports->clear();
+    if (!name.isEmpty()) {
+        ports->addItem(name);
+    }
+    window.click("pushButton_OpenCom");
+    QCOMPARE(boxes.texts(), QStringList{"Open fail"});
+    QCOMPARE(boxes.titles(), QStringList{"UART"});
+    QVERIFY(!hadParent);
+    QVERIFY(!looksOpen(window));
+    for (const QString &box : boxNames) {
+        QVERIFY(window.combo(qPrintable(box))->isEnabled());
+    }
+}
+
+void TestSerialPorts::aBusyPortFails()
+{
+    MessageBoxes boxes;
+    WindowDriver window;
+    const TestPort port;
+    QSerialPort other(port.path());
+    QVERIFY(other.open(QIODevice::ReadWrite));
+    window.open(port);
+    QCOMPARE(boxes.texts(), QStringList{"Open fail"});
+    other.close();
+    window.click("pushButton_OpenCom");
+    QVERIFY(looksOpen(window));
+}
+
+void TestSerialPorts::choosingAnotherPortSwitches()
+{
+    WindowDriver window;
+    TestPort former;
+    TestPort next;
+    window.open(former);
+    QComboBox *ports = window.combo("comboBox_Comm");
+    ports->addItem(next.path());
+    pick(ports, ports->count() - 1);
+    QVERIFY(looksOpen(window));
+    QVERIFY(next.path().endsWith(serialPort(window)->portName()));
+    window.setRow(0, "01", "0300", "01");
+    window.call("SendOne");
+    QTRY_COMPARE(next.received(), QByteArray::fromHex("5AA50401030001"));
+    QCOMPARE(former.received(), QByteArray());
+}
+
+void TestSerialPorts::choosingABadPortClosesTheOther()
+{
+    MessageBoxes boxes;
+    WindowDriver window;
+    const TestPort port;
+    window.open(port);
+    QComboBox *ports = window.combo("comboBox_Comm");
+    ports->addItem("/nowhere/port");
+    pick(ports, ports->count() - 1);
+    QCOMPARE(boxes.texts(), QStringList{"Open fail"});
+    QVERIFY(!looksOpen(window));
+    QVERIFY(ports->isEnabled());
+}
+
+void TestSerialPorts::theOtherTabClosesThePort()
+{
+    WindowDriver window;
+    const TestPort port;
+    window.open(port);
+    auto *tabs = window.find<QTabWidget>("tabWidget");
+    tabs->setCurrentIndex(1);
+    QVERIFY(!looksOpen(window));
+    QVERIFY(!serialPort(window)->isOpen());
+    tabs->setCurrentIndex(0);
+    QVERIFY(!serialPort(window)->isOpen());
+}
+
+void TestSerialPorts::portsAreListedAfterAWhile()
+{
+    const TestPort port;
+    WindowDriver window;
+    const QString path = m_ports.absoluteFilePath("device");
+    QVERIFY(m_ports.mkpath("."));
+    QVERIFY(QFile::link(port.path(), path));
+    QComboBox *ports = window.combo("comboBox_Comm");
+    QCOMPARE(ports->count(), 0);
+    QTRY_VERIFY(ports->findText(path) >= 0);
+}
+
+void TestSerialPorts::linksAreListedBehindTheSystemsPorts()
+{
+    const TestPort port;
+    QVERIFY(m_ports.mkpath("."));
+    for (const char *name : {"device10", "device2"}) {
+        QVERIFY(QFile::link(port.path(), m_ports.filePath(name)));
+    }
+    QVERIFY(QFile::link("/nowhere", m_ports.filePath("dead")));
+    WindowDriver window;
+    window.call("Timer1_Out_Event");
+    const QComboBox *ports = window.combo("comboBox_Comm");
+    const int systemPorts = QSerialPortInfo::availablePorts().size();
+    QCOMPARE(ports->count(), systemPorts + 2);
+    QCOMPARE(ports->itemText(systemPorts), m_ports.absoluteFilePath("device2"));
+    QCOMPARE(ports->itemText(systemPorts + 1), m_ports.absoluteFilePath("device10"));
+}
+
+void TestSerialPorts::refreshSelectsTheChosenPortAgain()
+{
+    const TestPort port;
+    QVERIFY(m_ports.mkpath("."));
+    QVERIFY(QFile::link(port.path(), m_ports.filePath("device1")));
+    QVERIFY(QFile::link(port.path(), m_ports.filePath("device2")));
+    WindowDriver window;
+    window.call("Timer1_Out_Event");
+    QComboBox *ports = window.combo("comboBox_Comm");
+    const QString chosen = m_ports.absoluteFilePath("device2");
+    pick(ports, ports->findText(chosen));
+    QVERIFY(looksOpen(window));
+    ports->setCurrentIndex(0);
+    window.call("Timer1_Out_Event");
+    QCOMPARE(ports->currentText(), chosen);
+    window.click("pushButton_OpenCom");
+    ports->setCurrentIndex(0);
+    window.call("Timer1_Out_Event");
+    QCOMPARE(ports->currentText(), chosen);
+    QVERIFY(m_ports.remove("device2"));
+    window.call("Timer1_Out_Event");
+    QCOMPARE(ports->findText(chosen), -1);
+    QVERIFY(ports->currentText() != chosen);
+}
+
+void TestSerialPorts::refreshOpensNothing()
+{
+    MessageBoxes boxes;
+    const TestPort port;
+    QVERIFY(m_ports.mkpath("."));
+    QVERIFY(QFile::link(port.path(), m_ports.filePath("device")));
+    WindowDriver window;
+    window.call("Timer1_Out_Event");
+    window.call("Timer1_Out_Event");
+    QVERIFY(window.combo("comboBox_Comm")->count() > 0);
+    QVERIFY(!looksOpen(window));
+    QCOMPARE(boxes.texts(), QStringList());
+}
+
+void TestSerialPorts::aLostPortIsToldOnce_data()
+{
+    QTest::addColumn<QString>("activity");
+
+    QTest::newRow("idle") << "idle";
+    QTest::newRow("sending") << "sending";
+    QTest::newRow("receiving") << "receiving";
+    QTest::newRow("in the loop") << "loop";
+}
+
+void TestSerialPorts::aLostPortIsToldOnce()
+{
+    QFETCH(QString, activity);
+    MessageBoxes boxes;
+    WindowDriver window;
+    TestPort port;
+    window.open(port);
+    window.setRow(0, "01", "0300", "01");
+    window.checkRow(0);
+    if (activity == "receiving") {
+        port.send(QByteArray::fromHex("5AA503030001").repeated(200));
+    } else if (activity == "loop") {
+        window.edit("lineEdit_StepValue")->setText("0");
+        window.edit("lineEdit_CycleTime")->setText("0");
+        window.click("pushButton_Start_Loop");
+        QTRY_VERIFY(window.messageCount() > 0);
+    }
+    port.unplug();
+    if (activity == "sending") {
+        window.call("SendOne");
+    }
+    QTRY_VERIFY(!looksOpen(window));
+    QTRY_COMPARE(boxes.texts().size(), 1);
+    QVERIFY(boxes.texts().constFirst().contains(port.path()));
+    QVERIFY(!serialPort(window)->isOpen());
+    QVERIFY(window.combo("comboBox_Comm")->isEnabled());
+    QCOMPARE(window.button("pushButton_Start_Loop")->text(), QString("Auto Send"));
+    for (int i = 0; i < 100; ++i) {
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(boxes.texts().size(), 1);
+}
+
+QTEST_MAIN(TestSerialPorts)
+#include "tst_serialports.moc"
