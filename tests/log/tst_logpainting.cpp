@@ -62,7 +62,7 @@ void TestLogPainting::aRowAfterAQuietTimeIsPaintedAtOnce()
 
 void TestLogPainting::rowsThatFollowEachOtherSharePaints()
 {
-    constexpr int rows = 1000;
+    constexpr int rows = 50;
     ShownLog shown;
     const PaintCounter paints(*shown.table.viewport());
     for (int row = 0; row < rows; ++row) {
