@@ -1,0 +1,79 @@
+#include "messagelog.h"
+
+#include <QTableWidget>
+#include <QtTest>
+
+class TestLogPainting : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aRowAfterAQuietTimeIsPaintedAtOnce();
+    void rowsThatFollowEachOtherSharePaints();
+};
+
+namespace {
+
+const QString frameText = QStringLiteral("5A A5 03 03 00 01 ");
+
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget &widget) { widget.installEventFilter(this); }
+
+    int count() const { return m_count; }
+
+    bool eventFilter(QObject * /*object*/, QEvent *event) override
+    {
+        m_count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
+
+/// A log on the screen.
+struct ShownLog
+{
+    ShownLog()
+        : log(table)
+    {
+        table.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&table));
+        QCoreApplication::processEvents();
+    }
+
+    QTableWidget table;
+    MessageLog log;
+};
+
+} // namespace
+
+void TestLogPainting::aRowAfterAQuietTimeIsPaintedAtOnce()
+{
+    ShownLog shown;
+    const PaintCounter paints(*shown.table.viewport());
+    shown.log.appendSent(frameText, false);
+    QVERIFY(shown.table.updatesEnabled());
+    QTRY_VERIFY(paints.count() > 0);
+}
+
+void TestLogPainting::rowsThatFollowEachOtherSharePaints()
+{
+    constexpr int rows = 50;
+    ShownLog shown;
+    const PaintCounter paints(*shown.table.viewport());
+    for (int row = 0; row < rows; ++row) {
+        shown.log.appendSent(frameText, false);
+        QCoreApplication::processEvents();
+    }
+    const int before = paints.count();
+    QVERIFY2(before < rows / 2, qPrintable(QString::number(before)));
+    QTRY_VERIFY(shown.table.updatesEnabled());
+}
+
+QTEST_MAIN(TestLogPainting)
+
+#include "tst_logpainting.moc"
