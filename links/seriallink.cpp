@@ -1,9 +1,9 @@
 #include "seriallink.h"
 
+#include "portstate.h"
+
 #include <QDeadlineTimer>
 #include <QThread>
-
-#include <cerrno>
 
 namespace {
 
@@ -11,6 +11,8 @@ constexpr unsigned long settleMs = 2;
 constexpr int moreDataMs = 5;
 constexpr int writtenMs = 2000;
 constexpr int longestInstructionBytes = 65535;
+/// Failed reads in a row after which a port that is still there is given up.
+constexpr int mostVainReads = 100;
 
 bool endsLink(QSerialPort::SerialPortError error)
 {
@@ -39,6 +41,7 @@ bool SerialLink::open(const SerialSettings &settings)
     m_port.setStopBits(settings.stopBits);
     m_port.setPortName(settings.portName);
     m_failed = false;
+    m_vainReads = 0;
     m_openPortName = m_port.open(QIODevice::ReadWrite) ? settings.portName : QString();
     return m_port.isOpen();
 }
@@ -108,6 +111,7 @@ void SerialLink::writeOut(int milliseconds)
 
 void SerialLink::onReadyRead()
 {
+    m_vainReads = 0;
     if (m_waitsForWritten) {
         m_arrivedMeanwhile = true;
     } else {
@@ -117,11 +121,11 @@ void SerialLink::onReadyRead()
 
 void SerialLink::onError(QSerialPort::SerialPortError error)
 {
-    if (m_port.errorString() == qt_error_string(EAGAIN)) {
-        resumeReading();
+    if (!endsLink(error) || m_failed || !m_port.isOpen()) {
         return;
     }
-    if (!endsLink(error) || m_failed || !m_port.isOpen()) {
+    if (!hasHungUp(qintptr(m_port.handle())) && ++m_vainReads < mostVainReads) {
+        resumeReading();
         return;
     }
     m_failed = true;
@@ -131,7 +135,7 @@ void SerialLink::onError(QSerialPort::SerialPortError error)
 }
 
 /// What a wait has read already may be announced once more; the port then takes finding nothing for
-/// an error and stops listening. Setting the buffer's size makes it listen again.
+/// an error, and may stop listening. Setting the buffer's size makes it listen again.
 void SerialLink::resumeReading()
 {
     m_port.setReadBufferSize(m_port.readBufferSize());

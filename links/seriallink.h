@@ -65,4 +65,5 @@ private:
     bool m_waitsForWritten = false;
     bool m_arrivedMeanwhile = false;
     bool m_failed = false;
+    int m_vainReads = 0;
 };
