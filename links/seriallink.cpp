@@ -10,6 +10,7 @@ namespace {
 constexpr unsigned long settleMs = 2;
 constexpr int moreDataMs = 5;
 constexpr int writtenMs = 2000;
+constexpr int toleratedEmptyReads = 2;
 constexpr int longestInstructionBytes = 65535;
 
 bool endsLink(QSerialPort::SerialPortError error)
@@ -39,6 +40,7 @@ bool SerialLink::open(const SerialSettings &settings)
     m_port.setStopBits(settings.stopBits);
     m_port.setPortName(settings.portName);
     m_failed = false;
+    m_emptyReads = 0;
     m_openPortName = m_port.open(QIODevice::ReadWrite) ? settings.portName : QString();
     return m_port.isOpen();
 }
@@ -62,6 +64,7 @@ QByteArray SerialLink::readArrived()
     // The port takes half a kilobyte a time from the system; all that waits there belongs to it.
     while (m_port.waitForReadyRead(0)) {
     }
+    m_emptyReads = 0;
     return m_port.readAll();
 }
 
@@ -122,6 +125,11 @@ void SerialLink::onError(QSerialPort::SerialPortError error)
         return;
     }
     if (!endsLink(error) || m_failed || !m_port.isOpen()) {
+        return;
+    }
+    // A read that was announced finds nothing where a write has taken the data in meanwhile. A port
+    // that is gone fails again and again.
+    if (error == QSerialPort::ReadError && m_emptyReads++ < toleratedEmptyReads) {
         return;
     }
     m_failed = true;

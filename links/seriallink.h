@@ -65,4 +65,6 @@ private:
     bool m_waitsForWritten = false;
     bool m_arrivedMeanwhile = false;
     bool m_failed = false;
+    /// Since data were taken last.
+    int m_emptyReads = 0;
 };
