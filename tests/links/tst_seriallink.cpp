@@ -24,6 +24,7 @@ private slots:
     void oneReadIsBoundedAndNothingIsLost();
     void closingDropsWhatHasArrived();
     void dataDuringAWriteAreSignalledAfterIt();
+    void writingWhileDataComeInIsNoLoss();
     void lossIsSignalledOnce();
     void lossIsNotSignalledOfAClosedLink();
     void aLostLinkOpensAgain();
@@ -237,6 +238,31 @@ void TestSerialLink::dataDuringAWriteAreSignalledAfterIt()
     QVERIFY(arrived.wait());
     QCOMPARE(link.readArrived(), QByteArray("meanwhile"));
     QCOMPARE(port.received(), block);
+}
+
+void TestSerialLink::writingWhileDataComeInIsNoLoss()
+{
+    constexpr int rounds = 300;
+    TestPort port;
+    SerialLink link(longestRead);
+    QVERIFY(link.open(at(port)));
+    const QSignalSpy lost(&link, &SerialLink::lost);
+    int taken = 0;
+    connect(&link, &SerialLink::arrived, this, [&] { taken += link.readArrived().size(); });
+    for (int round = 1; round <= rounds; ++round) {
+        port.send("in");
+        QMetaObject::invokeMethod(
+            &link,
+            [&link] {
+                link.write("out");
+                link.waitForWritten();
+            },
+            Qt::QueuedConnection);
+        QCoreApplication::processEvents();
+    }
+    QTRY_COMPARE(taken, 2 * rounds);
+    QTRY_COMPARE(port.received().size(), 3 * rounds);
+    QCOMPARE(lost.count(), 0);
 }
 
 void TestSerialLink::lossIsSignalledOnce()
