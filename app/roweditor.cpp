@@ -21,9 +21,10 @@ void RowEditor::open(int row)
     m_editor.editData = content.data;
     m_editor.editType = content.dataType;
     m_editor.loadFromMembers();
-    placeBesideRow(m_editor, m_table, m_table.model()->index(row, CommandColumn::Cmd));
     m_editor.setModal(true);
     m_editor.show();
+    // Only a shown editor has its size.
+    placeBesideRow(m_editor, m_table, m_table.model()->index(row, CommandColumn::Cmd));
 }
 
 void RowEditor::takeBack(int row)

@@ -19,7 +19,7 @@ const char *const customBaudRateEditStyle = "QLineEdit{border-radius: 4px;border
 const char *const dialogStyle = R"(
 QDialog { background: #eef1f5; }
 QLabel { color: #313c61; }
-#label, #label_11 { color: #001560; font-size: 16px; font-weight: bold; }
+#commandArea > #label, #messageArea > #label_11 { color: #001560; font-size: 16px; font-weight: bold; }
 QTabWidget::pane { background: #ffffff; border: 1px solid #d9dfe7; border-radius: 4px; }
 QTabBar::tab {
     background: #d9dfe7; color: #313c61; min-width: 80px; min-height: 32px; margin-right: 4px;
