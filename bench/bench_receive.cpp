@@ -44,7 +44,10 @@ QByteArray pushAll(const TestPort &port)
     }
     std::minstd_rand random(1);
     std::uniform_int_distribution<int> chunkSize(1, longestChunk);
-    for (int at = 0; at < stream.size();) {
+    // Only behind a whole frame does a start byte that comes alone begin the next one.
+    int at = numberedFrame(0).size();
+    port.send(stream.left(at));
+    while (at < stream.size()) {
         const QByteArray chunk = stream.mid(at, chunkSize(random));
         port.send(chunk);
         at += chunk.size();
