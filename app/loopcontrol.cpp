@@ -2,6 +2,12 @@
 
 #include "sender.h"
 
+namespace {
+
+constexpr int behindMs = 5;
+
+} // namespace
+
 LoopControl::LoopControl(Ui::Dialog &form, Sender &sender, QObject *parent)
     : QObject(parent)
     , m_sender(sender)
@@ -45,6 +51,11 @@ void LoopControl::stop()
 void LoopControl::tick()
 {
     m_timer.stop();
+    // A loop that outruns the wire would fill the memory, and go on long after a stop.
+    if (m_loop.isRunning() && m_sender.isLinkBehind()) {
+        m_timer.start(behindMs);
+        return;
+    }
     m_loop.runPass();
 }
 

@@ -24,6 +24,9 @@ public:
     /// Hands a block of whole frames to the device. Blocks are neither reordered nor mixed.
     virtual void write(const QByteArray &block) = 0;
 
+    /// Whether blocks still wait to leave the program, so that a loop had better not add more.
+    virtual bool isBehind() const { return false; }
+
     /// Waits until what was written has left the program, for as long as the kind of link asks for.
     virtual void waitForWritten() = 0;
 };

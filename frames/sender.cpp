@@ -19,6 +19,11 @@ bool Sender::isLinkOpen() const
     return m_link->isOpen();
 }
 
+bool Sender::isLinkBehind() const
+{
+    return m_link->isBehind();
+}
+
 bool Sender::requireOpenLink()
 {
     if (isLinkOpen()) {

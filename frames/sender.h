@@ -22,6 +22,9 @@ public:
     /// Whether the active link is open.
     bool isLinkOpen() const;
 
+    /// Whether what was sent still waits to leave the program.
+    bool isLinkBehind() const;
+
     /// Whether the active link is open; if not, the user is told.
     bool requireOpenLink();
 

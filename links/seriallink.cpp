@@ -90,6 +90,11 @@ void SerialLink::write(const QByteArray &block)
     writeOut(0);
 }
 
+bool SerialLink::isBehind() const
+{
+    return m_port.bytesToWrite() > 0;
+}
+
 void SerialLink::waitForWritten()
 {
     writeOut(writtenMs);

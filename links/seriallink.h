@@ -43,6 +43,7 @@ public:
     QString closedMessage() const override;
     int longestInstruction() const override;
     void write(const QByteArray &block) override;
+    bool isBehind() const override;
     /// Waits for at most 2000 ms.
     void waitForWritten() override;
 

@@ -19,6 +19,7 @@ private slots:
     void tooManyEntriesAreRefused();
     void aPassThatFindsNothing();
     void aLostPortEndsTheLoop();
+    void aLoopThatOutrunsTheWireWaits();
     void closingTheWindowEndsTheLoop();
 };
 
@@ -237,6 +238,26 @@ void TestLoop::aLostPortEndsTheLoop()
     QVERIFY(boxes.texts().first().contains(window.port.path()));
     window.call("SendOne");
     QCOMPARE(boxes.texts().last(), QString("Please open the Com Port!"));
+}
+
+void TestLoop::aLoopThatOutrunsTheWireWaits()
+{
+    LoopWindow window("0", "0", "1");
+    window.setRow(0, "42", "0000", QString("00").repeated(250));
+    window.checkRow(1, false);
+    window.click("pushButton_Start_Loop");
+    // Nobody reads: what the system takes in is soon full.
+    auto *port = window.window().findChild<QSerialPort *>();
+    QTRY_VERIFY(port->bytesToWrite() > 0);
+    const qint64 waiting = port->bytesToWrite();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QTRY_VERIFY(elapsed.hasExpired(200));
+    QCOMPARE(port->bytesToWrite(), waiting);
+    QCOMPARE(window.loopCaption(), QString("Sending..."));
+    const int before = window.port.received().size();
+    QTRY_VERIFY(window.port.received().size() > before + waiting);
+    window.click("pushButton_Start_Loop");
 }
 
 void TestLoop::closingTheWindowEndsTheLoop()
