@@ -22,10 +22,10 @@ constexpr int lastInsertableRow = 512;
 
 } // namespace
 
-CommandTable::CommandTable(QTableWidget &table, QObject *selectCellFilter, QObject *parent)
+CommandTable::CommandTable(QTableWidget &table, QObject *window, QObject *parent)
     : QObject(parent)
     , m_table(table)
-    , m_selectCellFilter(selectCellFilter)
+    , m_window(window)
 {
     m_table.blockSignals(true);
     styleTable(m_table, Column::Count, leastRows);
@@ -144,7 +144,7 @@ QVector<CommandRow> CommandTable::rows() const
 
 void CommandTable::setSelected(int row, bool selected)
 {
-    setSelectCell(m_table, row, Column::Select, selected, m_selectCellFilter);
+    setSelectCell(m_table, row, Column::Select, selected, m_window);
 }
 
 QString CommandTable::currentFrameText() const
@@ -212,8 +212,8 @@ void CommandTable::takeEdited(int row, const CommandRow &edited)
 
 void CommandTable::installDelegates()
 {
-    auto *addrDelegate = new AddrDelegate(parent());
-    auto *dataDelegate = new DataDelegate(parent());
+    auto *addrDelegate = new AddrDelegate(m_window);
+    auto *dataDelegate = new DataDelegate(m_window);
     addrDelegate->installEventFilter(addrDelegate);
     dataDelegate->installEventFilter(dataDelegate);
     m_table.setItemDelegateForColumn(Column::Addr, addrDelegate);

@@ -15,9 +15,9 @@ class CommandTable : public QObject
     Q_OBJECT
 
 public:
-    /// Sets the table up with nine empty rows. The table must outlive this; `selectCellFilter` is
-    /// installed as event filter on the containers of the Select boxes.
-    CommandTable(QTableWidget &table, QObject *selectCellFilter, QObject *parent = nullptr);
+    /// Sets the table up with nine empty rows. Table and window must outlive this; the window owns
+    /// the cells' delegates and is the event filter of the Select boxes' containers.
+    CommandTable(QTableWidget &table, QObject *window, QObject *parent = nullptr);
 
     /// Inserts an empty row and returns whether it did. Beyond index 512 nothing is inserted, and
     /// the table's signals stay blocked until somebody unblocks them.
@@ -84,5 +84,5 @@ private:
     void edit(int row, int column);
 
     QTableWidget &m_table;
-    QObject *m_selectCellFilter;
+    QObject *m_window;
 };
