@@ -73,6 +73,55 @@ bool showsItsWholeText(const QWidget *widget)
            widget->height() >= widget->sizeHint().height();
 }
 
+struct NamedWidget
+{
+    const char *name;
+    const char *kind;
+    const char *text;
+};
+
+const NamedWidget namedWidgets[] = {
+    {"label_Comm", "QLabel", "Com Port:"},
+    {"label_Baudrate", "QLabel", "Baudrate:"},
+    {"label_DataBit", "QLabel", "dataBit:"},
+    {"label_StopBit", "QLabel", "stopBit:"},
+    {"label_Parity", "QLabel", "Parity:"},
+    {"label_SBytes", "QLabel", "CMD Header:"},
+    {"label_CRC_EN", "QLabel", "CRC Enable:"},
+    {"label_Hid_Device", "QLabel", "Device:"},
+    {"label_RpID", "QLabel", "Report ID:"},
+    {"label_SBytes_2", "QLabel", "CMD Header:"},
+    {"label_CRC_EN_2", "QLabel", "CRC Enable:"},
+    {"label", "QLabel", "  Command"},
+    {"label_11", "QLabel", "  Message"},
+    {"label_StepValue", "QLabel", "Interval Time:"},
+    {"label_CycleTime", "QLabel", "Cycle Delay:"},
+    {"pushButton_OpenCom", "QPushButton", "Open Com Port"},
+    {"pushButton_SendAll", "QPushButton", "Send selected items"},
+    {"pushButton_ConnectHID", "QPushButton", "Open HID Device"},
+    {"pushButton_SendAll_2", "QPushButton", "Send selected items"},
+    {"pushButton_Start_Loop", "QPushButton", "Auto Send"},
+    {"pushButton_ClearMessage", "QPushButton", "Clear Message"},
+    {"pushButton_SaveMessage", "QPushButton", "Save Message"},
+    {"lineEdit_SBytes", "QLineEdit", "0x5A,0xA5"},
+    {"lineEdit_SBytes_2", "QLineEdit", "0x5A,0xA5"},
+    {"lineEdit_RpID", "QLineEdit", "0x00"},
+    {"lineEdit_StepValue", "UnitLineEdit", "1000"},
+    {"lineEdit_CycleTime", "UnitLineEdit", "1000"},
+    {"checkBox_CRC_EN", "QCheckBox", ""},
+    {"checkBox_CRC_EN_2", "QCheckBox", ""},
+    {"tableWidget_Register", "QTableWidget", ""},
+    {"tableWidget_Message", "QTableWidget", ""},
+    {"splitter", "QSplitter", ""},
+    {"tabWidget", "QTabWidget", ""},
+    {"comboBox_Comm", "QComboBox", ""},
+    {"comboBox_Baudrate", "QComboBox", ""},
+    {"comboBox_DataBit", "QComboBox", ""},
+    {"comboBox_StopBit", "QComboBox", ""},
+    {"comboBox_Parity", "QComboBox", ""},
+    {"comboBox_Hid_Device", "QComboBox", ""},
+};
+
 } // namespace
 
 void TestMainWindow::titleAndFlags()
@@ -90,66 +139,9 @@ void TestMainWindow::widgetsCarryTheirNames_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("text");
-
-    const auto label = [](const char *name, const char *text) {
-        QTest::newRow(name) << "QLabel" << text;
-    };
-    label("label_Comm", "Com Port:");
-    label("label_Baudrate", "Baudrate:");
-    label("label_DataBit", "dataBit:");
-    label("label_StopBit", "stopBit:");
-    label("label_Parity", "Parity:");
-    label("label_SBytes", "CMD Header:");
-    label("label_CRC_EN", "CRC Enable:");
-    label("label_Hid_Device", "Device:");
-    label("label_RpID", "Report ID:");
-    label("label_SBytes_2", "CMD Header:");
-    label("label_CRC_EN_2", "CRC Enable:");
-    label("label", "  Command");
-    label("label_11", "  Message");
-    label("label_StepValue", "Interval Time:");
-    label("label_CycleTime", "Cycle Delay:");
-    QTest::newRow("pushButton_OpenCom") << "QPushButton"
-                                        << "Open Com Port";
-    QTest::newRow("pushButton_SendAll") << "QPushButton"
-                                        << "Send selected items";
-    QTest::newRow("pushButton_ConnectHID") << "QPushButton"
-                                           << "Open HID Device";
-    QTest::newRow("pushButton_SendAll_2") << "QPushButton"
-                                          << "Send selected items";
-    QTest::newRow("pushButton_Start_Loop") << "QPushButton"
-                                           << "Auto Send";
-    QTest::newRow("pushButton_ClearMessage") << "QPushButton"
-                                             << "Clear Message";
-    QTest::newRow("pushButton_SaveMessage") << "QPushButton"
-                                            << "Save Message";
-    QTest::newRow("lineEdit_SBytes") << "QLineEdit"
-                                     << "0x5A,0xA5";
-    QTest::newRow("lineEdit_SBytes_2") << "QLineEdit"
-                                       << "0x5A,0xA5";
-    QTest::newRow("lineEdit_RpID") << "QLineEdit"
-                                   << "0x00";
-    QTest::newRow("lineEdit_StepValue") << "UnitLineEdit"
-                                        << "1000";
-    QTest::newRow("lineEdit_CycleTime") << "UnitLineEdit"
-                                        << "1000";
-    QTest::newRow("checkBox_CRC_EN") << "QCheckBox"
-                                     << "";
-    QTest::newRow("checkBox_CRC_EN_2") << "QCheckBox"
-                                       << "";
-    for (const char *name : {"comboBox_Comm", "comboBox_Baudrate", "comboBox_DataBit",
-                             "comboBox_StopBit", "comboBox_Parity", "comboBox_Hid_Device"}) {
-        QTest::newRow(name) << "QComboBox"
-                            << "";
+    for (const NamedWidget &widget : namedWidgets) {
+        QTest::newRow(widget.name) << widget.kind << widget.text;
     }
-    QTest::newRow("tableWidget_Register") << "QTableWidget"
-                                          << "";
-    QTest::newRow("tableWidget_Message") << "QTableWidget"
-                                         << "";
-    QTest::newRow("splitter") << "QSplitter"
-                              << "";
-    QTest::newRow("tabWidget") << "QTabWidget"
-                               << "";
 }
 
 void TestMainWindow::widgetsCarryTheirNames()
@@ -157,7 +149,9 @@ void TestMainWindow::widgetsCarryTheirNames()
     QFETCH(QString, kind);
     const WindowDriver window;
     const auto *widget = window.find<QWidget>(QTest::currentDataTag());
-    QVERIFY(widget != nullptr);
+    if (widget == nullptr) {
+        QFAIL("there is no such widget");
+    }
     QVERIFY(widget->inherits(qPrintable(kind)));
     QTEST(caption(widget), "text");
 }
