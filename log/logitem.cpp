@@ -5,7 +5,7 @@
 #include <utility>
 
 LogItem::LogItem(QString text, Qt::Alignment alignment, Origin origin)
-    : m_text(text)
+    : m_text(std::move(text))
     , m_alignment(alignment)
     , m_origin(origin)
 {

@@ -81,8 +81,7 @@ void TestDelegates::dataEditorIsTheUsualOne()
     const DataDelegate delegate;
     auto *editor = qobject_cast<QLineEdit *>(
         delegate.createEditor(table.viewport(), {}, table.model()->index(0, 0)));
-    QVERIFY(editor != nullptr);
-    QVERIFY(editor->validator() == nullptr);
+    QVERIFY(editor != nullptr && editor->validator() == nullptr);
 }
 
 void TestDelegates::addressSignalsComeInOrder_data()
