@@ -1,24 +1,20 @@
 #include "dialog.h"
 
+#include "boxes.h"
 #include "datafolder.h"
 #include "fieldcutter.h"
 #include "styles.h"
 #include "ui_dialog.h"
 #include "version.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
-#include <QIntValidator>
 #include <QMessageBox>
-#include <QShortcut>
 #include <QToolTip>
 
 namespace {
 
 constexpr int longestInstruction = 65535;
 constexpr int firstRefreshMs = 1000;
-constexpr int longestMs = 10000;
 constexpr int commandStretch = 10;
 constexpr int messageStretch = 8;
 constexpr int tipColumn = 5;
@@ -55,6 +51,7 @@ Dialog::Dialog(QWidget *parent)
     , m_rowActions(*m_form->tableWidget_Register, m_commands, this)
     , m_rowEditor(*m_form->tableWidget_Register, m_commands, this)
     , m_log(*m_form->tableWidget_Message, this)
+    , m_messageCopy(*m_form->tableWidget_Message, m_log, this)
     , m_devices(m_serialLink, m_hidLink, m_log, this)
     , m_files(this, dataFolder(), fileHooks())
     , m_receiver([this] { return m_frameOptions.readStartBytes(); }, this)
@@ -65,7 +62,7 @@ Dialog::Dialog(QWidget *parent)
     connectLinks();
     connectSending();
     setUpCommands();
-    setUpMessages();
+    setUpTips();
     setUpTimers();
     watchDevices();
     m_files.setLastLoadFolder(m_settings.lastLoadPath);
@@ -82,7 +79,7 @@ Dialog::~Dialog()
 
 void Dialog::closeEvent(QCloseEvent *event)
 {
-    if (m_commandsModified && userWantsToSave()) {
+    if (m_commandsModified && askToSaveCommands()) {
         m_files.saveCommands();
     }
     m_loop.stop();
@@ -109,11 +106,6 @@ void Dialog::setUpWindow()
     setStyleSheet(windowStyle());
     m_form->splitter->setStretchFactor(0, commandStretch);
     m_form->splitter->setStretchFactor(1, messageStretch);
-    auto *milliseconds = new QIntValidator(0, longestMs, this);
-    for (UnitLineEdit *edit : {m_form->lineEdit_StepValue, m_form->lineEdit_CycleTime}) {
-        edit->setUnit(tr("ms"));
-        edit->setValidator(milliseconds);
-    }
 }
 
 void Dialog::setUpCommands()
@@ -138,28 +130,12 @@ void Dialog::setUpCommands()
     connect(&m_commands, &CommandTable::enterPressed, this, &Dialog::on_DataEnter);
 }
 
-void Dialog::setUpMessages()
+void Dialog::setUpTips()
 {
     for (QTableWidget *table : {m_form->tableWidget_Register, m_form->tableWidget_Message}) {
         table->setMouseTracking(true);
         connect(table, &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
     }
-    auto *copy = new QShortcut(QKeySequence::Copy, m_form->tableWidget_Message);
-    copy->setContext(Qt::WidgetShortcut);
-    connect(copy, &QShortcut::activated, this, &Dialog::copyMessages);
-}
-
-/// The selected rows, as the saved log would show them.
-void Dialog::copyMessages()
-{
-    const auto rows = m_log.rows();
-    QVector<MessageRow> selected;
-    for (const QModelIndex &index : m_form->tableWidget_Message->selectionModel()->selectedRows()) {
-        if (index.row() < rows.size()) {
-            selected.append(rows.at(index.row()));
-        }
-    }
-    QApplication::clipboard()->setText(messageFileText(selected));
 }
 
 FileActionHooks Dialog::fileHooks()
@@ -260,8 +236,7 @@ void Dialog::on_pushButton_ConnectHID_clicked()
     if (m_hidLink.isOpen()) {
         m_hidPanel.close();
     } else if (!m_hidPanel.open()) {
-        QMessageBox::information(nullptr, QStringLiteral("HID"), QStringLiteral("Open fail"),
-                                 QMessageBox::Ok);
+        showOpenFail(QStringLiteral("HID"));
     }
 }
 
@@ -417,17 +392,8 @@ void Dialog::showMessage(const QString &text)
 void Dialog::openSerialPort()
 {
     if (!m_serialPanel.open()) {
-        QMessageBox::information(nullptr, QStringLiteral("UART"), QStringLiteral("Open fail"),
-                                 QMessageBox::Ok);
+        showOpenFail(QStringLiteral("UART"));
     }
-}
-
-bool Dialog::userWantsToSave()
-{
-    QMessageBox question(QMessageBox::Question, tr("Message"),
-                         QStringLiteral("Do you want to save your command?"),
-                         QMessageBox::Yes | QMessageBox::No);
-    return question.exec() == QMessageBox::Yes;
 }
 
 void Dialog::endSerialLink()

@@ -7,6 +7,7 @@
 #include "hidlink.h"
 #include "hidpanel.h"
 #include "loopcontrol.h"
+#include "messagecopy.h"
 #include "messagelog.h"
 #include "receiver.h"
 #include "rowactions.h"
@@ -82,7 +83,7 @@ private slots:
 private:
     void setUpWindow();
     void setUpCommands();
-    void setUpMessages();
+    void setUpTips();
     FileActionHooks fileHooks();
     void setUpTimers();
     void connectLinks();
@@ -94,10 +95,8 @@ private:
     void showMessage(const QString &text);
 
     void openSerialPort();
-    bool userWantsToSave();
     void endSerialLink();
     void endHidLink();
-    void copyMessages();
     void logNotice(const QString &hexText);
 
     std::unique_ptr<Ui::Dialog> m_form;
@@ -116,6 +115,7 @@ private:
     std::unique_ptr<RowMenus> m_menus;
     RowEditor m_rowEditor;
     MessageLog m_log;
+    MessageCopy m_messageCopy;
     DeviceWatch m_devices;
     FileActions m_files;
     Receiver m_receiver;

@@ -3,7 +3,11 @@
 #include "styles.h"
 #include "ui_dialog.h"
 
+#include <QIntValidator>
+
 namespace {
+
+constexpr int longestMs = 10000;
 
 void setEnabled(const QList<QWidget *> &widgets, bool enabled)
 {
@@ -18,6 +22,7 @@ LoopPanel::LoopPanel(Ui::Dialog &form, QObject *parent)
     : QObject(parent)
     , m_form(form)
 {
+    prepareTimingFields();
     showIdleButton();
 }
 
@@ -50,6 +55,15 @@ int LoopPanel::intervalMs() const
 int LoopPanel::cycleDelayMs() const
 {
     return m_form.lineEdit_CycleTime->text().toInt();
+}
+
+void LoopPanel::prepareTimingFields()
+{
+    auto *milliseconds = new QIntValidator(0, longestMs, this);
+    for (UnitLineEdit *edit : {m_form.lineEdit_StepValue, m_form.lineEdit_CycleTime}) {
+        edit->setUnit(tr("ms"));
+        edit->setValidator(milliseconds);
+    }
 }
 
 QList<QWidget *> LoopPanel::fileAndTimingWidgets() const

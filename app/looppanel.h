@@ -18,7 +18,7 @@ class LoopPanel : public QObject
     Q_OBJECT
 
 public:
-    /// The form must outlive the panel.
+    /// Makes the timing fields take milliseconds. The form must outlive the panel.
     explicit LoopPanel(Ui::Dialog &form, QObject *parent = nullptr);
 
     /// Disables what must not change under a running loop over the link, and shows it as running.
@@ -36,6 +36,7 @@ public:
     int cycleDelayMs() const;
 
 private:
+    void prepareTimingFields();
     QList<QWidget *> fileAndTimingWidgets() const;
     QList<QWidget *> linkWidgets(LinkMode mode) const;
     void showIdleButton();

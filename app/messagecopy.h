@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+
+class MessageLog;
+class QTableWidget;
+
+/// The copy key in the message log: puts the selected rows on the clipboard, as a saved log would
+/// show them.
+class MessageCopy : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The table is the log's; both must outlive this.
+    MessageCopy(QTableWidget &table, MessageLog &log, QObject *parent = nullptr);
+
+private:
+    void copySelectedRows();
+
+    QTableWidget &m_table;
+    MessageLog &m_log;
+};
