@@ -1,5 +1,7 @@
 #include "cellwidgets.h"
 
+#include "cellsinview.h"
+
 #include <QCheckBox>
 #include <QEvent>
 #include <QFocusEvent>
@@ -30,11 +32,12 @@ bool isTabFocus(const QEvent &event)
 }
 
 /// A button in a cell that takes its row along when the user goes to it.
-class RowButton : public QPushButton
+class RowButton : public CellWidget<QPushButton>
 {
 public:
     explicit RowButton(QTableWidget &table)
-        : m_table(table)
+        : CellWidget<QPushButton>(table.viewport())
+        , m_table(table)
     {}
 
 protected:
@@ -44,7 +47,7 @@ protected:
             const QModelIndex index = m_table.indexAt(geometry().center());
             m_table.setCurrentCell(index.row(), index.column());
         }
-        return QPushButton::event(event);
+        return CellWidget<QPushButton>::event(event);
     }
 
 private:
@@ -55,9 +58,9 @@ private:
 
 void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter)
 {
-    auto *container = new QWidget(&table);
+    auto *container = new CellWidget<QWidget>(table.viewport());
     auto *layout = new QHBoxLayout(container);
-    auto *box = new QCheckBox(container);
+    auto *box = new LateStyled<QCheckBox>(container);
     box->setStyleSheet(QLatin1String(selectStyle));
     box->setChecked(checked);
     layout->setMargin(0);
@@ -76,13 +79,13 @@ bool isSelectCellChecked(const QTableWidget &table, int row, int column)
     return box != nullptr && box->isChecked();
 }
 
-QPushButton *setSendCell(QTableWidget &table, int row, int column)
+QPushButton *setSendCell(QTableWidget &table, int row, int column, const QIcon &icon)
 {
     auto *button = new RowButton(table);
     button->setFlat(true);
     button->setDefault(false);
     button->setAutoDefault(false);
-    button->setIcon(QIcon(QStringLiteral(":/Image/Send.png")));
+    button->setIcon(icon);
     button->setStyleSheet(QLatin1String(sendStyle));
     table.setCellWidget(row, column, button);
     return button;

@@ -1,8 +1,11 @@
 #pragma once
 
+class QIcon;
 class QObject;
 class QPushButton;
 class QTableWidget;
+
+// The widgets are CellWidgets: they have to be taken up before they show.
 
 /// Puts a new check box into the cell, centred in a container that `filter` watches.
 void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter);
@@ -12,4 +15,4 @@ bool isSelectCellChecked(const QTableWidget &table, int row, int column);
 
 /// Puts a new send button into the cell. Pressing it, or moving to it by keyboard, makes its row
 /// the current one, so that what its click sends is the row the user points at.
-QPushButton *setSendCell(QTableWidget &table, int row, int column);
+QPushButton *setSendCell(QTableWidget &table, int row, int column, const QIcon &icon);

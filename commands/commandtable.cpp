@@ -1,6 +1,7 @@
 #include "commandtable.h"
 
 #include "addrdelegate.h"
+#include "cellwidgetdelegate.h"
 #include "cellwidgets.h"
 #include "commandcolumns.h"
 #include "datadelegate.h"
@@ -26,6 +27,8 @@ CommandTable::CommandTable(QTableWidget &table, QObject *window, QObject *parent
     : QObject(parent)
     , m_table(table)
     , m_window(window)
+    , m_sendIcon(QStringLiteral(":/Image/Send.png"))
+    , m_cellsInView(table, {Column::Select, Column::Send})
 {
     m_table.blockSignals(true);
     styleTable(m_table, Column::Count, leastRows);
@@ -110,8 +113,9 @@ void CommandTable::replaceRows(const QVector<CommandRow> &rows)
     m_table.setRowCount(0);
     m_table.setRowCount(std::max(leastRows, rows.size()));
     for (int row = 0; row < m_table.rowCount(); ++row) {
-        fillRow(row, row < rows.size() ? rows.at(row) : emptyRow());
+        writeRow(row, row < rows.size() ? rows.at(row) : emptyRow());
     }
+    m_cellsInView.takeUpAll();
     m_table.setUpdatesEnabled(true);
     m_table.blockSignals(false);
 }
@@ -145,6 +149,7 @@ QVector<CommandRow> CommandTable::rows() const
 void CommandTable::setSelected(int row, bool selected)
 {
     setSelectCell(m_table, row, Column::Select, selected, m_window);
+    m_cellsInView.takeUp(row);
 }
 
 QString CommandTable::currentFrameText() const
@@ -216,6 +221,9 @@ void CommandTable::installDelegates()
     auto *dataDelegate = new DataDelegate(m_window);
     addrDelegate->installEventFilter(addrDelegate);
     dataDelegate->installEventFilter(dataDelegate);
+    auto *cellWidgetDelegate = new CellWidgetDelegate(this);
+    m_table.setItemDelegateForColumn(Column::Select, cellWidgetDelegate);
+    m_table.setItemDelegateForColumn(Column::Send, cellWidgetDelegate);
     m_table.setItemDelegateForColumn(Column::Addr, addrDelegate);
     m_table.setItemDelegateForColumn(Column::Data, dataDelegate);
     connect(addrDelegate, &AddrDelegate::AfterCommitData, this, &CommandTable::addressCommitted);
@@ -231,13 +239,19 @@ void CommandTable::insertFilledRow(int row, const CommandRow &content)
 
 void CommandTable::fillRow(int row, const CommandRow &content)
 {
+    writeRow(row, content);
+    m_cellsInView.takeUp(row);
+}
+
+void CommandTable::writeRow(int row, const CommandRow &content)
+{
     setCentredItem(m_table, row, Column::Description, content.description);
-    setSelected(row, content.selected);
+    setSelectCell(m_table, row, Column::Select, content.selected, m_window);
     setCentredItem(m_table, row, Column::Cmd, content.cmd);
     setCentredItem(m_table, row, Column::Addr, content.addr);
     setLeftItem(m_table, row, Column::Data, content.data);
     setCentredItem(m_table, row, Column::Crc, content.crc);
-    const QPushButton *button = setSendCell(m_table, row, Column::Send);
+    const QPushButton *button = setSendCell(m_table, row, Column::Send, m_sendIcon);
     connect(button, &QPushButton::clicked, this, &CommandTable::sendRequested);
     setCentredItem(m_table, row, Column::DataType, content.dataType);
     setLeftItem(m_table, row, Column::OriginalData, content.originalData);

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "cellsinview.h"
 #include "commandrow.h"
 #include "sendplan.h"
 
+#include <QIcon>
 #include <QObject>
 #include <QVector>
 
@@ -80,9 +82,12 @@ private:
     void installDelegates();
     void insertFilledRow(int row, const CommandRow &content);
     void fillRow(int row, const CommandRow &content);
+    void writeRow(int row, const CommandRow &content);
     void moveByCopy(int from, int to);
     void edit(int row, int column);
 
     QTableWidget &m_table;
     QObject *m_window;
+    QIcon m_sendIcon;
+    CellsInView m_cellsInView;
 };

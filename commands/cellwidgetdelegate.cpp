@@ -1,0 +1,9 @@
+#include "cellwidgetdelegate.h"
+
+#include <QWidget>
+
+void CellWidgetDelegate::updateEditorGeometry(QWidget *widget, const QStyleOptionViewItem &option,
+                                              const QModelIndex & /*index*/) const
+{
+    widget->setGeometry(option.rect);
+}
