@@ -33,6 +33,8 @@ static std::unique_ptr<Ui::Dialog> makeForm(QDialog *dialog)
     initImages();
     auto form = std::make_unique<Ui::Dialog>();
     form->setupUi(dialog);
+    // Before anything measures a text.
+    dialog->setStyleSheet(windowStyle());
     return form;
 }
 
@@ -103,7 +105,6 @@ void Dialog::setUpWindow()
     setWindowTitle(QLatin1String(windowTitleText));
     setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     setWindowIcon(QIcon(QStringLiteral(":/Image/tarnwick.png")));
-    setStyleSheet(windowStyle());
     m_form->splitter->setStretchFactor(0, commandStretch);
     m_form->splitter->setStretchFactor(1, messageStretch);
 }

@@ -55,6 +55,7 @@ QCheckBox::indicator:checked { image: url(:/Image/Checkbox_check.png); }
 QCheckBox::indicator:checked:hover, QCheckBox::indicator:checked:focus {
     image: url(:/Image/Checkbox_check_hover.png);
 }
+QTableWidget { outline: 1px solid #0090ff; }
 QTableWidget QLineEdit { padding-left: 2px; border-radius: 0px; }
 QTableWidget QPushButton { padding: 0px; border: 1px solid transparent; }
 QTableWidget QPushButton:focus { border-color: #0090ff; }
