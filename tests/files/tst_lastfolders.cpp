@@ -1,4 +1,5 @@
 #include "lastfolders.h"
+#include "testfiles.h"
 
 #include <QTemporaryDir>
 #include <QTextCodec>
@@ -9,11 +10,11 @@ class TestLastFolders : public QObject
     Q_OBJECT
 
 private slots:
-    void folder_data();
-    void folder();
+    void folderOfAFileIsWhatComesBeforeItsName_data();
+    void folderOfAFileIsWhatComesBeforeItsName();
     void keepsTheOtherLine_data();
     void keepsTheOtherLine();
-    void writesTheRecord();
+    void bothFoldersAreWrittenLineByLine();
     void survivesAnImpossibleRecord();
 };
 
@@ -24,15 +25,9 @@ QByteArray record(const char *lines)
     return QByteArray("\xEF\xBB\xBF") + lines;
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
 } // namespace
 
-void TestLastFolders::folder_data()
+void TestLastFolders::folderOfAFileIsWhatComesBeforeItsName_data()
 {
     QTest::addColumn<QString>("fileName");
     QTest::addColumn<QString>("folder");
@@ -55,7 +50,7 @@ void TestLastFolders::folder_data()
                                      << "";
 }
 
-void TestLastFolders::folder()
+void TestLastFolders::folderOfAFileIsWhatComesBeforeItsName()
 {
     QFETCH(QString, fileName);
     QTEST(folderOf(fileName), "folder");
@@ -95,7 +90,7 @@ void TestLastFolders::keepsTheOtherLine()
     QTEST(recordWithSaveFolder(before, folder), "withSave");
 }
 
-void TestLastFolders::writesTheRecord()
+void TestLastFolders::bothFoldersAreWrittenLineByLine()
 {
     const QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("lastCommand_path.ini"));

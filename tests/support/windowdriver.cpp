@@ -69,3 +69,8 @@ int WindowDriver::messageCount() const
     }
     return count;
 }
+
+bool isOfTheForm(const QWidget *widget)
+{
+    return !widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_");
+}

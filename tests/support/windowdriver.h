@@ -53,3 +53,6 @@ public:
 private:
     Dialog m_window;
 };
+
+/// Whether a widget is one of the form itself, not one that Qt or a table puts into others.
+bool isOfTheForm(const QWidget *widget);

@@ -1,4 +1,4 @@
-#include "windowdriver.h"
+#include "serialwindow.h"
 
 #include <QIntValidator>
 #include <QSerialPort>
@@ -21,27 +21,6 @@ private slots:
     void anotherRateIsNotTyped();
 };
 
-namespace {
-
-/// Picks an entry as a person does, so that the box says so.
-void pick(QComboBox *box, int index)
-{
-    box->setCurrentIndex(index);
-    emit box->activated(index);
-}
-
-QSerialPort *serialPort(WindowDriver &window)
-{
-    return window.window().findChild<QSerialPort *>();
-}
-
-bool looksOpen(const WindowDriver &window)
-{
-    return window.button("pushButton_OpenCom")->text() == "Linking...";
-}
-
-} // namespace
-
 void TestSerial::optionsAreListed_data()
 {
     QTest::addColumn<QStringList>("texts");
@@ -58,7 +37,7 @@ void TestSerial::optionsAreListed_data()
 
 void TestSerial::optionsAreListed()
 {
-    const WindowDriver window;
+    const SerialWindow window;
     const QComboBox *box = window.combo(QTest::currentDataTag());
     QStringList texts;
     for (int i = 0; i < box->count(); ++i) {
@@ -101,37 +80,37 @@ void TestSerial::optionsReachThePort()
     QFETCH(QString, box);
     QFETCH(int, index);
     QFETCH(QByteArray, property);
-    WindowDriver window;
+    SerialWindow window;
     const TestPort port;
-    pick(window.combo(qPrintable(box)), index);
+    SerialWindow::pick(window.combo(qPrintable(box)), index);
     window.open(port);
-    QVERIFY(looksOpen(window));
-    QTEST(serialPort(window)->property(property.constData()).toInt(), "value");
-    QCOMPARE(serialPort(window)->flowControl(), QSerialPort::NoFlowControl);
-    QCOMPARE(serialPort(window)->openMode(), QIODevice::ReadWrite);
+    QVERIFY(window.looksOpen());
+    QTEST(window.port()->property(property.constData()).toInt(), "value");
+    QCOMPARE(window.port()->flowControl(), QSerialPort::NoFlowControl);
+    QCOMPARE(window.port()->openMode(), QIODevice::ReadWrite);
     if (property == "baudRate") {
-        QCOMPARE(int(port.line().baudRate), serialPort(window)->baudRate());
+        QCOMPARE(int(port.line().baudRate), window.port()->baudRate());
     }
 }
 
 void TestSerial::thereIsOnePortObject()
 {
-    WindowDriver window;
-    const QSerialPort *object = serialPort(window);
+    SerialWindow window;
+    const QSerialPort *object = window.port();
     const TestPort first;
     const TestPort second;
     window.open(first);
     window.click("pushButton_OpenCom");
     window.open(second);
     QCOMPARE(window.window().findChildren<QSerialPort *>().size(), 1);
-    QCOMPARE(serialPort(window), object);
+    QCOMPARE(window.port(), object);
 }
 
 void TestSerial::customRateIsTyped()
 {
-    WindowDriver window;
+    SerialWindow window;
     QComboBox *box = window.combo("comboBox_Baudrate");
-    pick(box, 0);
+    SerialWindow::pick(box, 0);
     QVERIFY(box->isEditable());
     QLineEdit *edit = box->lineEdit();
     const auto *validator = qobject_cast<const QIntValidator *>(edit->validator());
@@ -165,14 +144,14 @@ void TestSerial::customRateIsUsed()
 {
     QFETCH(QString, typed);
     QFETCH(int, rate);
-    WindowDriver window;
+    SerialWindow window;
     const TestPort port;
     QComboBox *box = window.combo("comboBox_Baudrate");
-    pick(box, 0);
+    SerialWindow::pick(box, 0);
     QTest::keyClicks(box->lineEdit(), typed);
     window.open(port);
-    QVERIFY(looksOpen(window));
-    QCOMPARE(serialPort(window)->baudRate(), rate);
+    QVERIFY(window.looksOpen());
+    QCOMPARE(window.port()->baudRate(), rate);
     QCOMPARE(int(port.line().baudRate), rate);
     QCOMPARE(box->count(), 11);
 }
@@ -180,22 +159,22 @@ void TestSerial::customRateIsUsed()
 void TestSerial::anEmptyCustomRateFails()
 {
     MessageBoxes boxes;
-    WindowDriver window;
+    SerialWindow window;
     const TestPort port;
-    pick(window.combo("comboBox_Baudrate"), 0);
+    SerialWindow::pick(window.combo("comboBox_Baudrate"), 0);
     window.open(port);
     QCOMPARE(boxes.texts(), QStringList{"Open fail"});
-    QVERIFY(!looksOpen(window));
+    QVERIFY(!window.looksOpen());
 }
 
 void TestSerial::anotherRateIsNotTyped()
 {
-    WindowDriver window;
+    SerialWindow window;
     const TestPort port;
     QComboBox *box = window.combo("comboBox_Baudrate");
-    pick(box, 0);
+    SerialWindow::pick(box, 0);
     QTest::keyClicks(box->lineEdit(), "777");
-    pick(box, 2);
+    SerialWindow::pick(box, 2);
     QVERIFY(!box->isEditable());
     window.open(port);
     QCOMPARE(int(port.line().baudRate), 19200);

@@ -1,4 +1,4 @@
-#include "windowdriver.h"
+#include "serialwindow.h"
 
 #include <QDir>
 #include <QSerialPort>
@@ -34,23 +34,6 @@ namespace {
 const QStringList boxNames{"comboBox_Comm", "comboBox_Parity", "comboBox_Baudrate",
                            "comboBox_DataBit", "comboBox_StopBit"};
 
-/// Picks an entry as a person does, so that the box says so.
-void pick(QComboBox *box, int index)
-{
-    box->setCurrentIndex(index);
-    emit box->activated(index);
-}
-
-QSerialPort *serialPort(WindowDriver &window)
-{
-    return window.window().findChild<QSerialPort *>();
-}
-
-bool looksOpen(const WindowDriver &window)
-{
-    return window.button("pushButton_OpenCom")->text() == "Linking...";
-}
-
 } // namespace
 
 void TestSerialPorts::cleanup()
@@ -62,16 +45,16 @@ void TestSerialPorts::cleanup()
 
 void TestSerialPorts::openPortRestsTheBoxes()
 {
-    WindowDriver window;
+    SerialWindow window;
     const TestPort port;
     window.open(port);
-    QVERIFY(looksOpen(window));
+    QVERIFY(window.looksOpen());
     for (const QString &name : boxNames) {
         QVERIFY(!window.combo(qPrintable(name))->isEnabled());
     }
     window.click("pushButton_OpenCom");
-    QVERIFY(!looksOpen(window));
-    QVERIFY(!serialPort(window)->isOpen());
+    QVERIFY(!window.looksOpen());
+    QVERIFY(!window.port()->isOpen());
     for (const QString &name : boxNames) {
         QVERIFY(window.combo(qPrintable(name))->isEnabled());
     }
@@ -90,7 +73,7 @@ void TestSerialPorts::openFailureIsTold()
 {
     QFETCH(QString, name);
     MessageBoxes boxes;
-    WindowDriver window;
+    SerialWindow window;
     bool hadParent = true;
     connect(&boxes, &MessageBoxes::shown, this,
             [&] { hadParent = QApplication::activeModalWidget()->parent() != nullptr; });
@@ -103,7 +86,7 @@ void TestSerialPorts::openFailureIsTold()
     QCOMPARE(boxes.texts(), QStringList{"Open fail"});
     QCOMPARE(boxes.titles(), QStringList{"UART"});
     QVERIFY(!hadParent);
-    QVERIFY(!looksOpen(window));
+    QVERIFY(!window.looksOpen());
     for (const QString &box : boxNames) {
         QVERIFY(window.combo(qPrintable(box))->isEnabled());
     }
@@ -112,7 +95,7 @@ void TestSerialPorts::openFailureIsTold()
 void TestSerialPorts::aBusyPortFails()
 {
     MessageBoxes boxes;
-    WindowDriver window;
+    SerialWindow window;
     const TestPort port;
     QSerialPort other(port.path());
     QVERIFY(other.open(QIODevice::ReadWrite));
@@ -120,20 +103,20 @@ void TestSerialPorts::aBusyPortFails()
     QCOMPARE(boxes.texts(), QStringList{"Open fail"});
     other.close();
     window.click("pushButton_OpenCom");
-    QVERIFY(looksOpen(window));
+    QVERIFY(window.looksOpen());
 }
 
 void TestSerialPorts::choosingAnotherPortSwitches()
 {
-    WindowDriver window;
+    SerialWindow window;
     TestPort former;
     TestPort next;
     window.open(former);
     QComboBox *ports = window.combo("comboBox_Comm");
     ports->addItem(next.path());
-    pick(ports, ports->count() - 1);
-    QVERIFY(looksOpen(window));
-    QVERIFY(next.path().endsWith(serialPort(window)->portName()));
+    SerialWindow::pick(ports, ports->count() - 1);
+    QVERIFY(window.looksOpen());
+    QVERIFY(next.path().endsWith(window.port()->portName()));
     window.setRow(0, "01", "0300", "01");
     window.call("SendOne");
     QTRY_COMPARE(next.received(), QByteArray::fromHex("5AA50401030001"));
@@ -143,34 +126,34 @@ void TestSerialPorts::choosingAnotherPortSwitches()
 void TestSerialPorts::choosingABadPortClosesTheOther()
 {
     MessageBoxes boxes;
-    WindowDriver window;
+    SerialWindow window;
     const TestPort port;
     window.open(port);
     QComboBox *ports = window.combo("comboBox_Comm");
     ports->addItem("/nowhere/port");
-    pick(ports, ports->count() - 1);
+    SerialWindow::pick(ports, ports->count() - 1);
     QCOMPARE(boxes.texts(), QStringList{"Open fail"});
-    QVERIFY(!looksOpen(window));
+    QVERIFY(!window.looksOpen());
     QVERIFY(ports->isEnabled());
 }
 
 void TestSerialPorts::theOtherTabClosesThePort()
 {
-    WindowDriver window;
+    SerialWindow window;
     const TestPort port;
     window.open(port);
     auto *tabs = window.find<QTabWidget>("tabWidget");
     tabs->setCurrentIndex(1);
-    QVERIFY(!looksOpen(window));
-    QVERIFY(!serialPort(window)->isOpen());
+    QVERIFY(!window.looksOpen());
+    QVERIFY(!window.port()->isOpen());
     tabs->setCurrentIndex(0);
-    QVERIFY(!serialPort(window)->isOpen());
+    QVERIFY(!window.port()->isOpen());
 }
 
 void TestSerialPorts::portsAreListedAfterAWhile()
 {
     const TestPort port;
-    WindowDriver window;
+    SerialWindow window;
     const QString path = m_ports.absoluteFilePath("device");
     QVERIFY(m_ports.mkpath("."));
     QVERIFY(QFile::link(port.path(), path));
@@ -187,7 +170,7 @@ void TestSerialPorts::linksAreListedBehindTheSystemsPorts()
         QVERIFY(QFile::link(port.path(), m_ports.filePath(name)));
     }
     QVERIFY(QFile::link("/nowhere", m_ports.filePath("dead")));
-    WindowDriver window;
+    SerialWindow window;
     window.call("Timer1_Out_Event");
     const QComboBox *ports = window.combo("comboBox_Comm");
     const int systemPorts = QSerialPortInfo::availablePorts().size();
@@ -202,12 +185,12 @@ void TestSerialPorts::refreshSelectsTheChosenPortAgain()
     QVERIFY(m_ports.mkpath("."));
     QVERIFY(QFile::link(port.path(), m_ports.filePath("device1")));
     QVERIFY(QFile::link(port.path(), m_ports.filePath("device2")));
-    WindowDriver window;
+    SerialWindow window;
     window.call("Timer1_Out_Event");
     QComboBox *ports = window.combo("comboBox_Comm");
     const QString chosen = m_ports.absoluteFilePath("device2");
-    pick(ports, ports->findText(chosen));
-    QVERIFY(looksOpen(window));
+    SerialWindow::pick(ports, ports->findText(chosen));
+    QVERIFY(window.looksOpen());
     ports->setCurrentIndex(0);
     window.call("Timer1_Out_Event");
     QCOMPARE(ports->currentText(), chosen);
@@ -227,11 +210,11 @@ void TestSerialPorts::refreshOpensNothing()
     const TestPort port;
     QVERIFY(m_ports.mkpath("."));
     QVERIFY(QFile::link(port.path(), m_ports.filePath("device")));
-    WindowDriver window;
+    SerialWindow window;
     window.call("Timer1_Out_Event");
     window.call("Timer1_Out_Event");
     QVERIFY(window.combo("comboBox_Comm")->count() > 0);
-    QVERIFY(!looksOpen(window));
+    QVERIFY(!window.looksOpen());
     QCOMPARE(boxes.texts(), QStringList());
 }
 
@@ -249,7 +232,7 @@ void TestSerialPorts::aLostPortIsToldOnce()
 {
     QFETCH(QString, activity);
     MessageBoxes boxes;
-    WindowDriver window;
+    SerialWindow window;
     TestPort port;
     window.open(port);
     window.setRow(0, "01", "0300", "01");
@@ -266,10 +249,10 @@ void TestSerialPorts::aLostPortIsToldOnce()
     if (activity == "sending") {
         window.call("SendOne");
     }
-    QTRY_VERIFY(!looksOpen(window));
+    QTRY_VERIFY(!window.looksOpen());
     QTRY_COMPARE(boxes.texts().size(), 1);
     QVERIFY(boxes.texts().constFirst().contains(port.path()));
-    QVERIFY(!serialPort(window)->isOpen());
+    QVERIFY(!window.port()->isOpen());
     QVERIFY(window.combo("comboBox_Comm")->isEnabled());
     QCOMPARE(window.button("pushButton_Start_Loop")->text(), QString("Auto Send"));
     for (int i = 0; i < 100; ++i) {

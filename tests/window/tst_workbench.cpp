@@ -1,7 +1,8 @@
+#include "filedialoguser.h"
+#include "testfiles.h"
 #include "windowdriver.h"
 
 #include <QClipboard>
-#include <QFileDialog>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -34,57 +35,19 @@ QString portsFolder()
     return QCoreApplication::applicationDirPath() + "/ports";
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-/// Answers the next file dialog with a file name.
-class FileChoice : public QObject
-{
-public:
-    explicit FileChoice(QString path)
-        : m_path(std::move(path))
-    {
-        qApp->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        auto *dialog =
-            event->type() == QEvent::Show ? qobject_cast<QFileDialog *>(object) : nullptr;
-        if (dialog != nullptr) {
-            QMetaObject::invokeMethod(
-                dialog,
-                [this, dialog] {
-                    dialog->findChild<QLineEdit *>("fileNameEdit")->setText(m_path);
-                    QMetaObject::invokeMethod(dialog, "accept");
-                },
-                Qt::QueuedConnection);
-        }
-        return false;
-    }
-
-private:
-    QString m_path;
-};
-
-/// Right-clicks a position of the command table and dismisses the menu.
-void rememberContext(WindowDriver &window, const QPoint &position)
+/// Right-clicks a row's Data cell, dismisses the menu, and opens the direct editor on the row by
+/// way of the row menu's slot.
+DirectEditor *openEditor(WindowDriver &window, int row)
 {
     QTimer::singleShot(0, [] {
         if (QWidget *menu = QApplication::activePopupWidget()) {
             menu->close();
         }
     });
+    const QTableWidget *table = window.commands();
+    const QPoint cell = table->visualItemRect(table->item(row, CommandColumn::Data)).center();
     QMetaObject::invokeMethod(&window.window(), "tableRegisterContexMenuRequested",
-                              Q_ARG(QPoint, position));
-}
-
-/// Opens the direct editor on a row by way of the row menu's slot.
-DirectEditor *openEditor(WindowDriver &window, int row)
-{
+                              Q_ARG(QPoint, cell));
     window.window().findChild<RowEditor *>()->open(row);
     return window.window().findChild<DirectEditor *>();
 }
@@ -124,7 +87,7 @@ void TestWorkbench::closingCanSave()
     const QString path = m_folder.filePath("closed.txt");
     MessageBoxes boxes;
     boxes.answerWith(QMessageBox::Yes);
-    const FileChoice choice(path);
+    const FileDialogUser user(path);
     WindowDriver window;
     window.setRow(0, "03", "0000", "0001");
     window.window().close();
@@ -139,7 +102,7 @@ void TestWorkbench::savedCommandsAreLoadedAgain()
 {
     const QString path = m_folder.filePath("commands.txt");
     MessageBoxes boxes;
-    const FileChoice choice(path);
+    const FileDialogUser user(path);
     WindowDriver window;
     window.setRow(0, "5A", "", "01");
     window.commands()->item(0, CommandColumn::Description)->setText("Row");
@@ -180,7 +143,7 @@ void TestWorkbench::clearingIsNoChange()
 void TestWorkbench::theLogIsSavedWithoutDeviceRows()
 {
     const QString path = m_folder.filePath("log.txt");
-    const FileChoice choice(path);
+    const FileDialogUser user(path);
     WindowDriver window;
     TestPort port;
     window.open(port);
@@ -214,8 +177,6 @@ void TestWorkbench::theEditorWritesIntoItsRow()
     WindowDriver window;
     window.setRow(3, "10", "0001", "00 00 00 01");
     QTableWidget *table = window.commands();
-    const QPoint cell = table->visualItemRect(table->item(3, CommandColumn::Data)).center();
-    rememberContext(window, cell);
     DirectEditor *editor = openEditor(window, 3);
     QVERIFY(editor->isModal());
     QVERIFY(editor->isVisible());
@@ -234,8 +195,6 @@ void TestWorkbench::theEditorOutlivesItsRow()
     WindowDriver window;
     window.setRow(3, "10", "0001", "0001");
     QTableWidget *table = window.commands();
-    const QPoint cell = table->visualItemRect(table->item(3, CommandColumn::Data)).center();
-    rememberContext(window, cell);
     DirectEditor *editor = openEditor(window, 3);
     window.call("on_pushButton_ClearCommand_clicked");
     QTest::mouseClick(editor->findChild<QPushButton *>("pushButton_ok"), Qt::LeftButton);

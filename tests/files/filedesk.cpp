@@ -1,0 +1,43 @@
+#include "filedesk.h"
+
+#include "testfiles.h"
+
+FileDesk::FileDesk()
+    : actions(&window, dir.path(), hooks())
+{
+    questions.answerWith(QMessageBox::Yes);
+}
+
+QByteArray FileDesk::storedFolders() const
+{
+    return contentOf(path(QStringLiteral("lastCommand_path.ini")));
+}
+
+FileActionHooks FileDesk::hooks()
+{
+    FileActionHooks hooks;
+    hooks.showMessage = [this](const QString &text) {
+        folderAtMessage = actions.lastLoadFolder();
+        events.append("message: " + text);
+    };
+    hooks.commands = [this] { return rows; };
+    hooks.replaceCommands = [this](const QVector<CommandRow> &loaded) {
+        rows = loaded;
+        events.append(QStringLiteral("%1 rows").arg(loaded.size()));
+    };
+    hooks.commandsUnmodified = [this] { events.append(QStringLiteral("unmodified")); };
+    hooks.messages = [this] { return messages; };
+    return hooks;
+}
+
+QByteArray folderFile(const QString &loadFolder, const QString &saveFolder)
+{
+    return "\xEF\xBB\xBF" + loadFolder.toUtf8() + '\n' + saveFolder.toUtf8() + '\n';
+}
+
+CommandRow rowWith(const QString &description)
+{
+    CommandRow row = emptyRow();
+    row.description = description;
+    return row;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "fileactions.h"
+#include "messageboxes.h"
+
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <optional>
+
+/// The window around the file actions: it notes what happens, in order. Replacing a file is agreed
+/// to.
+class FileDesk
+{
+public:
+    FileDesk();
+
+    QString path(const QString &name) const { return dir.filePath(name); }
+    /// Its folder, with the slash at the end that the file actions give to folders.
+    QString folder() const { return dir.path() + QLatin1Char('/'); }
+    /// What the file of the last folders holds.
+    QByteArray storedFolders() const;
+
+    QTemporaryDir dir;
+    QWidget window;
+    MessageBoxes questions;
+    QVector<CommandRow> rows;
+    QVector<MessageRow> messages;
+    QStringList events;
+    /// The last load folder at the time of the last message.
+    std::optional<QString> folderAtMessage;
+    FileActions actions;
+
+    Q_DISABLE_COPY(FileDesk)
+
+private:
+    FileActionHooks hooks();
+};
+
+/// What the file of the last folders has to hold.
+QByteArray folderFile(const QString &loadFolder, const QString &saveFolder);
+
+/// A row with nothing but a description.
+CommandRow rowWith(const QString &description);

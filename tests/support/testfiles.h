@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+/// What a file holds; "unreadable" if it cannot be read.
+QByteArray contentOf(const QString &path);
+
+/// Makes a file of these bytes, or replaces it.
+void writeFile(const QString &path, const QByteArray &bytes);
+
+/// The names of all the files in a folder, hidden ones too.
+QStringList filesIn(const QString &folder);
