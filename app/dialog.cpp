@@ -50,7 +50,8 @@ Dialog::Dialog(QWidget *parent)
     , m_hidLink(dataFile(QStringLiteral("hidDeviceID.ini")), this)
     , m_hidPanel(*m_form, m_hidLink, this)
     , m_commands(*m_form->tableWidget_Register, this, this)
-    , m_rowActions(*m_form->tableWidget_Register, m_commands, this)
+    , m_menus(this, m_settings.isEditorFun != 0)
+    , m_rowActions(*m_form->tableWidget_Register, m_commands, m_menus, this)
     , m_rowEditor(*m_form->tableWidget_Register, m_commands, this)
     , m_log(*m_form->tableWidget_Message, this)
     , m_messageCopy(*m_form->tableWidget_Message, m_log, this)
@@ -112,10 +113,9 @@ void Dialog::setUpWindow()
 void Dialog::setUpCommands()
 {
     QTableWidget *table = m_form->tableWidget_Register;
-    m_menus = std::make_unique<RowMenus>(this, m_settings.isEditorFun != 0);
-    connect(&m_menus->rowMenu(), &QMenu::triggered, this, &Dialog::SlotRegisterMenuClicked);
-    connect(&m_menus->selectMenu(), &QMenu::triggered, this, &Dialog::SlotSelectMenuClicked);
-    connect(&m_menus->cmdMenu(), &QMenu::triggered, this, &Dialog::SlotCmdMenuClicked);
+    connect(&m_menus.rowMenu(), &QMenu::triggered, this, &Dialog::SlotRegisterMenuClicked);
+    connect(&m_menus.selectMenu(), &QMenu::triggered, this, &Dialog::SlotSelectMenuClicked);
+    connect(&m_menus.cmdMenu(), &QMenu::triggered, this, &Dialog::SlotCmdMenuClicked);
     table->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(table, &QTableWidget::customContextMenuRequested, this,
             &Dialog::tableRegisterContexMenuRequested);
@@ -318,30 +318,24 @@ void Dialog::on_pushButton_ClearCommand_clicked()
 
 void Dialog::tableRegisterContexMenuRequested(const QPoint &pos)
 {
-    if (QMenu *menu = m_rowActions.menuAt(pos, *m_menus)) {
+    if (QMenu *menu = m_rowActions.menuAt(pos)) {
         menu->exec(QCursor::pos());
     }
 }
 
 void Dialog::SlotRegisterMenuClicked(QAction *act)
 {
-    if (const auto action = m_menus->rowAction(act)) {
-        m_rowActions.run(*action);
-    }
+    m_rowActions.changeRow(act);
 }
 
 void Dialog::SlotSelectMenuClicked(QAction *act)
 {
-    if (const auto selected = m_menus->selection(act)) {
-        m_rowActions.selectRows(*selected);
-    }
+    m_rowActions.checkSelectedRows(act);
 }
 
 void Dialog::SlotCmdMenuClicked(QAction *act)
 {
-    if (const auto cmd = m_menus->cmd(act)) {
-        m_rowActions.writeCmd(*cmd);
-    }
+    m_rowActions.writeCmd(act);
 }
 
 void Dialog::on_tableWidget_Register_cellChanged(int /*row*/, int /*column*/)

@@ -111,8 +111,8 @@ private:
     HidLink m_hidLink;
     HidPanel m_hidPanel;
     CommandTable m_commands;
+    RowMenus m_menus;
     RowActions m_rowActions;
-    std::unique_ptr<RowMenus> m_menus;
     RowEditor m_rowEditor;
     MessageLog m_log;
     MessageCopy m_messageCopy;

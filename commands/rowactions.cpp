@@ -9,26 +9,28 @@
 
 namespace Column = CommandColumn;
 
-RowActions::RowActions(QTableWidget &table, CommandTable &rows, QObject *parent)
+RowActions::RowActions(QTableWidget &table, CommandTable &rows, const RowMenus &menus,
+                       QObject *parent)
     : QObject(parent)
     , m_table(table)
     , m_rows(rows)
+    , m_menus(menus)
 {}
 
-QMenu *RowActions::menuAt(const QPoint &position, RowMenus &menus)
+QMenu *RowActions::menuAt(const QPoint &position)
 {
     const QModelIndex cell = m_table.indexAt(position);
     const QTableWidgetItem *item = m_table.itemAt(position);
     m_contextCell = item != nullptr ? cell : QModelIndex();
     if (cell.column() == Column::Cmd) {
         const bool noMenu = item == nullptr || item->text() == delayMarker;
-        return noMenu ? nullptr : &menus.cmdMenu();
+        return noMenu ? nullptr : &m_menus.cmdMenu();
     }
     if (cell.column() == Column::Select) {
         const bool hasBox = m_table.cellWidget(cell.row(), cell.column()) != nullptr;
-        return hasBox ? &menus.selectMenu() : nullptr;
+        return hasBox ? &m_menus.selectMenu() : nullptr;
     }
-    return item != nullptr ? &menus.rowMenu() : nullptr;
+    return item != nullptr ? &m_menus.rowMenu() : nullptr;
 }
 
 void RowActions::run(RowAction action)
@@ -62,17 +64,30 @@ void RowActions::run(RowAction action)
     }
 }
 
-void RowActions::selectRows(bool selected)
+void RowActions::changeRow(QAction *entry)
 {
-    for (const QModelIndex &index : m_table.selectionModel()->selectedRows(0)) {
-        m_rows.setSelected(index.row(), selected);
+    if (const std::optional<RowAction> action = m_menus.rowAction(entry)) {
+        run(*action);
     }
 }
 
-void RowActions::writeCmd(const QString &cmd)
+void RowActions::checkSelectedRows(QAction *entry)
 {
-    if (QTableWidgetItem *item = m_table.item(m_contextCell.row(), m_contextCell.column())) {
-        item->setText(cmd);
+    const std::optional<bool> checked = m_menus.selection(entry);
+    if (!checked) {
+        return;
+    }
+    for (const QModelIndex &index : m_table.selectionModel()->selectedRows(0)) {
+        m_rows.setSelected(index.row(), *checked);
+    }
+}
+
+void RowActions::writeCmd(QAction *entry)
+{
+    const std::optional<QString> cmd = m_menus.cmd(entry);
+    QTableWidgetItem *item = m_table.item(m_contextCell.row(), m_contextCell.column());
+    if (cmd && item != nullptr) {
+        item->setText(*cmd);
     }
 }
 

@@ -15,12 +15,13 @@ class RowActions : public QObject
     Q_OBJECT
 
 public:
-    /// Both must outlive this; the table is the one behind the rows.
-    RowActions(QTableWidget &table, CommandTable &rows, QObject *parent = nullptr);
+    /// All must outlive this; the table is the one behind the rows.
+    RowActions(QTableWidget &table, CommandTable &rows, const RowMenus &menus,
+               QObject *parent = nullptr);
 
     /// Remembers the cell at a position in the table's viewport, and returns the menu that opens
     /// there; nothing where none does.
-    QMenu *menuAt(const QPoint &position, RowMenus &menus);
+    QMenu *menuAt(const QPoint &position);
 
     /// The row of the cell that the last menu was opened on; -1 when it has left the table.
     int contextRow() const { return m_contextCell.row(); }
@@ -28,11 +29,16 @@ public:
     /// Acts on the context row.
     void run(RowAction action);
 
-    /// Checks or unchecks the rows that are selected in the table.
-    void selectRows(bool selected);
+    /// Does to the context row what an entry of the row menu stands for; other actions do nothing.
+    void changeRow(QAction *entry);
 
-    /// Writes a command byte into the context cell.
-    void writeCmd(const QString &cmd);
+    /// Checks or unchecks the rows that are selected in the table, as an entry of the select menu
+    /// says; other actions do nothing.
+    void checkSelectedRows(QAction *entry);
+
+    /// Writes the command byte of an entry of the CMD menu into the context cell; other actions do
+    /// nothing.
+    void writeCmd(QAction *entry);
 
     /// Appends an empty row where the wheel is turned in a list that is at its end.
     void appendRowAtEnd();
@@ -55,5 +61,6 @@ private:
 
     QTableWidget &m_table;
     CommandTable &m_rows;
+    const RowMenus &m_menus;
     QPersistentModelIndex m_contextCell;
 };

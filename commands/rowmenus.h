@@ -16,9 +16,9 @@ public:
     /// Menus and actions belong to the parent. The row menu begins with "edit" if asked to.
     RowMenus(QWidget *parent, bool withEdit);
 
-    QMenu &rowMenu() { return *m_rowMenu; }
-    QMenu &selectMenu() { return *m_selectMenu; }
-    QMenu &cmdMenu() { return *m_cmdMenu; }
+    QMenu &rowMenu() const { return *m_rowMenu; }
+    QMenu &selectMenu() const { return *m_selectMenu; }
+    QMenu &cmdMenu() const { return *m_cmdMenu; }
 
     /// What an action of the row menu stands for; nothing for any other action.
     std::optional<RowAction> rowAction(QAction *action) const;

@@ -14,6 +14,8 @@ private slots:
     void picturesAreThereInTwoSizes();
     void nothingIsClipped_data();
     void nothingIsClipped();
+    void unitsAreWhole_data();
+    void unitsAreWhole();
 };
 
 namespace {
@@ -133,6 +135,23 @@ void TestWindowLook::nothingIsClipped()
         ++checked;
     }
     QVERIFY(checked > 15);
+}
+
+void TestWindowLook::unitsAreWhole_data()
+{
+    QTest::addColumn<int>("unused");
+
+    QTest::newRow("lineEdit_StepValue") << 0;
+    QTest::newRow("lineEdit_CycleTime") << 0;
+}
+
+void TestWindowLook::unitsAreWhole()
+{
+    WindowDriver window;
+    window.window().show();
+    const auto *unit = window.edit(QTest::currentDataTag())->findChild<QPushButton *>();
+    QCOMPARE(unit->text(), QString("ms"));
+    QVERIFY(unit->width() >= unit->fontMetrics().horizontalAdvance(unit->text()));
 }
 
 QTEST_MAIN(TestWindowLook)
