@@ -26,8 +26,10 @@ DeviceMonitor::DeviceMonitor(QString portsFolder, QObject *parent)
     , m_portsFolder(std::move(portsFolder))
     , m_system(SystemWatch::create())
 {
-    connect(m_system.get(), &SystemWatch::arrived, this, &DeviceMonitor::announceArrival);
-    connect(m_system.get(), &SystemWatch::removed, this, &DeviceMonitor::announceRemoval);
+    connect(m_system.get(), &SystemWatch::arrived, this,
+            [this](const WatchedDevice &device) { emit arrived(device.kind, device.name); });
+    connect(m_system.get(), &SystemWatch::removed, this,
+            [this](const WatchedDevice &device) { emit removed(device.kind, device.name); });
     connect(m_system.get(), &SystemWatch::announcementsLost, this, &DeviceMonitor::refreshNeeded);
     connect(&m_folderWatcher, &QFileSystemWatcher::directoryChanged, this,
             &DeviceMonitor::comparePorts);
@@ -42,32 +44,14 @@ bool DeviceMonitor::start()
     return m_system->start();
 }
 
-bool DeviceMonitor::arrivedWithin(const QString &path, int milliseconds) const
-{
-    const auto arrival = m_arrivals.constFind(path);
-    return arrival != m_arrivals.constEnd() && !arrival->hasExpired(milliseconds);
-}
-
-void DeviceMonitor::announceArrival(const WatchedDevice &device)
-{
-    m_arrivals[device.path].start();
-    emit arrived(device.kind, device.name);
-}
-
-void DeviceMonitor::announceRemoval(const WatchedDevice &device)
-{
-    m_arrivals.remove(device.path);
-    emit removed(device.kind, device.name);
-}
-
 void DeviceMonitor::comparePorts()
 {
     const auto before = std::exchange(m_linkedPorts, linkedPorts(m_portsFolder));
     const auto now = m_linkedPorts;
     for (const QString &path : missingOrChanged(before, now)) {
-        announceRemoval({DeviceKind::Port, path, path});
+        emit removed(DeviceKind::Port, path);
     }
     for (const QString &path : missingOrChanged(now, before)) {
-        announceArrival({DeviceKind::Port, path, path});
+        emit arrived(DeviceKind::Port, path);
     }
 }

@@ -1,7 +1,6 @@
 #include "fakehid.h"
 #include "hiddevices.h"
 #include "hidlink.h"
-#include "hidnode.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -61,7 +60,6 @@ private slots:
     void nothingOldAfterReopening();
     void closingFromTheSignal();
     void reopeningUnderLoad();
-    void access();
 
 private:
     void replaceFile(const QByteArray &content);
@@ -386,12 +384,6 @@ void TestHidLink::reopeningUnderLoad()
             link.close();
         }
     }
-}
-
-void TestHidLink::access()
-{
-    QVERIFY(!refusesAccess("/dev/null"));
-    QVERIFY(!refusesAccess("/dev/hidraw-gone"));
 }
 
 QTEST_GUILESS_MAIN(TestHidLink)
