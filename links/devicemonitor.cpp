@@ -3,6 +3,8 @@
 #include "portsfolder.h"
 #include "systemwatch.h"
 
+#include <QFileInfo>
+
 #include <utility>
 
 namespace {
@@ -39,13 +41,23 @@ DeviceMonitor::~DeviceMonitor() = default;
 
 bool DeviceMonitor::start()
 {
-    m_folderWatcher.addPath(m_portsFolder);
+    m_folderWatcher.addPath(QFileInfo(m_portsFolder).absolutePath());
+    watchPortsFolder();
     m_linkedPorts = linkedPorts(m_portsFolder);
     return m_system->start();
 }
 
+/// Watches the folder that is there now: the watcher stays with the one it was given, even where
+/// that has been moved away and another stands in its place.
+void DeviceMonitor::watchPortsFolder()
+{
+    m_folderWatcher.removePath(m_portsFolder);
+    m_folderWatcher.addPath(m_portsFolder);
+}
+
 void DeviceMonitor::comparePorts()
 {
+    watchPortsFolder();
     const auto before = std::exchange(m_linkedPorts, linkedPorts(m_portsFolder));
     const auto now = m_linkedPorts;
     for (const QString &path : missingOrChanged(before, now)) {

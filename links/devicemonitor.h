@@ -17,7 +17,7 @@ class DeviceMonitor : public QObject
     Q_OBJECT
 
 public:
-    /// The folder must be there when watching starts.
+    /// The folder may come, go and come again; what it stands in must be there.
     explicit DeviceMonitor(QString portsFolder, QObject *parent = nullptr);
     ~DeviceMonitor() override;
 
@@ -35,6 +35,7 @@ signals:
     void refreshNeeded();
 
 private:
+    void watchPortsFolder();
     void comparePorts();
 
     QString m_portsFolder;

@@ -69,6 +69,8 @@ private slots:
     void linkIsReplaced();
     void whatIsNoLinkIsIgnored();
     void missingFolder();
+    void folderIsMadeAgain_data();
+    void folderIsMadeAgain();
     void namesInNaturalOrder();
     void hidNodeIsKnownByItsSubsystem();
 
@@ -301,12 +303,58 @@ void TestDeviceMonitor::whatIsNoLinkIsIgnored()
 
 void TestDeviceMonitor::missingFolder()
 {
-    DeviceMonitor monitor(inFolder("missing"));
+    const QString folder = inFolder("missing");
+    DeviceMonitor monitor(folder);
     const Told told(monitor);
     QVERIFY(monitor.start());
     QVERIFY(announce("add", lastPort));
     QTRY_COMPARE(told, QStringList("+ port ttyUSB99"));
-    QVERIFY(linkedPortNames(inFolder("missing")).isEmpty());
+    QVERIFY(linkedPortNames(folder).isEmpty());
+    QVERIFY(QDir().mkdir(folder));
+    QVERIFY(QFile::link("/dev/null", folder + "/device"));
+    QTRY_COMPARE(told.last(), "+ port " + folder + "/device");
+}
+
+void TestDeviceMonitor::folderIsMadeAgain_data()
+{
+    QTest::addColumn<bool>("moved");
+    QTest::addColumn<bool>("atOnce");
+
+    QTest::newRow("deleted") << false << false;
+    QTest::newRow("deleted and made in one go") << false << true;
+    QTest::newRow("moved away") << true << false;
+    QTest::newRow("moved away and made in one go") << true << true;
+}
+
+void TestDeviceMonitor::folderIsMadeAgain()
+{
+    QFETCH(bool, moved);
+    QFETCH(bool, atOnce);
+
+    const QString folder = inFolder("ports");
+    const QString link = folder + "/device";
+    QVERIFY(QDir().mkdir(folder));
+    QVERIFY(QFile::link("/dev/null", link));
+    DeviceMonitor monitor(folder);
+    const Told told(monitor);
+    QVERIFY(monitor.start());
+    QStringList expected;
+    for (int round = 0; round < 3; ++round) {
+        const QString elsewhere = inFolder("old" + QString::number(round));
+        QVERIFY(moved ? QDir().rename(folder, elsewhere) : QDir(folder).removeRecursively());
+        expected += "- port " + link;
+        if (!atOnce) {
+            QTRY_COMPARE(told, expected);
+        }
+        QVERIFY(QDir().mkdir(folder));
+        QVERIFY(QFile::link("/dev/zero", folder + "/other"));
+        expected += "+ port " + folder + "/other";
+        QTRY_COMPARE(told, expected);
+        QVERIFY(QFile::remove(folder + "/other"));
+        QVERIFY(QFile::link("/dev/null", link));
+        expected += {"- port " + folder + "/other", "+ port " + link};
+        QTRY_COMPARE(told, expected);
+    }
 }
 
 void TestDeviceMonitor::namesInNaturalOrder()
