@@ -54,6 +54,7 @@ private slots:
     void writesReports_data();
     void writesReports();
     void writingWhileClosed();
+    void isBehindWhileReportsWait();
     void closingStopsFirst();
     void received();
     void disconnectionIsSignalledOnce();
@@ -292,6 +293,24 @@ void TestHidLink::writingWhileClosed()
     QVERIFY(link.open(smallPath, 0));
     QTRY_VERIFY(m_fake.count(Function::Read) > 1);
     QVERIFY(m_fake.written().isEmpty());
+}
+
+void TestHidLink::isBehindWhileReportsWait()
+{
+    HidLink link(m_file);
+    QVERIFY(!link.isBehind());
+    QVERIFY(link.open(smallPath, 0));
+    QVERIFY(!link.isBehind());
+    // More than a silent device takes in a while.
+    constexpr int reports = 30;
+    link.write(QByteArray(reports * 64, 'x'));
+    QVERIFY(link.isBehind());
+    m_fake.readWithoutWaiting();
+    QTRY_VERIFY(!link.isBehind());
+    QTRY_COMPARE(m_fake.written().size(), reports);
+    link.write(QByteArray(reports * 64, 'x'));
+    link.close();
+    QVERIFY(!link.isBehind());
 }
 
 void TestHidLink::closingStopsFirst()

@@ -1,6 +1,7 @@
 #include "fakehid.h"
 #include "windowdriver.h"
 
+#include <QSignalSpy>
 #include <QtTest>
 
 /// The HID tab of the real window, with devices that a stand-in for the HID library offers.
@@ -20,6 +21,7 @@ private slots:
     void theHeaderIsTheSerialTabs();
     void aFailedWriteEndsLoopAndLink();
     void theLoopRestsTheWidgetsOfTheTab();
+    void aLoopThatOutrunsTheDeviceWaits();
     void leavingTheTabClosesTheDevice();
     void closingTheWindowClosesTheDevice();
 };
@@ -210,6 +212,23 @@ void TestHid::theLoopRestsTheWidgetsOfTheTab()
     for (const QString &name : resting) {
         QVERIFY2(window.find<QWidget>(qPrintable(name))->isEnabled(), qPrintable(name));
     }
+}
+
+void TestHid::aLoopThatOutrunsTheDeviceWaits()
+{
+    HidWindow window;
+    window.openDevice(smallDevice);
+    window.setRow(0, "01", "0300", "01");
+    window.checkRow(0);
+    window.edit("lineEdit_StepValue")->setText("0");
+    window.edit("lineEdit_CycleTime")->setText("0");
+    const QSignalSpy sent(window.window().findChild<Sender *>(), &Sender::sent);
+    window.click("pushButton_Start_Loop");
+    QTRY_VERIFY(FakeHid::instance().written().size() >= 5);
+    // One may be on its way to the device, and one may wait.
+    QVERIFY(sent.size() <= FakeHid::instance().written().size() + 2);
+    window.click("pushButton_Start_Loop");
+    QTRY_COMPARE(FakeHid::instance().written().size(), sent.size());
 }
 
 void TestHid::leavingTheTabClosesTheDevice()
