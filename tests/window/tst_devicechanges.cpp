@@ -3,6 +3,7 @@
 #include "fakesystemwatch.h"
 #include "hidwindow.h"
 
+#include <QAbstractItemView>
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QtTest>
@@ -32,6 +33,7 @@ private slots:
     void listsAreRefreshedOnceAfterABurst();
     void lostAnnouncementsRefreshTheLists();
     void theChosenDeviceStaysChosen();
+    void anOpenListShowsWhatCame();
     void refusedRegistrationIsTold();
 };
 
@@ -442,6 +444,20 @@ void TestDeviceChanges::theChosenDeviceStaysChosen()
     pullOutSmall();
     QTRY_COMPARE(devices->count(), 1);
     QCOMPARE(devices->currentText(), QString(anotherPath));
+}
+
+void TestDeviceChanges::anOpenListShowsWhatCame()
+{
+    const HidWindow window;
+    QComboBox *devices = window.combo("comboBox_Hid_Device");
+    const QAbstractItemView *list = devices->view();
+    devices->setCurrentText(smallPath);
+    devices->showPopup();
+    plugIn("/dev/hidraw-of-a-test-3", largeIds);
+    QTRY_COMPARE(devices->count(), 3);
+    QVERIFY(list->isVisible());
+    QVERIFY(list->visualRect(devices->model()->index(2, 0)).bottom() < list->viewport()->height());
+    QCOMPARE(list->currentIndex().row(), devices->findText(smallPath));
 }
 
 void TestDeviceChanges::refusedRegistrationIsTold()
