@@ -262,7 +262,10 @@ void TestDeviceChanges::removalEndsTheLink_data()
     });
     row("message in the loop", quick, [](OpenWindow &window) {
         window.setRow(2, "42", "0002", "020");
-        pullOutAtMessage([&window] { loopOf(window, 1); });
+        pullOutAtMessage([&window] {
+            window.startLoop();
+            QTRY_COMPARE(hid().openHandles(), 0);
+        });
     });
     row("direct editor is open", quick, [](OpenWindow &window) {
         window.window().findChild<RowEditor *>()->open(0);
@@ -397,9 +400,9 @@ void TestDeviceChanges::theEditorStaysOpen()
 
 void TestDeviceChanges::listsAreRefreshedOnceAfterABurst()
 {
-    constexpr int refreshAfterMs = 500;
+    constexpr qint64 refreshAfterMs = 500;
     // What a timer of that length may be early by.
-    constexpr int leeway = refreshAfterMs / 20;
+    constexpr qint64 leeway = refreshAfterMs / 20;
     const HidWindow window;
     const int before = listings();
     QElapsedTimer sinceLast;
