@@ -163,6 +163,7 @@ void Dialog::connectLinks()
     connect(&m_serialLink, &SerialLink::lost, this, [this](const QString &reason) {
         const QString port = m_serialLink.openPortName();
         endSerialLink();
+        m_timer1.start(refreshAfterEventMs);
         showMessage(tr("The connection to %1 is lost: %2").arg(port, reason));
     });
     connect(&m_hidLink, &HidLink::packetReceived, this, &Dialog::hid_receiveData);

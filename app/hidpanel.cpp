@@ -1,6 +1,7 @@
 #include "hidpanel.h"
 
 #include "hidlink.h"
+#include "openlist.h"
 #include "styles.h"
 #include "ui_dialog.h"
 
@@ -42,6 +43,7 @@ void HidPanel::refreshDevices()
     if (chosen >= 0) {
         box.setCurrentIndex(chosen);
     }
+    adjustOpenList(box);
 }
 
 bool HidPanel::open()

@@ -1,5 +1,6 @@
 #include "serialpanel.h"
 
+#include "openlist.h"
 #include "portlist.h"
 #include "seriallink.h"
 #include "serialoptions.h"
@@ -33,6 +34,7 @@ void SerialPanel::refreshPorts(const QString &linksFolder)
     if (ports.usbSerialIndex >= 0 && !m_link.isOpen() && isUsbPort) {
         selectPort(ports.usbSerialIndex);
     }
+    adjustOpenList(box);
 }
 
 bool SerialPanel::open()

@@ -3,6 +3,8 @@
 #include "portsfolder.h"
 #include "systemwatch.h"
 
+#include <QFileInfo>
+
 #include <utility>
 
 namespace {
@@ -26,8 +28,10 @@ DeviceMonitor::DeviceMonitor(QString portsFolder, QObject *parent)
     , m_portsFolder(std::move(portsFolder))
     , m_system(SystemWatch::create())
 {
-    connect(m_system.get(), &SystemWatch::arrived, this, &DeviceMonitor::announceArrival);
-    connect(m_system.get(), &SystemWatch::removed, this, &DeviceMonitor::announceRemoval);
+    connect(m_system.get(), &SystemWatch::arrived, this,
+            [this](const WatchedDevice &device) { emit arrived(device.kind, device.name); });
+    connect(m_system.get(), &SystemWatch::removed, this,
+            [this](const WatchedDevice &device) { emit removed(device.kind, device.name); });
     connect(m_system.get(), &SystemWatch::announcementsLost, this, &DeviceMonitor::refreshNeeded);
     connect(&m_folderWatcher, &QFileSystemWatcher::directoryChanged, this,
             &DeviceMonitor::comparePorts);
@@ -37,37 +41,29 @@ DeviceMonitor::~DeviceMonitor() = default;
 
 bool DeviceMonitor::start()
 {
-    m_folderWatcher.addPath(m_portsFolder);
+    m_folderWatcher.addPath(QFileInfo(m_portsFolder).absolutePath());
+    watchPortsFolder();
     m_linkedPorts = linkedPorts(m_portsFolder);
     return m_system->start();
 }
 
-bool DeviceMonitor::arrivedWithin(const QString &path, int milliseconds) const
+/// Watches the folder that is there now: the watcher stays with the one it was given, even where
+/// that has been moved away and another stands in its place.
+void DeviceMonitor::watchPortsFolder()
 {
-    const auto arrival = m_arrivals.constFind(path);
-    return arrival != m_arrivals.constEnd() && !arrival->hasExpired(milliseconds);
-}
-
-void DeviceMonitor::announceArrival(const WatchedDevice &device)
-{
-    m_arrivals[device.path].start();
-    emit arrived(device.kind, device.name);
-}
-
-void DeviceMonitor::announceRemoval(const WatchedDevice &device)
-{
-    m_arrivals.remove(device.path);
-    emit removed(device.kind, device.name);
+    m_folderWatcher.removePath(m_portsFolder);
+    m_folderWatcher.addPath(m_portsFolder);
 }
 
 void DeviceMonitor::comparePorts()
 {
+    watchPortsFolder();
     const auto before = std::exchange(m_linkedPorts, linkedPorts(m_portsFolder));
     const auto now = m_linkedPorts;
     for (const QString &path : missingOrChanged(before, now)) {
-        announceRemoval({DeviceKind::Port, path, path});
+        emit removed(DeviceKind::Port, path);
     }
     for (const QString &path : missingOrChanged(now, before)) {
-        announceArrival({DeviceKind::Port, path, path});
+        emit arrived(DeviceKind::Port, path);
     }
 }

@@ -2,9 +2,7 @@
 
 #include "watcheddevice.h"
 
-#include <QElapsedTimer>
 #include <QFileSystemWatcher>
-#include <QHash>
 #include <QMap>
 #include <QObject>
 
@@ -19,17 +17,13 @@ class DeviceMonitor : public QObject
     Q_OBJECT
 
 public:
-    /// The folder must be there when watching starts.
+    /// The folder may come, go and come again; what it stands in must be there.
     explicit DeviceMonitor(QString portsFolder, QObject *parent = nullptr);
     ~DeviceMonitor() override;
 
     /// Begins to watch; what is there already is not announced. Returns false when the system
     /// doesn't let us watch its devices; the folder is watched all the same.
     bool start();
-
-    /// Whether a device came within the last so many milliseconds and is still there. It is named
-    /// as it is opened, by port name or HID device path.
-    bool arrivedWithin(const QString &path, int milliseconds) const;
 
 signals:
     /// A port (by name; links by absolute path) or a HID device (by a path with its IDs, such as
@@ -41,13 +35,11 @@ signals:
     void refreshNeeded();
 
 private:
-    void announceArrival(const WatchedDevice &device);
-    void announceRemoval(const WatchedDevice &device);
+    void watchPortsFolder();
     void comparePorts();
 
     QString m_portsFolder;
     QFileSystemWatcher m_folderWatcher;
     QMap<QString, QString> m_linkedPorts;
     std::unique_ptr<SystemWatch> m_system;
-    QHash<QString, QElapsedTimer> m_arrivals;
 };

@@ -6,7 +6,3 @@
 /// is no HID device must be kept from it, since it may crash on that; what is not there may be
 /// asked for.
 bool mayBeHidNode(const QByteArray &path);
-
-/// Whether something is at this path, but its permissions keep this user from reading and writing
-/// it.
-bool refusesAccess(const QByteArray &path);

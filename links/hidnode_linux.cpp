@@ -3,10 +3,8 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <cerrno>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
-#include <unistd.h>
 
 namespace {
 
@@ -26,9 +24,4 @@ bool mayBeHidNode(const QByteArray &path)
 {
     struct stat status = {};
     return ::stat(path.constData(), &status) != 0 || isHidraw(status);
-}
-
-bool refusesAccess(const QByteArray &path)
-{
-    return ::access(path.constData(), R_OK | W_OK) != 0 && errno == EACCES;
 }

@@ -93,6 +93,12 @@ bool HidThread::queuePacket(const HidPacket &packet)
     return true;
 }
 
+bool HidThread::hasQueuedPackets() const
+{
+    const QMutexLocker locker(&m_queueLock);
+    return !m_queue.empty();
+}
+
 void HidThread::run()
 {
     while (m_running) {

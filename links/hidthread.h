@@ -59,6 +59,8 @@ public:
     /// Appends a copy of the packet to what is to be written. Returns false while no device is
     /// open.
     bool queuePacket(const HidPacket &packet);
+    /// Whether packets wait that the loop has not taken yet.
+    bool hasQueuedPackets() const;
 
 signals:
     /// The device has sent a report. Its report ID is always 0.
@@ -80,6 +82,6 @@ private:
     quint16 m_productId = 0;
     qint32 m_packetSize = defaultPacketSize;
     std::atomic<bool> m_running = false;
-    QMutex m_queueLock;
+    mutable QMutex m_queueLock;
     std::deque<std::unique_ptr<HidPacket>> m_queue;
 };

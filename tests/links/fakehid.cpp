@@ -68,6 +68,14 @@ void FakeHid::addDevice(const QByteArray &path, quint16 vendor, quint16 product)
     m_devices.push_back({path, vendor, product, true});
 }
 
+void FakeHid::removeDevice(const QByteArray &path)
+{
+    const std::lock_guard lock(m_lock);
+    m_devices.erase(std::remove_if(m_devices.begin(), m_devices.end(),
+                                   [&path](const Device &device) { return device.path == path; }),
+                    m_devices.end());
+}
+
 void FakeHid::setOpenable(const QByteArray &path, bool openable)
 {
     const std::lock_guard lock(m_lock);

@@ -42,6 +42,7 @@ public:
     void reset();
 
     void addDevice(const QByteArray &path, quint16 vendor, quint16 product);
+    void removeDevice(const QByteArray &path);
     /// Until the device is removed or made openable again, opening it fails.
     void setOpenable(const QByteArray &path, bool openable);
 

@@ -1,5 +1,6 @@
 #include "deviceids.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -47,6 +48,7 @@ private slots:
     void directoryInPlaceOfTheFile();
     void folderThatCannotBeWrittenTo();
     void everyByteValue();
+    void knownTypesMayBeOpened();
 };
 
 void TestDeviceIds::idsInText_data()
@@ -218,6 +220,21 @@ void TestDeviceIds::everyByteValue()
     const QVector<DeviceIds> pairs = parseDeviceIdFile(content + '\n' + content);
     QVERIFY(pairs == QVector<DeviceIds>(4));
     QCOMPARE(packetSizeIn(content + "VID_EEEF,PID_1616,32", small), 32);
+}
+
+/// What is listed from the start, and what the udev rules let the user open, are the same.
+void TestDeviceIds::knownTypesMayBeOpened()
+{
+    const QString path = QFINDTESTDATA("../../packaging/linux/70-tarnwick.rules");
+    QStringList rules = QString(readFile(path)).split('\n').filter(QRegularExpression("^[^#]"));
+    for (const DeviceIds ids : parseDeviceIdFile(defaultDeviceIdFile())) {
+        const QString rule =
+            QString::asprintf("SUBSYSTEM==\"hidraw\", KERNELS==\"0003:%04X:%04X.*\", "
+                              "GROUP=\"plugdev\", MODE=\"0660\", TAG+=\"uaccess\"",
+                              ids.vendor, ids.product);
+        QCOMPARE(rules.removeAll(rule), 1);
+    }
+    QCOMPARE(rules, QStringList());
 }
 
 QTEST_APPLESS_MAIN(TestDeviceIds)

@@ -1,6 +1,7 @@
 #include "fakehid.h"
-#include "windowdriver.h"
+#include "hidwindow.h"
 
+#include <QSignalSpy>
 #include <QtTest>
 
 /// The HID tab of the real window, with devices that a stand-in for the HID library offers.
@@ -20,8 +21,11 @@ private slots:
     void theHeaderIsTheSerialTabs();
     void aFailedWriteEndsLoopAndLink();
     void theLoopRestsTheWidgetsOfTheTab();
+    void aLoopThatOutrunsTheDeviceWaits();
     void leavingTheTabClosesTheDevice();
     void closingTheWindowClosesTheDevice();
+    void connectingUnderLoad();
+    void closingTheWindowUnderLoad();
 };
 
 namespace {
@@ -35,28 +39,24 @@ QByteArray hex(const QString &text)
     return QByteArray::fromHex(text.toLatin1());
 }
 
-/// A window on its HID tab, with the devices listed.
-class HidWindow : public WindowDriver
-{
-public:
-    HidWindow()
-    {
-        find<QTabWidget>("tabWidget")->setCurrentIndex(1);
-        call("Timer1_Out_Event");
-    }
-
-    void openDevice(const QByteArray &path)
-    {
-        combo("comboBox_Hid_Device")->setCurrentText(path);
-        click("pushButton_ConnectHID");
-    }
-
-    QString linkCaption() const { return button("pushButton_ConnectHID")->text(); }
-};
-
 QByteArray report(const QByteArray &frame, char reportId = 0, int size = smallReport)
 {
     return reportId + frame.leftJustified(size, '\0');
+}
+
+/// Opens a device and leaves it with reports on their way in both directions.
+void loadDevice(HidWindow &window, const QByteArray &path)
+{
+    FakeHid &hid = FakeHid::instance();
+    window.openDevice(path);
+    const int written = hid.written().size();
+    const int shown = window.messageCount();
+    for (int i = 0; i < 20; ++i) {
+        window.clickSend(0);
+        hid.sendReport(hex("5AA5050300100000"));
+    }
+    QTRY_VERIFY(hid.written().size() > written);
+    QTRY_VERIFY(window.messageCount() > shown + 20);
 }
 
 } // namespace
@@ -212,6 +212,23 @@ void TestHid::theLoopRestsTheWidgetsOfTheTab()
     }
 }
 
+void TestHid::aLoopThatOutrunsTheDeviceWaits()
+{
+    HidWindow window;
+    window.openDevice(smallDevice);
+    window.setRow(0, "01", "0300", "01");
+    window.checkRow(0);
+    window.edit("lineEdit_StepValue")->setText("0");
+    window.edit("lineEdit_CycleTime")->setText("0");
+    const QSignalSpy sent(window.window().findChild<Sender *>(), &Sender::sent);
+    window.click("pushButton_Start_Loop");
+    QTRY_VERIFY(FakeHid::instance().written().size() >= 5);
+    // One may be on its way to the device, and one may wait.
+    QVERIFY(sent.size() <= FakeHid::instance().written().size() + 2);
+    window.click("pushButton_Start_Loop");
+    QTRY_COMPARE(FakeHid::instance().written().size(), sent.size());
+}
+
 void TestHid::leavingTheTabClosesTheDevice()
 {
     HidWindow window;
@@ -227,6 +244,33 @@ void TestHid::closingTheWindowClosesTheDevice()
         HidWindow window;
         window.openDevice(smallDevice);
         QCOMPARE(FakeHid::instance().openHandles(), 1);
+    }
+    QCOMPARE(FakeHid::instance().openHandles(), 0);
+    QCOMPARE(FakeHid::instance().misuses(), 0);
+}
+
+/// Reports come and go all the time while the device is opened and closed in every way.
+void TestHid::connectingUnderLoad()
+{
+    HidWindow window;
+    auto *tabs = window.find<QTabWidget>("tabWidget");
+    window.setRow(0, "01", "0300", QString("11").repeated(200));
+    for (int round = 0; round < 12; ++round) {
+        tabs->setCurrentIndex(1);
+        loadDevice(window, round % 2 == 0 ? smallDevice : largeDevice);
+        round % 3 == 0 ? window.click("pushButton_ConnectHID") : tabs->setCurrentIndex(0);
+        QCOMPARE(window.linkCaption(), QString("Open HID Device"));
+        QCOMPARE(FakeHid::instance().openHandles(), 0);
+    }
+    QCOMPARE(FakeHid::instance().misuses(), 0);
+}
+
+void TestHid::closingTheWindowUnderLoad()
+{
+    for (int round = 0; round < 5; ++round) {
+        HidWindow window;
+        window.setRow(0, "01", "0300", QString("11").repeated(200));
+        loadDevice(window, largeDevice);
     }
     QCOMPARE(FakeHid::instance().openHandles(), 0);
     QCOMPARE(FakeHid::instance().misuses(), 0);

@@ -1,5 +1,6 @@
 #include "serialwindow.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QSerialPort>
 #include <QSerialPortInfo>
@@ -22,6 +23,8 @@ private slots:
     void linksAreListedBehindTheSystemsPorts();
     void refreshSelectsTheChosenPortAgain();
     void refreshOpensNothing();
+    void anOpenListShowsWhatCame();
+    void aLostPortIsNoLongerListed();
     void aLostPortIsToldOnce_data();
     void aLostPortIsToldOnce();
 
@@ -216,6 +219,42 @@ void TestSerialPorts::refreshOpensNothing()
     QVERIFY(window.combo("comboBox_Comm")->count() > 0);
     QVERIFY(!window.looksOpen());
     QCOMPARE(boxes.texts(), QStringList());
+}
+
+void TestSerialPorts::anOpenListShowsWhatCame()
+{
+    const TestPort port;
+    QVERIFY(m_ports.mkpath("."));
+    QVERIFY(QFile::link(port.path(), m_ports.filePath("device1")));
+    SerialWindow window;
+    window.call("Timer1_Out_Event");
+    QComboBox *ports = window.combo("comboBox_Comm");
+    ports->setCurrentIndex(ports->count() - 1);
+    ports->showPopup();
+    QVERIFY(QFile::link(port.path(), m_ports.filePath("device2")));
+    window.call("Timer1_Out_Event");
+    const QAbstractItemView *list = ports->view();
+    const QModelIndex last = ports->model()->index(ports->count() - 1, 0);
+    QVERIFY(list->isVisible());
+    QVERIFY(list->visualRect(last).bottom() < list->viewport()->height());
+    QCOMPARE(list->currentIndex().row(), ports->currentIndex());
+}
+
+void TestSerialPorts::aLostPortIsNoLongerListed()
+{
+    MessageBoxes boxes;
+    TestPort port;
+    QVERIFY(m_ports.mkpath("."));
+    const QString path = m_ports.absoluteFilePath("device");
+    QVERIFY(QFile::link(port.path(), path));
+    SerialWindow window;
+    window.call("Timer1_Out_Event");
+    QComboBox *ports = window.combo("comboBox_Comm");
+    SerialWindow::pick(ports, ports->findText(path));
+    QVERIFY(window.looksOpen());
+    port.unplug();
+    QTRY_COMPARE(ports->findText(path), -1);
+    QCOMPARE(boxes.texts().size(), 1);
 }
 
 void TestSerialPorts::aLostPortIsToldOnce_data()
