@@ -129,12 +129,14 @@ void SerialLink::onError(QSerialPort::SerialPortError error)
     if (!endsLink(error) || m_failed || !m_port.isOpen()) {
         return;
     }
-    if (!hasHungUp(qintptr(m_port.handle())) && ++m_vainReads < mostVainReads) {
+    const bool isGone = hasHungUp(qintptr(m_port.handle()));
+    if (!isGone && ++m_vainReads < mostVainReads) {
         resumeReading();
         return;
     }
     m_failed = true;
-    const QString reason = m_port.errorString();
+    // Of a device that is gone, the port only knows which call failed on it first.
+    const QString reason = isGone ? tr("the device is gone") : m_port.errorString();
     QMetaObject::invokeMethod(
         this, [this, reason] { reportLoss(reason); }, Qt::QueuedConnection);
 }
