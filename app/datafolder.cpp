@@ -2,13 +2,12 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QStandardPaths>
 
 QString dataFolder()
 {
     const QString applicationFolder = QCoreApplication::applicationDirPath();
-    if (QFileInfo(applicationFolder).isWritable()) {
+    if (isWritableFolder(applicationFolder)) {
         return applicationFolder;
     }
     const QString userFolder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
@@ -19,11 +18,4 @@ QString dataFolder()
 QString dataFile(const QString &name)
 {
     return dataFolder() + QDir::separator() + name;
-}
-
-QString portsFolder()
-{
-    const QString folder = dataFolder() + QStringLiteral("/ports");
-    QDir().mkpath(folder);
-    return folder;
 }

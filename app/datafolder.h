@@ -9,5 +9,9 @@ QString dataFolder();
 /// Path of a file in the data folder, with the platform's separator before its name.
 QString dataFile(const QString &name);
 
-/// The folder whose links are offered as serial ports; it is made where it is missing.
+/// The folder whose links are offered as serial ports; it is made where it is missing. Empty on a
+/// system that has no such links.
 QString portsFolder();
+
+/// Whether files can be made in a folder.
+bool isWritableFolder(const QString &folder);

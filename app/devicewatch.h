@@ -19,8 +19,12 @@ public:
                 QObject *parent = nullptr);
 
     /// Begins to watch the system's devices and the folder of port links. Returns false when the
-    /// system doesn't let us watch its devices.
-    bool start() { return m_monitor.start(); }
+    /// system doesn't let us watch its devices. Where announcements come as window messages, they
+    /// go to the window given.
+    bool start(const WindowHandle &window) { return m_monitor.start(window); }
+
+    /// Takes a native message of that window. Returns whether it told of a device.
+    bool takeMessage(void *message) { return m_monitor.takeMessage(message); }
 
 signals:
     /// The open serial port's device has gone; emitted before its row is logged.

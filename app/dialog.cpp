@@ -101,6 +101,15 @@ void Dialog::wheelEvent(QWheelEvent * /*event*/)
     }
 }
 
+bool Dialog::nativeEvent(const QByteArray & /*eventType*/, void *message, long *result)
+{
+    const bool taken = m_devices.takeMessage(message);
+    if (taken && result != nullptr) {
+        *result = 1;
+    }
+    return taken;
+}
+
 void Dialog::setUpWindow()
 {
     setWindowTitle(QLatin1String(windowTitleText));
@@ -180,7 +189,7 @@ void Dialog::watchDevices()
     connect(&m_devices, &DeviceWatch::hidGone, this, &Dialog::endHidLink);
     connect(&m_devices, &DeviceWatch::listsOutdated, this,
             [this] { m_timer1.start(refreshAfterEventMs); });
-    if (!m_devices.start()) {
+    if (!m_devices.start([this] { return quintptr(winId()); })) {
         QTimer::singleShot(0, this, [this] {
             showMessage(QStringLiteral("The hardware monitoring registration failed, and the "
                                        "hardware could not be identified!"));

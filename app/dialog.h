@@ -43,6 +43,7 @@ public:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    bool nativeEvent(const QByteArray &eventType, void *message, long *result) override;
 
 private slots:
     void on_tabWidget_currentChanged(int index);

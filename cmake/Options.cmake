@@ -6,6 +6,8 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
+# Without the times of the files, so that the same sources give the same program.
+set(CMAKE_AUTORCC_OPTIONS --format-version 1)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 option(CMAKE_COMPILE_WARNING_AS_ERROR "Let no warning pass" ON)
 

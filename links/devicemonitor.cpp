@@ -1,7 +1,6 @@
 #include "devicemonitor.h"
 
 #include "portsfolder.h"
-#include "systemwatch.h"
 
 #include <QFileInfo>
 
@@ -39,12 +38,14 @@ DeviceMonitor::DeviceMonitor(QString portsFolder, QObject *parent)
 
 DeviceMonitor::~DeviceMonitor() = default;
 
-bool DeviceMonitor::start()
+bool DeviceMonitor::start(const WindowHandle &window)
 {
-    m_folderWatcher.addPath(QFileInfo(m_portsFolder).absolutePath());
-    watchPortsFolder();
+    if (!m_portsFolder.isEmpty()) {
+        m_folderWatcher.addPath(QFileInfo(m_portsFolder).absolutePath());
+        watchPortsFolder();
+    }
     m_linkedPorts = linkedPorts(m_portsFolder);
-    return m_system->start();
+    return m_system->start(window);
 }
 
 /// Watches the folder that is there now: the watcher stays with the one it was given, even where

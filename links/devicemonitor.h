@@ -1,14 +1,12 @@
 #pragma once
 
-#include "watcheddevice.h"
+#include "systemwatch.h"
 
 #include <QFileSystemWatcher>
 #include <QMap>
 #include <QObject>
 
 #include <memory>
-
-class SystemWatch;
 
 /// Tells when serial ports and HID devices come and go: those that the system announces, and the
 /// links in a folder that are used like serial ports.
@@ -17,13 +15,17 @@ class DeviceMonitor : public QObject
     Q_OBJECT
 
 public:
-    /// The folder may come, go and come again; what it stands in must be there.
+    /// The folder may come, go and come again; what it stands in must be there. No folder is
+    /// watched for an empty name.
     explicit DeviceMonitor(QString portsFolder, QObject *parent = nullptr);
     ~DeviceMonitor() override;
 
     /// Begins to watch; what is there already is not announced. Returns false when the system
     /// doesn't let us watch its devices; the folder is watched all the same.
-    bool start();
+    bool start(const WindowHandle &window = {});
+
+    /// Takes a native message of that window. Returns whether it told of a device.
+    bool takeMessage(void *message) { return m_system->takeMessage(message); }
 
 signals:
     /// A port (by name; links by absolute path) or a HID device (by a path with its IDs, such as

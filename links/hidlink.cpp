@@ -2,16 +2,16 @@
 
 #include "hiddevices.h"
 #include "reports.h"
+#include "shortpause.h"
 
 #include <QCoreApplication>
-#include <QThread>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr unsigned long settleMs = 2;
+constexpr unsigned settleMs = 2;
 
 HidPacket makePacket(quint8 reportId, const QByteArray &report)
 {
@@ -80,7 +80,7 @@ void HidLink::close()
 
 QByteArray HidLink::readArrived(const HidPacket &packet)
 {
-    QThread::msleep(settleMs);
+    shortPause(settleMs);
     const int length = qBound(0, packet.length, longestReport);
     return {reinterpret_cast<const char *>(&packet.data[1]), length};
 }

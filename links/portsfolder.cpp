@@ -9,6 +9,9 @@
 QMap<QString, QString> linkedPorts(const QString &folder)
 {
     QMap<QString, QString> ports;
+    if (folder.isEmpty()) {
+        return ports;
+    }
     // Links to devices count as system files.
     const auto entries =
         QDir(folder).entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);

@@ -4,3 +4,7 @@
 
 /// Whether the device behind an open port's handle has gone.
 bool hasHungUp(qintptr handle);
+
+/// Makes room in the driver of an open port for what comes in while the program is busy elsewhere,
+/// where the system lets us.
+void enlargeIncomingBuffer(qintptr handle);

@@ -1,13 +1,13 @@
 #include "seriallink.h"
 
 #include "portstate.h"
+#include "shortpause.h"
 
 #include <QDeadlineTimer>
-#include <QThread>
 
 namespace {
 
-constexpr unsigned long settleMs = 2;
+constexpr unsigned settleMs = 2;
 constexpr int moreDataMs = 5;
 constexpr int writtenMs = 2000;
 constexpr int longestInstructionBytes = 65535;
@@ -42,8 +42,12 @@ bool SerialLink::open(const SerialSettings &settings)
     m_port.setPortName(settings.portName);
     m_failed = false;
     m_vainReads = 0;
-    m_openPortName = m_port.open(QIODevice::ReadWrite) ? settings.portName : QString();
-    return m_port.isOpen();
+    if (!m_port.open(QIODevice::ReadWrite)) {
+        return false;
+    }
+    enlargeIncomingBuffer(qintptr(m_port.handle()));
+    m_openPortName = settings.portName;
+    return true;
 }
 
 void SerialLink::close()
@@ -60,7 +64,7 @@ QByteArray SerialLink::readArrived()
     if (!m_port.isOpen()) {
         return {};
     }
-    QThread::msleep(settleMs);
+    shortPause(settleMs);
     m_port.waitForReadyRead(moreDataMs);
     // The port takes half a kilobyte a time from the system; all that waits there belongs to it.
     while (m_port.waitForReadyRead(0)) {

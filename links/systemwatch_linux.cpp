@@ -84,7 +84,7 @@ std::optional<WatchedDevice> describe(udev_device *device)
 class UdevWatch : public SystemWatch
 {
 public:
-    bool start() override;
+    bool start(const WindowHandle &window) override;
 
 private:
     using Devices = QMap<QString, WatchedDevice>;
@@ -102,7 +102,7 @@ private:
     Devices m_known;
 };
 
-bool UdevWatch::start()
+bool UdevWatch::start(const WindowHandle & /*window*/)
 {
     m_udev.reset(udev_new());
     m_monitor.reset(m_udev ? udev_monitor_new_from_netlink(m_udev.get(), "udev") : nullptr);

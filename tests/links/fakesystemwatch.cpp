@@ -5,7 +5,10 @@ namespace {
 class FakeSystemWatch : public SystemWatch
 {
 public:
-    bool start() override { return !FakeSystem::instance().isRefusing(); }
+    bool start(const WindowHandle & /*window*/) override
+    {
+        return !FakeSystem::instance().isRefusing();
+    }
 };
 
 } // namespace

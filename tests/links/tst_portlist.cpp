@@ -14,6 +14,7 @@ private slots:
     void linksFollowTheSystemsPortsInNaturalOrder();
     void deadLinksAndOtherFilesAreNoPorts();
     void aMissingFolderAddsNothing();
+    void noFolderAddsNothing();
     void theSystemTellsNoUsbSerialPort();
 
 private:
@@ -56,6 +57,17 @@ void TestPortList::aMissingFolderAddsNothing()
 {
     const QTemporaryDir folder;
     QCOMPARE(listPorts(folder.filePath("nothing")).names.size(), systemPortCount());
+}
+
+void TestPortList::noFolderAddsNothing()
+{
+    const QTemporaryDir folder;
+    link(folder, "device", "/dev/null");
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder.path()));
+    const int count = listPorts({}).names.size();
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(count, systemPortCount());
 }
 
 void TestPortList::theSystemTellsNoUsbSerialPort()

@@ -8,6 +8,8 @@
 FileDialogUser::FileDialogUser(QString path)
     : m_path(std::move(path))
 {
+    // A system's own dialogs are no widgets.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     qApp->installEventFilter(this);
 }
 

@@ -34,10 +34,11 @@ QString filePath()
     return QCoreApplication::applicationDirPath() + "/debuggerConfig.ini";
 }
 
+/// With plain line ends, whatever the platform has.
 QByteArray content()
 {
     QFile file(filePath());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray();
 }
 
 void write(const QByteArray &bytes)

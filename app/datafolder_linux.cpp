@@ -1,0 +1,16 @@
+#include "datafolder.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+QString portsFolder()
+{
+    const QString folder = dataFolder() + QStringLiteral("/ports");
+    QDir().mkpath(folder);
+    return folder;
+}
+
+bool isWritableFolder(const QString &folder)
+{
+    return QFileInfo(folder).isWritable();
+}

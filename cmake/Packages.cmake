@@ -1,0 +1,22 @@
+# The packages from outside, under the same names on every platform:
+#   tarnwick_hidapi   hidapi
+#   tarnwick_system   what the sources named for the platform need besides
+# TARNWICK_PLATFORM is the end of those sources' names.
+
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets SerialPort Test)
+add_library(tarnwick_hidapi INTERFACE)
+add_library(tarnwick_system INTERFACE)
+
+if(WIN32)
+  set(TARNWICK_PLATFORM win)
+  find_package(hidapi 0.13 REQUIRED COMPONENTS winapi)
+  target_link_libraries(tarnwick_hidapi INTERFACE hidapi::winapi)
+  target_link_libraries(tarnwick_system INTERFACE advapi32 user32)
+else()
+  set(TARNWICK_PLATFORM linux)
+  find_package(PkgConfig REQUIRED)
+  pkg_check_modules(hidapi REQUIRED IMPORTED_TARGET hidapi-hidraw)
+  pkg_check_modules(udev REQUIRED IMPORTED_TARGET libudev)
+  target_link_libraries(tarnwick_hidapi INTERFACE PkgConfig::hidapi)
+  target_link_libraries(tarnwick_system INTERFACE PkgConfig::udev)
+endif()

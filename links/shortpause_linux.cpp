@@ -1,0 +1,8 @@
+#include "shortpause.h"
+
+#include <QThread>
+
+void shortPause(unsigned milliseconds)
+{
+    QThread::msleep(milliseconds);
+}

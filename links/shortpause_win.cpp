@@ -1,0 +1,8 @@
+#include "shortpause.h"
+
+#include <windows.h>
+
+void shortPause(unsigned milliseconds)
+{
+    Sleep(milliseconds);
+}
