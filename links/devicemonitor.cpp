@@ -32,8 +32,6 @@ DeviceMonitor::DeviceMonitor(QString portsFolder, QObject *parent)
     connect(m_system.get(), &SystemWatch::removed, this,
             [this](const WatchedDevice &device) { emit removed(device.kind, device.name); });
     connect(m_system.get(), &SystemWatch::announcementsLost, this, &DeviceMonitor::refreshNeeded);
-    connect(&m_folderWatcher, &QFileSystemWatcher::directoryChanged, this,
-            &DeviceMonitor::comparePorts);
 }
 
 DeviceMonitor::~DeviceMonitor() = default;
@@ -41,7 +39,10 @@ DeviceMonitor::~DeviceMonitor() = default;
 bool DeviceMonitor::start(const WindowHandle &window)
 {
     if (!m_portsFolder.isEmpty()) {
-        m_folderWatcher.addPath(QFileInfo(m_portsFolder).absolutePath());
+        m_folderWatcher = std::make_unique<QFileSystemWatcher>(
+            QStringList(QFileInfo(m_portsFolder).absolutePath()));
+        connect(m_folderWatcher.get(), &QFileSystemWatcher::directoryChanged, this,
+                &DeviceMonitor::comparePorts);
         watchPortsFolder();
     }
     m_linkedPorts = linkedPorts(m_portsFolder);
@@ -52,8 +53,8 @@ bool DeviceMonitor::start(const WindowHandle &window)
 /// that has been moved away and another stands in its place.
 void DeviceMonitor::watchPortsFolder()
 {
-    m_folderWatcher.removePath(m_portsFolder);
-    m_folderWatcher.addPath(m_portsFolder);
+    m_folderWatcher->removePath(m_portsFolder);
+    m_folderWatcher->addPath(m_portsFolder);
 }
 
 void DeviceMonitor::comparePorts()

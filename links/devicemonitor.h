@@ -41,7 +41,8 @@ private:
     void comparePorts();
 
     QString m_portsFolder;
-    QFileSystemWatcher m_folderWatcher;
+    /// None without a folder: on Windows it would also take the messages about devices.
+    std::unique_ptr<QFileSystemWatcher> m_folderWatcher;
     QMap<QString, QString> m_linkedPorts;
     std::unique_ptr<SystemWatch> m_system;
 };

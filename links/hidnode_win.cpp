@@ -1,7 +1,10 @@
 #include "hidnode.h"
 
-/// What is no HID device is refused by the system itself.
-bool mayBeHidNode(const QByteArray & /*path*/)
+#include <QFileInfo>
+#include <QString>
+
+/// The path of a HID device is no path of a file or folder.
+bool mayBeHidNode(const QByteArray &path)
 {
-    return true;
+    return path.startsWith(R"(\\?\)") || !QFileInfo::exists(QString::fromLocal8Bit(path));
 }

@@ -11,6 +11,7 @@ class TestCommandFile : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void rowsAndFlag_data();
     void rowsAndFlag();
     void encodings_data();
@@ -130,7 +131,18 @@ QStringList visibleCells(const QVector<CommandRow> &rows)
     return cells;
 }
 
+/// The same text where lines end with LF alone.
+QByteArray withPlainEnds(QByteArray text)
+{
+    return text.replace("\r\n", "\n");
+}
+
 } // namespace
+
+void TestCommandFile::initTestCase()
+{
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
 
 void TestCommandFile::rowsAndFlag_data()
 {
@@ -189,9 +201,12 @@ void TestCommandFile::encodings_data()
                               << QStringList{"啊漢", "中", "é"};
     QTest::newRow("back and forth")
         << onlyUtf8 + onlyGbk + onlyUtf8 + onlyGbk << QStringList{"中", "啊漢", "中", "啊漢"};
-    QTest::newRow("right in neither")
-        << QByteArray("\xAD") + frame + both + frame
-        << QStringList{QString(QChar(QChar::ReplacementCharacter)), QString::fromUtf8("茅")};
+    // Where Qt is built without ICU, its decoder takes the comma for lost, too.
+    if (QTextCodec::codecForName("GBK")->toUnicode("\xAD,").endsWith(',')) {
+        QTest::newRow("right in neither")
+            << QByteArray("\xAD") + frame + both + frame
+            << QStringList{QString(QChar(QChar::ReplacementCharacter)), QString::fromUtf8("茅")};
+    }
     QTest::newRow("a comment changes it too")
         << "// " + gbk("啊") + "\n" + both + frame << QStringList{QString::fromUtf8("茅")};
     QTest::newRow("an invalid line too")
@@ -259,7 +274,7 @@ void TestCommandFile::rubbishIsBounded_data()
     QTest::newRow("line ends") << QByteArray("\n") << false;
     QTest::newRow("comments") << QByteArray("//\n") << false;
     QTest::newRow("invalid lines") << QByteArray("a\n") << true;
-    QTest::newRow("bytes right in neither encoding") << QByteArray("\xAD,,,\n") << true;
+    QTest::newRow("bytes right in neither encoding") << QByteArray("\xAD,,,,\n") << true;
 }
 
 void TestCommandFile::rubbishIsBounded()
@@ -286,11 +301,11 @@ void TestCommandFile::localTextEncoding()
 {
     const QString text = QStringLiteral("é\n");
     QTextCodec *const local = QTextCodec::codecForLocale();
-    QCOMPARE(toLocalText(text), QByteArray("\xC3\xA9\n"));
+    QCOMPARE(withPlainEnds(toLocalText(text)), QByteArray("\xC3\xA9\n"));
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
     const QByteArray latin1 = toLocalText(text);
     QTextCodec::setCodecForLocale(local);
-    QCOMPARE(latin1, QByteArray("\xE9\n"));
+    QCOMPARE(withPlainEnds(latin1), QByteArray("\xE9\n"));
 }
 
 void TestCommandFile::randomTablesComeBack()

@@ -60,7 +60,7 @@ void TestSavingCommands::theCommandsReplaceTheChosenFile()
     writeFile(path, "before");
     const FileDialogUser user(path);
     desk.actions.saveCommands();
-    QCOMPARE(contentOf(path), QByteArray("Name,unselect,%% %%%% \nDaley(ms),unselect,++  1000\n"));
+    QCOMPARE(textIn(path), QByteArray("Name,unselect,%% %%%% \nDaley(ms),unselect,++  1000\n"));
     QCOMPARE(desk.events, QStringList("unmodified"));
     QCOMPARE(desk.actions.lastSaveFolder(), desk.folder());
     QCOMPARE(desk.actions.lastLoadFolder(), QStringLiteral("/l/"));
@@ -95,7 +95,7 @@ void TestSavingCommands::tellsWhatTheFileCannotHold()
     const QString path = desk.path(QStringLiteral("list.txt"));
     const FileDialogUser user(path);
     desk.actions.saveCommands();
-    QCOMPARE(contentOf(path), QByteArray("a,unselect,%% %%%% \na,b,unselect,%% %%%% \n"));
+    QCOMPARE(textIn(path), QByteArray("a,unselect,%% %%%% \na,b,unselect,%% %%%% \n"));
     QCOMPARE(desk.events.size(), 2);
     QCOMPARE(desk.events.first(), QStringLiteral("unmodified"));
     QVERIFY(desk.events.last().contains(QLatin1String("row 2: cannot be read again")));

@@ -37,7 +37,7 @@ void TestSavingMessages::theMessagesAreSaved()
     const QString path = desk.path(QStringLiteral("log.txt"));
     const FileDialogUser user(path);
     desk.actions.saveMessages();
-    QCOMPARE(contentOf(path), QByteArray("1, 5A A5 04 03 00 10  0A 84\n"));
+    QCOMPARE(textIn(path), QByteArray("1, 5A A5 04 03 00 10  0A 84\n"));
     QCOMPARE(desk.events, QStringList());
     QCOMPARE(desk.actions.lastSaveFolder(), desk.folder());
     QCOMPARE(desk.storedFolders(), QByteArray("unreadable"));

@@ -2,6 +2,7 @@
 #include "framebuilder.h"
 #include "hextext.h"
 
+#include <QTextCodec>
 #include <QtTest>
 
 Q_DECLARE_METATYPE(FrameLayout)
@@ -131,6 +132,7 @@ void TestFrameBuilder::noPayload()
 
 void TestFrameBuilder::nonAsciiIsTakenOnlyInQuotes()
 {
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     const QString accent = QStringLiteral(u"\u00E9");
     const QByteArray encoded = accent.toLocal8Bit();
     QCOMPARE(encoded, QByteArray("\xC3\xA9"));

@@ -100,8 +100,10 @@ void TestHidThread::refusesWhatIsNoHidDevice_data()
 {
     QTest::addColumn<QByteArray>("path");
 
-    QTest::newRow("other device") << QByteArray("/dev/null");
-    QTest::newRow("folder") << QByteArray("/dev");
+    if (QFileInfo::exists("/dev/null")) {
+        QTest::newRow("other device") << QByteArray("/dev/null");
+    }
+    QTest::newRow("folder") << QCoreApplication::applicationDirPath().toLocal8Bit();
     QTest::newRow("file") << QCoreApplication::applicationFilePath().toLocal8Bit();
 }
 

@@ -10,6 +10,11 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
 
+QByteArray textIn(const QString &path)
+{
+    return contentOf(path).replace("\r\n", "\n");
+}
+
 void writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);

@@ -7,6 +7,9 @@
 /// What a file holds; "unreadable" if it cannot be read.
 QByteArray contentOf(const QString &path);
 
+/// The same for a text file: its lines end with LF, whatever the platform has.
+QByteArray textIn(const QString &path);
+
 /// Makes a file of these bytes, or replaces it.
 void writeFile(const QString &path, const QByteArray &bytes);
 

@@ -47,6 +47,7 @@ void setPort(const QString &name, const QString &port)
 void TestPortRegistry::init()
 {
     RegDeleteTreeW(HKEY_LOCAL_MACHINE, wide(keyName));
+    RegDeleteKeyW(HKEY_LOCAL_MACHINE, wide(keyName));
 }
 
 void TestPortRegistry::cleanupTestCase()
@@ -110,9 +111,9 @@ void TestPortRegistry::emptyKey()
 
 void TestPortRegistry::missingKey()
 {
-    QCOMPARE(listRegistryPorts(keyName).names, QStringList());
     QCOMPARE(readRegistryEntry(keyName, 0).portName, QString("Cannot open regedit!"));
     QVERIFY(!readRegistryEntry(keyName, 0).isFirstUsbSerial);
+    QCOMPARE(listRegistryPorts(keyName).names, QStringList());
 }
 
 void TestPortRegistry::theSystemsPortsAreListed()
