@@ -12,9 +12,7 @@ bool holdsReplacedBytes(const QTextCodec &codec, const QString &text)
     return &codec != &utf8Codec() && text.contains(QChar(QChar::ReplacementCharacter));
 }
 
-} // namespace
-
-DecodedLine decodeLine(const QTextCodec &codec, const QByteArray &line)
+DecodedLine decodeBytes(const QTextCodec &codec, const QByteArray &line)
 {
     // Behind a character that is cut off, the line end shows every codec that it is.
     const QByteArray bytes = line.endsWith('\n') ? line : line + '\n';
@@ -23,6 +21,28 @@ DecodedLine decodeLine(const QTextCodec &codec, const QByteArray &line)
     const bool valid = state.invalidChars == 0 && !holdsReplacedBytes(codec, text);
     text.remove(QLatin1Char('\r')).remove(QLatin1Char('\n'));
     return {text, valid};
+}
+
+/// Without ICU, Qt's GBK decoder takes the byte behind a wrong one for lost, too; in a command line
+/// that must not be a comma.
+QString decodeByFields(const QTextCodec &codec, const QByteArray &line)
+{
+    QStringList fields;
+    for (const QByteArray &field : line.split(',')) {
+        fields.append(decodeBytes(codec, field).text);
+    }
+    return fields.join(QLatin1Char(','));
+}
+
+} // namespace
+
+DecodedLine decodeLine(const QTextCodec &codec, const QByteArray &line)
+{
+    DecodedLine decoded = decodeBytes(codec, line);
+    if (!decoded.valid && &codec != &utf8Codec()) {
+        decoded.text = decodeByFields(codec, line);
+    }
+    return decoded;
 }
 
 const QTextCodec &utf8Codec()

@@ -13,7 +13,8 @@ struct DecodedLine
 };
 
 /// Decodes a line, given with or without its line end. Every CR and LF is left out of the text. A
-/// character that is cut off at the end of the line counts as invalid.
+/// character that is cut off at the end of the line or by a comma counts as invalid; the comma
+/// stays.
 DecodedLine decodeLine(const QTextCodec &codec, const QByteArray &line);
 
 const QTextCodec &utf8Codec();
