@@ -66,6 +66,7 @@ bool HidLink::open(const QString &path, quint8 reportId)
     m_reportId = reportId;
     m_thread.setIds(ids.vendor, ids.product);
     m_thread.setPacketSize(readPacketSize(m_deviceIdFile, ids));
+    m_timing.emplace();
     m_thread.start();
     return true;
 }
@@ -76,6 +77,7 @@ void HidLink::close()
     // What is still on its way must not be taken for something of the next device.
     QCoreApplication::removePostedEvents(&m_receiver);
     m_thread.close();
+    m_timing.reset();
 }
 
 QByteArray HidLink::readArrived(const HidPacket &packet)

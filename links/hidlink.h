@@ -1,10 +1,13 @@
 #pragma once
 
+#include "exacttiming.h"
 #include "hidthread.h"
 #include "link.h"
 
 #include <QHash>
 #include <QObject>
+
+#include <optional>
 
 /// The HID link: lists the attached devices of the known types, opens one of them, and sends blocks
 /// of frames to it as reports.
@@ -55,6 +58,8 @@ private:
     /// What the system said about the paths listed last, since not every path tells its IDs.
     QHash<QString, DeviceIds> m_listedIds;
     quint8 m_reportId = 0;
+    /// Held while a device is open.
+    std::optional<ExactTiming> m_timing;
     HidThread m_thread;
     /// Takes the worker's signals, and nothing else that is queued.
     QObject m_receiver;

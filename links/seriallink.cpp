@@ -47,6 +47,7 @@ bool SerialLink::open(const SerialSettings &settings)
     }
     enlargeIncomingBuffer(qintptr(m_port.handle()));
     m_openPortName = settings.portName;
+    m_timing.emplace();
     return true;
 }
 
@@ -56,6 +57,7 @@ void SerialLink::close()
         m_port.clear(QSerialPort::AllDirections);
         m_port.close();
         m_openPortName.clear();
+        m_timing.reset();
     }
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "exacttiming.h"
 #include "link.h"
 
 #include <QObject>
 #include <QSerialPort>
+
+#include <optional>
 
 /// How a serial port is opened; flow control is always off.
 struct SerialSettings
@@ -63,6 +66,8 @@ private:
 
     QSerialPort m_port;
     QString m_openPortName;
+    /// Held while the port is open.
+    std::optional<ExactTiming> m_timing;
     bool m_waitsForWritten = false;
     bool m_arrivedMeanwhile = false;
     bool m_failed = false;
