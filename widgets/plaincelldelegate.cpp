@@ -8,14 +8,19 @@ namespace {
 const QColor background(0xFF, 0xFF, 0xFF);
 const QColor line(0xF3, 0xF3, 0xF3);
 
+/// The line's height is rounded as the style does it; a painter that centres by itself may come out
+/// a pixel lower.
 void paintText(QPainter &painter, const QStyleOptionViewItem &cell)
 {
     const int margin = cell.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
     const QRect room = cell.rect.adjusted(margin, 0, -margin, -1);
+    const QRect place = QStyle::alignedRect(cell.direction, cell.displayAlignment,
+                                            {room.width(), cell.fontMetrics.height()}, room);
+    const Qt::Alignment sideways = cell.displayAlignment & Qt::AlignHorizontal_Mask;
     painter.setPen(cell.palette.color(QPalette::Text));
     painter.setFont(cell.font);
-    painter.drawText(room, int(cell.displayAlignment) | Qt::TextSingleLine,
-                     cell.fontMetrics.elidedText(cell.text, cell.textElideMode, room.width()));
+    painter.drawText(place, int(sideways) | Qt::TextSingleLine | Qt::TextDontClip,
+                     cell.fontMetrics.elidedText(cell.text, cell.textElideMode, place.width()));
 }
 
 } // namespace

@@ -41,6 +41,7 @@ void styleTable(QTableWidget &table, int columns, int rows)
     table.horizontalHeader()->setStyleSheet(QLatin1String(headerStyle));
     table.setStyleSheet(QLatin1String(tableStyle));
     table.setShowGrid(false);
+    table.setWordWrap(false);
     table.setColumnCount(columns);
     table.setRowCount(rows);
     table.setSelectionMode(QAbstractItemView::ExtendedSelection);
