@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMetaMethod>
+#include <QStyleOptionFrame>
 #include <QtTest>
 
 class TestEditorForm : public QObject
@@ -22,6 +23,22 @@ private slots:
     void theFirstFieldHasTheFocus();
     void tabGoesFromFieldToFieldAndRound();
 };
+
+namespace {
+
+/// In pixels, without the frame that the style draws and the margins inside it.
+int widthForText(const QLineEdit &field)
+{
+    constexpr int innerMargin = 2;
+    const QStyle &style = *field.style();
+    QStyleOptionFrame option;
+    option.initFrom(&field);
+    option.lineWidth = style.pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
+    return style.subElementRect(QStyle::SE_LineEditContents, &option, &field).width() -
+           2 * innerMargin;
+}
+
+} // namespace
 
 void TestEditorForm::beginsAsAnEmptyShort()
 {
@@ -145,11 +162,10 @@ void TestEditorForm::aNewEditorShowsEightValues()
     EditorDriver driver;
     QApplication::setFont(usual);
     driver.show();
-    const int framed = 2 * 4;
     const QString widest = QString("DD ").repeated(8 * 4).trimmed();
-    const int needed = driver.hex()->fontMetrics().horizontalAdvance(widest) + framed;
-    QVERIFY(driver.hex()->width() >= needed);
-    QVERIFY(driver.hex()->width() < needed * 5 / 4);
+    const int needed = driver.hex()->fontMetrics().horizontalAdvance(widest);
+    QVERIFY(widthForText(*driver.hex()) >= needed);
+    QVERIFY(widthForText(*driver.hex()) < needed * 5 / 4);
     driver.editor().resize(1, 256);
     QVERIFY(driver.editor().width() < needed);
 }
