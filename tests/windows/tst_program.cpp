@@ -1,6 +1,4 @@
-#include <QGuiApplication>
 #include <QProcess>
-#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -77,10 +75,6 @@ void TestProgram::startsShowsAndCloses()
     RECT place{};
     QVERIFY(GetClientRect(m_window, &place) != 0);
     QVERIFY(place.right >= 600 && place.bottom >= 400);
-    // The lists are read a second after the start; the picture is to show them.
-    QTRY_VERIFY(QFile::exists(inFolder("hidDeviceID.ini")));
-    QTest::qWait(1500);
-    QVERIFY(QGuiApplication::primaryScreen()->grabWindow(0).save(TARNWICK_PICTURE));
     close();
     const QSettings settings(inFolder("debuggerConfig.ini"), QSettings::IniFormat);
     QCOMPARE(sorted(settings.allKeys()),
@@ -106,5 +100,5 @@ void TestProgram::settingsComeBack()
     QVERIFY2(content.contains("LastLoadPath=C:/\xE6\xB5\x8B/\r\n"), content.constData());
 }
 
-QTEST_MAIN(TestProgram)
+QTEST_GUILESS_MAIN(TestProgram)
 #include "tst_program.moc"
