@@ -6,8 +6,12 @@
 class ExactTiming
 {
 public:
-    ExactTiming();
-    ~ExactTiming();
+    ExactTiming() { request(); }
+    ~ExactTiming() { release(); }
     ExactTiming(const ExactTiming &) = delete;
     ExactTiming &operator=(const ExactTiming &) = delete;
+
+private:
+    static void request();
+    static void release();
 };

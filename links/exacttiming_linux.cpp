@@ -2,6 +2,6 @@
 
 // The system is exact enough by itself.
 
-ExactTiming::ExactTiming() = default;
+void ExactTiming::request() {}
 
-ExactTiming::~ExactTiming() = default;
+void ExactTiming::release() {}

@@ -8,12 +8,12 @@ constexpr UINT resolutionMs = 1;
 
 } // namespace
 
-ExactTiming::ExactTiming()
+void ExactTiming::request()
 {
     timeBeginPeriod(resolutionMs);
 }
 
-ExactTiming::~ExactTiming()
+void ExactTiming::release()
 {
     timeEndPeriod(resolutionMs);
 }
