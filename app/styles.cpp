@@ -33,6 +33,9 @@ QPushButton {
     padding: 0px 8px;
 }
 QPushButton:hover { background: #0090ff; color: #fefefe; }
+#pushButton_LoadCommand:hover, #pushButton_SaveCommand:hover, #pushButton_ClearCommand:hover {
+    background: #d9eeff;
+}
 QPushButton:focus { border-color: #0090ff; }
 QPushButton:disabled { background: #cccccc; color: #666666; }
 QComboBox, QLineEdit {

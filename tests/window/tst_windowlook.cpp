@@ -12,6 +12,8 @@ private slots:
     void anOpenPortAndARunningLoopLookBusy();
     void picturesAreThereInTwoSizes_data();
     void picturesAreThereInTwoSizes();
+    void picturesStandOutUnderTheMouse_data();
+    void picturesStandOutUnderTheMouse();
     void nothingIsClipped_data();
     void nothingIsClipped();
     void unitsAreWhole_data();
@@ -28,6 +30,18 @@ const QString busyStyle =
     "QPushButton{background: #0090ff;border: 2px solid #d9dfe7;border-radius: 4px;color: "
     "#fefefe;}QPushButton:hover{background: #0090ff;border-radius: 4px;color: "
     "#fefefe;}QPushButton:disabled{background: #cccccc;color:#666666}";
+
+bool hasPixel(const QImage &image, const QColor &color)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == color) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
 
 bool showsItsWholeText(const QWidget *widget)
 {
@@ -104,6 +118,32 @@ void TestWindowLook::picturesAreThereInTwoSizes()
     const QImage large(":/Image/" + name + "@2x.png");
     QVERIFY(!plain.isNull());
     QCOMPARE(large.size(), plain.size() * 2);
+}
+
+void TestWindowLook::picturesStandOutUnderTheMouse_data()
+{
+    QTest::addColumn<int>("unused");
+
+    QTest::newRow("pushButton_LoadCommand") << 0;
+    QTest::newRow("pushButton_SaveCommand") << 0;
+    QTest::newRow("pushButton_ClearCommand") << 0;
+}
+
+void TestWindowLook::picturesStandOutUnderTheMouse()
+{
+    WindowDriver window;
+    QPushButton *button = window.button(QTest::currentDataTag());
+    window.window().show();
+    // A button is entered from somewhere.
+    for (const QPoint place : {QPoint(-9, -9), button->rect().center()}) {
+        QTest::mouseMove(window.window().windowHandle(), button->mapTo(&window.window(), place));
+    }
+    QTRY_VERIFY(button->underMouse());
+    const QImage look = button->grab().toImage();
+    const QColor ground = look.pixelColor(look.width() / 8, look.height() / 8);
+    const QColor stroke(0x00, 0x90, 0xFF);
+    QVERIFY2(ground != Qt::white && ground != stroke, qPrintable(ground.name()));
+    QVERIFY(hasPixel(look, stroke));
 }
 
 void TestWindowLook::nothingIsClipped_data()
