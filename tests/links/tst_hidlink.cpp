@@ -1,5 +1,4 @@
 #include "fakehid.h"
-#include "hiddevices.h"
 #include "hidlink.h"
 
 #include <QSignalSpy>
@@ -17,15 +16,6 @@ const char barePath[] = "/dev/hidraw-bare";
 constexpr DeviceIds small{0xEEEF, 0x1616};
 constexpr DeviceIds large{0xEEEF, 0x2929};
 
-QStringList paths(const QVector<HidDevice> &devices)
-{
-    QStringList list;
-    for (const HidDevice &device : devices) {
-        list.append(device.path);
-    }
-    return list;
-}
-
 } // namespace
 
 class TestHidLink : public QObject
@@ -35,13 +25,6 @@ class TestHidLink : public QObject
 private slots:
     void init();
     void cleanup();
-
-    void listsInOrderOfTheTypes();
-    void typeListedTwice();
-    void deviceListedTwiceBySystem();
-    void typeWithoutIds();
-    void manyTypes();
-    void enumerationIsFreed();
 
     void listing();
     void listingReadsTheFileAfresh();
@@ -91,57 +74,6 @@ void TestHidLink::replaceFile(const QByteArray &content)
     QFile file(m_file);
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(content);
-}
-
-void TestHidLink::listsInOrderOfTheTypes()
-{
-    m_fake.addDevice(barePath, small.vendor, small.product);
-    const QVector<HidDevice> devices = attachedHidDevices({large, small});
-    QCOMPARE(paths(devices), QStringList({largePath, smallPath, barePath}));
-    QVERIFY(devices.at(2).ids == small);
-
-    const QVector<HidCall> calls = m_fake.calls(Function::Enumerate);
-    QCOMPARE(calls.size(), 2);
-    QCOMPARE(calls.at(0).product, large.product);
-    QCOMPARE(calls.at(1).vendor, small.vendor);
-    QCOMPARE(calls.at(1).product, small.product);
-    QVERIFY(attachedHidDevices({}).isEmpty());
-}
-
-void TestHidLink::typeListedTwice()
-{
-    const QStringList expected{smallPath, largePath, smallPath};
-    QCOMPARE(paths(attachedHidDevices({small, large, small})), expected);
-}
-
-void TestHidLink::deviceListedTwiceBySystem()
-{
-    m_fake.addDevice(smallPath, small.vendor, small.product);
-    QCOMPARE(paths(attachedHidDevices({small})), QStringList({smallPath, smallPath}));
-}
-
-void TestHidLink::typeWithoutIds()
-{
-    QCOMPARE(paths(attachedHidDevices({{}})), QStringList({smallPath, "/dev/keyboard", largePath}));
-    QCOMPARE(paths(attachedHidDevices({{0xEEEF, 0}})), QStringList({smallPath, largePath}));
-}
-
-void TestHidLink::manyTypes()
-{
-    QVector<DeviceIds> wanted;
-    for (int i = 0; i < 100'000; ++i) {
-        wanted.append({quint16(0xE000 + i / 50'000), quint16(i % 50'000)});
-    }
-    wanted += {large, small, {0, 0x0001}, large};
-    const QStringList expected{largePath, smallPath, "/dev/keyboard", largePath};
-    QCOMPARE(paths(attachedHidDevices(wanted)), expected);
-    QCOMPARE(m_fake.count(Function::Enumerate), 1);
-}
-
-void TestHidLink::enumerationIsFreed()
-{
-    attachedHidDevices({small, {1, 1}, large, small});
-    QCOMPARE(m_fake.count(Function::FreeEnumeration), 2);
 }
 
 void TestHidLink::listing()
