@@ -13,7 +13,9 @@ option(CMAKE_COMPILE_WARNING_AS_ERROR "Let no warning pass" ON)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+  # What one clone of the tree has compiled serves another one, wherever it lies.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
 endif()
 
 add_library(tarnwick_options INTERFACE)

@@ -4,6 +4,8 @@
 # TARNWICK_PLATFORM is the end of those sources' names.
 
 find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets SerialPort Test)
+# It names the build folder to every test, so that no other clone could use what was compiled here.
+set_property(TARGET Qt5::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS)
 add_library(tarnwick_hidapi INTERFACE)
 add_library(tarnwick_system INTERFACE)
 

@@ -23,7 +23,7 @@ namespace {
 
 CommandFile example(const QString &name)
 {
-    const QString path = QFINDTESTDATA("../../examples/" + name);
+    const QString path = QStringLiteral(TARNWICK_TREE "/examples/") + name;
     const FileContent content = readFile(path, largestCommandFile);
     return readCommandFile(content.bytes);
 }

@@ -225,7 +225,7 @@ void TestDeviceIds::everyByteValue()
 /// What is listed from the start, and what the udev rules let the user open, are the same.
 void TestDeviceIds::knownTypesMayBeOpened()
 {
-    const QString path = QFINDTESTDATA("../../packaging/linux/70-tarnwick.rules");
+    const QString path = QStringLiteral(TARNWICK_TREE "/packaging/linux/70-tarnwick.rules");
     QStringList rules = QString(readFile(path)).split('\n').filter(QRegularExpression("^[^#]"));
     for (const DeviceIds ids : parseDeviceIdFile(defaultDeviceIdFile())) {
         const QString rule =
