@@ -44,6 +44,8 @@ Dialog::Dialog(QWidget *parent)
     , m_settingsFile(dataFile(QStringLiteral("debuggerConfig.ini")))
     , m_settings(m_settingsFile.load())
     , m_maximumInstructionLength(longestInstruction)
+    , m_headlines(*m_form, m_list, this)
+    , m_status({m_form->label_Status, m_form->label_Status_2}, this)
     , m_frameOptions(*m_form, m_settings, m_maximumInstructionLength, this)
     , m_serialLink(FrameReassembler::capacity - FrameReassembler::longestFrame, this)
     , m_serialPanel(*m_form, m_serialLink, this)
@@ -82,7 +84,7 @@ Dialog::~Dialog()
 
 void Dialog::closeEvent(QCloseEvent *event)
 {
-    if (m_commandsModified && askToSaveCommands()) {
+    if (m_list.isModified() && askToSaveCommands()) {
         m_files.saveCommands();
     }
     m_loop.stop();
@@ -129,7 +131,7 @@ void Dialog::setUpCommands()
     connect(table, &QTableWidget::customContextMenuRequested, this,
             &Dialog::tableRegisterContexMenuRequested);
     connect(&m_rowActions, &RowActions::refused, this, &Dialog::showMessage);
-    connect(&m_rowActions, &RowActions::modified, this, [this] { m_commandsModified = true; });
+    connect(&m_rowActions, &RowActions::modified, &m_list, &ListState::setModified);
     connect(&m_rowActions, &RowActions::editRequested, &m_rowEditor, &RowEditor::open);
     connect(&m_rowEditor.editor(), &DirectEditor::SendData, this, &Dialog::editor_dataIn);
     connect(&m_rowEditor.editor(), &DirectEditor::unencodableTyped, this, &Dialog::showMessage,
@@ -154,7 +156,8 @@ FileActionHooks Dialog::fileHooks()
     hooks.showMessage = [this](const QString &text) { showMessage(text); };
     hooks.commands = [this] { return m_commands.rows(); };
     hooks.replaceCommands = [this](const auto &rows) { m_commands.replaceRows(rows); };
-    hooks.commandsUnmodified = [this] { m_commandsModified = false; };
+    hooks.commandsStored = [this](const QString &path) { m_list.setStored(path); };
+    hooks.tell = [this](const QString &text) { m_status.tell(text); };
     hooks.messages = [this] { return m_log.rows(); };
     return hooks;
 }
@@ -323,7 +326,7 @@ void Dialog::on_pushButton_SaveCommand_clicked()
 void Dialog::on_pushButton_ClearCommand_clicked()
 {
     m_commands.clear();
-    m_commandsModified = false;
+    m_list.setNew();
 }
 
 void Dialog::tableRegisterContexMenuRequested(const QPoint &pos)
@@ -357,7 +360,7 @@ void Dialog::on_tableWidget_Register_cellClicked(int /*row*/, int /*column*/) {}
 
 void Dialog::On_tableWidget_Register_textchange()
 {
-    m_commandsModified = true;
+    m_list.setModified();
     m_commands.recomputeCurrentRow();
 }
 

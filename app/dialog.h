@@ -4,8 +4,10 @@
 #include "devicewatch.h"
 #include "fileactions.h"
 #include "frameoptions.h"
+#include "headlines.h"
 #include "hidlink.h"
 #include "hidpanel.h"
+#include "liststate.h"
 #include "loopcontrol.h"
 #include "messagecopy.h"
 #include "messagelog.h"
@@ -17,6 +19,7 @@
 #include "seriallink.h"
 #include "serialpanel.h"
 #include "settings.h"
+#include "statusline.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -104,7 +107,9 @@ private:
     SettingsFile m_settingsFile;
     Settings m_settings;
     int m_maximumInstructionLength;
-    bool m_commandsModified = false;
+    ListState m_list;
+    Headlines m_headlines;
+    StatusLine m_status;
 
     FrameOptions m_frameOptions;
     SerialLink m_serialLink;

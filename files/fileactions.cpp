@@ -7,6 +7,7 @@
 #include "localtext.h"
 #include "saveloss.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QTextCodec>
 
@@ -58,7 +59,7 @@ bool FileActions::loadCommandsFrom(const QString &fileName)
         return false;
     }
     m_hooks.replaceCommands(file.rows);
-    m_hooks.commandsUnmodified();
+    m_hooks.commandsStored(fileName);
     if (file.hasInvalidLines) {
         m_hooks.showMessage(QStringLiteral("Input Register:Invalid format!"));
     }
@@ -77,7 +78,8 @@ void FileActions::saveCommands()
     if (!save(fileName, commandFileText(rows))) {
         return;
     }
-    m_hooks.commandsUnmodified();
+    m_hooks.commandsStored(fileName);
+    m_hooks.tell(tr("Commands saved: %1").arg(QDir::toNativeSeparators(fileName)));
     m_lastSaveFolder = folderOf(fileName);
     recordSaveFolder(m_dataFolder, m_lastSaveFolder);
 
@@ -91,8 +93,11 @@ void FileActions::saveMessages()
 {
     const QString fileName = QFileDialog::getSaveFileName(
         m_window, tr("Save command txt files"), startFolder(m_lastSaveFolder), tr("file(*.txt)"));
-    if (!fileName.isEmpty() && !save(fileName, messageFileText(m_hooks.messages()))) {
-        return;
+    if (!fileName.isEmpty()) {
+        if (!save(fileName, messageFileText(m_hooks.messages()))) {
+            return;
+        }
+        m_hooks.tell(tr("Messages saved: %1").arg(QDir::toNativeSeparators(fileName)));
     }
     // No name has no folder: after a cancelled save the next one starts afresh.
     m_lastSaveFolder = folderOf(fileName);

@@ -17,8 +17,10 @@ struct FileActionHooks
     std::function<QVector<CommandRow>()> commands;
     /// Makes the given rows the only ones.
     std::function<void(const QVector<CommandRow> &)> replaceCommands;
-    /// The commands are now as they are in a file.
-    std::function<void()> commandsUnmodified;
+    /// The commands are now as they are in the file.
+    std::function<void(const QString &path)> commandsStored;
+    /// What the user is told without being stopped.
+    std::function<void(const QString &)> tell;
     std::function<QVector<MessageRow>()> messages;
 };
 

@@ -25,7 +25,8 @@ FileActionHooks FileDesk::hooks()
         rows = loaded;
         events.append(QStringLiteral("%1 rows").arg(loaded.size()));
     };
-    hooks.commandsUnmodified = [this] { events.append(QStringLiteral("unmodified")); };
+    hooks.commandsStored = [this](const QString &path) { events.append("stored: " + path); };
+    hooks.tell = [this](const QString &text) { events.append("told: " + text); };
     hooks.messages = [this] { return messages; };
     return hooks;
 }

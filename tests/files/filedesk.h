@@ -18,6 +18,8 @@ public:
     QString path(const QString &name) const { return dir.filePath(name); }
     /// Its folder, with the slash at the end that the file actions give to folders.
     QString folder() const { return dir.path() + QLatin1Char('/'); }
+    /// The event of a list that is now as it is in a file of its folder.
+    QString stored(const QString &name) const { return "stored: " + path(name); }
     /// What the file of the last folders holds.
     QByteArray storedFolders() const;
 

@@ -61,7 +61,8 @@ void TestSavingCommands::theCommandsReplaceTheChosenFile()
     const FileDialogUser user(path);
     desk.actions.saveCommands();
     QCOMPARE(textIn(path), QByteArray("Name,unselect,%% %%%% \nDaley(ms),unselect,++  1000\n"));
-    QCOMPARE(desk.events, QStringList("unmodified"));
+    QCOMPARE(desk.events, QStringList({desk.stored("list.txt"),
+                                       "told: Commands saved: " + QDir::toNativeSeparators(path)}));
     QCOMPARE(desk.actions.lastSaveFolder(), desk.folder());
     QCOMPARE(desk.actions.lastLoadFolder(), QStringLiteral("/l/"));
     QCOMPARE(desk.storedFolders(), folderFile(QString(), desk.folder()));
@@ -96,8 +97,8 @@ void TestSavingCommands::tellsWhatTheFileCannotHold()
     const FileDialogUser user(path);
     desk.actions.saveCommands();
     QCOMPARE(textIn(path), QByteArray("a,unselect,%% %%%% \na,b,unselect,%% %%%% \n"));
-    QCOMPARE(desk.events.size(), 2);
-    QCOMPARE(desk.events.first(), QStringLiteral("unmodified"));
+    QCOMPARE(desk.events.size(), 3);
+    QCOMPARE(desk.events.first(), desk.stored("list.txt"));
     QVERIFY(desk.events.last().contains(QLatin1String("row 2: cannot be read again")));
 }
 
@@ -132,7 +133,9 @@ void TestSavingCommands::aSavedListLoadsAgain()
     QCOMPARE(desk.rows.first().addr, QString());
     desk.actions.saveCommands();
     QCOMPARE(contentOf(path), saved);
-    QCOMPARE(desk.events, QStringList({"unmodified", "2 rows", "unmodified", "unmodified"}));
+    const QString stored = desk.stored("list.txt");
+    const QString told = "told: Commands saved: " + QDir::toNativeSeparators(path);
+    QCOMPARE(desk.events, QStringList({stored, told, "2 rows", stored, stored, told}));
     QCOMPARE(desk.storedFolders(), folderFile(desk.folder(), desk.folder()));
 }
 

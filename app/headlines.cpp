@@ -1,0 +1,20 @@
+#include "headlines.h"
+
+#include "liststate.h"
+#include "ui_dialog.h"
+
+#include <QDir>
+
+Headlines::Headlines(Ui::Dialog &form, const ListState &list, QObject *parent)
+    : QObject(parent)
+    , m_form(form)
+    , m_list(list)
+{
+    connect(&m_list, &ListState::changed, this, &Headlines::showList);
+}
+
+void Headlines::showList()
+{
+    m_form.label_ListName->setText(m_list.title());
+    m_form.label_ListName->setToolTip(QDir::toNativeSeparators(m_list.path()));
+}

@@ -1,0 +1,94 @@
+#include "statusline.h"
+
+#include "wrappinglabel.h"
+
+#include <QStringList>
+
+#include <utility>
+
+namespace {
+
+/// Characters that fit into a line of the side panel.
+constexpr int lineLength = 32;
+
+QString toHtml(const QString &text)
+{
+    return withLineBreaks(text, lineLength)
+        .toHtmlEscaped()
+        .replace(QLatin1Char('\n'), QLatin1String("<br>"));
+}
+
+} // namespace
+
+StatusLine::StatusLine(QList<QLabel *> labels, QObject *parent)
+    : QObject(parent)
+    , m_labels(std::move(labels))
+{
+    for (const QLabel *label : std::as_const(m_labels)) {
+        connect(label, &QLabel::linkActivated, this, &StatusLine::takeUp, Qt::QueuedConnection);
+    }
+    show();
+}
+
+void StatusLine::showLink(const QString &text)
+{
+    m_link = text;
+    tell({});
+}
+
+void StatusLine::tell(const QString &text)
+{
+    m_told = text;
+    show();
+}
+
+void StatusLine::offer(const QString &text, const QString &linkText, std::function<void()> action)
+{
+    m_offer = text;
+    m_linkText = linkText;
+    m_action = std::move(action);
+    show();
+}
+
+void StatusLine::withdrawOffer()
+{
+    offer({}, {}, nullptr);
+}
+
+void StatusLine::show()
+{
+    const bool hasLink = m_action != nullptr;
+    for (QLabel *label : std::as_const(m_labels)) {
+        label->setTextFormat(hasLink ? Qt::RichText : Qt::PlainText);
+        label->setText(hasLink ? htmlText() : plainText());
+        // A label without a link is no stop of the Tab key.
+        label->setTextInteractionFlags(hasLink ? Qt::TextBrowserInteraction
+                                               : Qt::TextSelectableByMouse);
+    }
+}
+
+QString StatusLine::plainText() const
+{
+    QStringList lines{m_link, m_told};
+    lines.removeAll(QString());
+    return withLineBreaks(lines.join(QLatin1Char('\n')), lineLength);
+}
+
+QString StatusLine::htmlText() const
+{
+    QStringList lines{toHtml(m_link), toHtml(m_told),
+                      toHtml(m_offer) +
+                          QStringLiteral(" <a href=\"#\">%1</a>").arg(toHtml(m_linkText))};
+    lines.removeAll(QString());
+    return lines.join(QLatin1String("<br>"));
+}
+
+/// Runs when the label is done with the click, since the action may take the link away.
+void StatusLine::takeUp()
+{
+    const std::function<void()> action = std::exchange(m_action, nullptr);
+    withdrawOffer();
+    if (action) {
+        action();
+    }
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+class QLabel;
+
+/// What the user is told without being stopped, in labels that all say the same: what is open, the
+/// last thing told, and what is offered. Texts are plain.
+class StatusLine : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The labels must outlive this.
+    explicit StatusLine(QList<QLabel *> labels, QObject *parent = nullptr);
+
+    /// Shows the open link until the next call; nothing is open where the text is empty. What was
+    /// told before goes.
+    void showLink(const QString &text);
+
+    /// Shows the text in place of the one told before; an empty one clears it.
+    void tell(const QString &text);
+
+    /// Shows the text and, behind it, a link that runs the action. That ends the offer, as another
+    /// one does.
+    void offer(const QString &text, const QString &linkText, std::function<void()> action);
+
+    /// Ends an offer that was not taken up.
+    void withdrawOffer();
+
+private:
+    void show();
+    QString plainText() const;
+    QString htmlText() const;
+    void takeUp();
+
+    QList<QLabel *> m_labels;
+    QString m_link;
+    QString m_told;
+    QString m_offer;
+    QString m_linkText;
+    std::function<void()> m_action;
+};
