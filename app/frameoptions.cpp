@@ -1,5 +1,6 @@
 #include "frameoptions.h"
 
+#include "headernotice.h"
 #include "ui_dialog.h"
 
 FrameOptions::FrameOptions(const Ui::Dialog &form, const Settings &settings,
@@ -22,7 +23,7 @@ StartBytes FrameOptions::readStartBytes()
     // Both links share the header of the serial tab; the HID tab's own field is never read.
     const std::optional<StartBytes> read = parseStartBytes(m_form.lineEdit_SBytes->text());
     if (!read) {
-        emit badHeader(QStringLiteral("Startbytes Length error"));
+        emit badHeader(badHeaderMessage);
     }
     return read.value_or(fallbackStartBytes);
 }
@@ -30,7 +31,7 @@ StartBytes FrameOptions::readStartBytes()
 FrameLayout FrameOptions::nextFrameLayout()
 {
     FrameLayout layout;
-    layout.startBytes = readStartBytes();
+    layout.startBytes = startBytes();
     layout.withStartBytes = m_settings.noAppendHeader == 0;
     layout.withLength = m_settings.noAppendLength == 0;
     layout.withCrc = withCrc();
@@ -41,4 +42,10 @@ FrameLayout FrameOptions::nextFrameLayout()
 StartBytes FrameOptions::startBytes() const
 {
     return parseStartBytes(m_form.lineEdit_SBytes->text()).value_or(fallbackStartBytes);
+}
+
+std::optional<QString> FrameOptions::unreadableHeader() const
+{
+    const QString text = m_form.lineEdit_SBytes->text();
+    return parseStartBytes(text) ? std::nullopt : std::optional<QString>(text);
 }

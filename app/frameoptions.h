@@ -24,6 +24,7 @@ public:
 
     FrameLayout nextFrameLayout() override;
     StartBytes startBytes() const override;
+    std::optional<QString> unreadableHeader() const override;
     bool withCrc() const override { return m_crcFlag != 0; }
 
 signals:

@@ -1,6 +1,8 @@
 #include "sender.h"
 
+#include "delaymarker.h"
 #include "framesettings.h"
+#include "headernotice.h"
 #include "hextext.h"
 #include "link.h"
 
@@ -38,11 +40,16 @@ void Sender::sendOne(const QString &frameText)
     if (!requireOpenLink()) {
         return;
     }
+    if (isDelay(frameText)) {
+        tellNothingToSend();
+        return;
+    }
     const int length = instructionLength(frameText, m_settings.withCrc());
     if (length > m_link->longestInstruction()) {
         emit message(overlongInstructionWarning(length));
     }
-    sendText(frameText);
+    HeaderNotice notice;
+    sendText(frameText, notice);
 }
 
 void Sender::sendAll(const QVector<CheckedRow> &rows)
@@ -50,8 +57,10 @@ void Sender::sendAll(const QVector<CheckedRow> &rows)
     if (!requireOpenLink()) {
         return;
     }
-    const BatchPlan plan = planBatch(rows, m_settings.withCrc(),
-                                     [this](const QString &text) { return makeFrame(text); });
+    HeaderNotice notice;
+    const BatchPlan plan =
+        planBatch(rows, m_settings.withCrc(),
+                  [this, &notice](const QString &text) { return makeFrame(text, notice); });
     if (!plan.overlongRows.isEmpty()) {
         emit message(overlongRowsMessage(plan.overlongRows));
     }
@@ -65,15 +74,16 @@ void Sender::sendAll(const QVector<CheckedRow> &rows)
 
 LoopPlan Sender::planLoop(const QVector<CheckedRow> &rows)
 {
+    HeaderNotice notice;
     return ::planLoop(rows, m_settings.withCrc(),
-                      [this](const QString &text) { return makeFrame(text); });
+                      [this, &notice](const QString &text) { return makeFrame(text, notice); });
 }
 
-bool Sender::sendText(const QString &frameText)
+bool Sender::sendText(const QString &frameText, HeaderNotice &notice)
 {
-    const QByteArray frame = makeFrame(frameText);
+    const QByteArray frame = makeFrame(frameText, notice);
     if (frame.isEmpty()) {
-        emit message(QStringLiteral("No thing to send!"));
+        tellNothingToSend();
         return false;
     }
     // A message shown since the link was found open may have outlived the link.
@@ -100,7 +110,16 @@ void Sender::sendBlock(const QByteArray &block)
     }
 }
 
-QByteArray Sender::makeFrame(const QString &frameText)
+QByteArray Sender::makeFrame(const QString &frameText, HeaderNotice &notice)
 {
-    return buildFrame(frameText, m_settings.nextFrameLayout());
+    const FrameLayout layout = m_settings.nextFrameLayout();
+    if (notice.isNews(m_settings.unreadableHeader())) {
+        emit message(badHeaderMessage);
+    }
+    return buildFrame(frameText, layout);
+}
+
+void Sender::tellNothingToSend()
+{
+    emit message(QStringLiteral("No thing to send!"));
 }

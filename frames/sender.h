@@ -5,6 +5,7 @@
 #include <QObject>
 
 class FrameSettings;
+class HeaderNotice;
 class Link;
 
 /// Sends rows over the active link: one, all checked ones as one block, or what the loop hands it.
@@ -28,7 +29,8 @@ public:
     /// Whether the active link is open; if not, the user is told.
     bool requireOpenLink();
 
-    /// Sends one row's frame text. A text too long for the link is sent after a warning.
+    /// Sends one row's frame text; a delay row has nothing to send. A text too long for the link is
+    /// sent after a warning.
     void sendOne(const QString &frameText);
 
     /// Sends the rows' frames in one write, without the pauses of delay rows.
@@ -38,8 +40,8 @@ public:
     LoopPlan planLoop(const QVector<CheckedRow> &rows);
 
     /// Sends one frame text without any check of the link. Returns whether there was a frame to
-    /// send.
-    bool sendText(const QString &frameText);
+    /// send. A bad header is told where it is news to the notice.
+    bool sendText(const QString &frameText, HeaderNotice &notice);
 
     /// Sends a block of frames without any check of the link.
     void sendBlock(const QByteArray &block);
@@ -55,7 +57,8 @@ signals:
     void sent(const QString &frameHexText);
 
 private:
-    QByteArray makeFrame(const QString &frameText);
+    QByteArray makeFrame(const QString &frameText, HeaderNotice &notice);
+    void tellNothingToSend();
 
     FrameSettings &m_settings;
     Link *m_link = nullptr;

@@ -32,6 +32,7 @@ void SendLoop::start(const LoopPlan &plan, int intervalMs)
     stop();
     m_plan = plan;
     m_intervalMs = intervalMs;
+    m_headerNotice = {};
     m_running = true;
 }
 
@@ -99,7 +100,7 @@ int SendLoop::sendTextStep()
         return delayMilliseconds(text);
     }
     ++m_sentCount;
-    if (!m_sender.sendText(text)) {
+    if (!m_sender.sendText(text, m_headerNotice)) {
         m_sinceHandOver.start();
     }
     return m_intervalMs;

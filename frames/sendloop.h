@@ -1,5 +1,6 @@
 #pragma once
 
+#include "headernotice.h"
 #include "sendplan.h"
 
 #include <QElapsedTimer>
@@ -53,6 +54,7 @@ private:
 
     Sender &m_sender;
     LoopPlan m_plan;
+    HeaderNotice m_headerNotice;
     int m_intervalMs = 0;
     bool m_running = false;
     bool m_inPass = false;

@@ -1,5 +1,6 @@
 #include "fakeframesettings.h"
 #include "fakelink.h"
+#include "headernotice.h"
 #include "sender.h"
 
 #include <QSignalSpy>
@@ -15,12 +16,15 @@ private slots:
     void oneOverAClosedLink();
     void oneWithNothingToSend_data();
     void oneWithNothingToSend();
+    void oneOfADelayRow_data();
     void oneOfADelayRow();
     void oneTooLong_data();
     void oneTooLong();
     void warningComesBeforeTheFrame();
     void oneWhoseLinkClosesDuringAMessage();
     void oneReadsTheLayoutOnce();
+    void aBadHeaderIsToldOnceForEachAct();
+    void aBadHeaderIsToldBeforeTheFrame();
 
     void allInOneWrite();
     void allOverAClosedLink();
@@ -121,11 +125,24 @@ void TestSender::oneWithNothingToSend()
     QVERIFY(bench.link.calls.isEmpty());
 }
 
+void TestSender::oneOfADelayRow_data()
+{
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("pause") << "++1000";
+    QTest::newRow("no number") << "++";
+    QTest::newRow("overlong") << "++" + bytes(300);
+}
+
 void TestSender::oneOfADelayRow()
 {
+    QFETCH(QString, text);
     Bench bench;
-    bench.sender.sendOne("++1000");
-    QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 03 00 10 00 "}));
+    bench.link.longest = 255;
+    bench.settings.unreadable = QStringLiteral("5A");
+    bench.sender.sendOne(text);
+    QCOMPARE(bench.said, QStringList{"message No thing to send!"});
+    QVERIFY(bench.link.calls.isEmpty());
 }
 
 void TestSender::oneTooLong_data()
@@ -190,6 +207,37 @@ void TestSender::oneReadsTheLayoutOnce()
     QCOMPARE(bench.settings.layoutsRead, 1);
     bench.sender.sendOne("012");
     QCOMPARE(bench.settings.layoutsRead, 2);
+}
+
+void TestSender::aBadHeaderIsToldOnceForEachAct()
+{
+    const QString told = "message Startbytes Length error";
+    const QVector<CheckedRow> rows{{1, "01"}, {2, "++5"}, {3, "02"}};
+    Bench bench;
+    bench.settings.unreadable = QStringLiteral("5A");
+    for (int act = 1; act <= 2; ++act) {
+        bench.sender.sendOne("01");
+        QCOMPARE(bench.said.count(told), 3 * act - 2);
+        bench.sender.sendAll(rows);
+        QCOMPARE(bench.said.count(told), 3 * act - 1);
+        bench.sender.planLoop(rows);
+        QCOMPARE(bench.said.count(told), 3 * act);
+    }
+    bench.settings.unreadable.reset();
+    bench.sender.sendAll(rows);
+    QCOMPARE(bench.said.count(told), 6);
+}
+
+void TestSender::aBadHeaderIsToldBeforeTheFrame()
+{
+    Bench bench;
+    bench.settings.unreadable = QStringLiteral("5A");
+    QObject::connect(&bench.sender, &Sender::message, &bench.sender, [&] {
+        bench.settings.layout.startBytes = StartBytes{0x12, 0x34};
+    });
+    bench.sender.sendOne("01");
+    QCOMPARE(bench.said,
+             (QStringList{"message Startbytes Length error", "handed over", "sent 5A A5 01 01 "}));
 }
 
 void TestSender::allInOneWrite()
@@ -303,11 +351,12 @@ void TestSender::loopPlanChecksNoLink()
 void TestSender::textHandedOverBeforeItIsLogged()
 {
     Bench bench;
-    QVERIFY(bench.sender.sendText("01"));
+    HeaderNotice notice;
+    QVERIFY(bench.sender.sendText("01", notice));
     QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 "}));
-    QVERIFY(!bench.sender.sendText("1"));
+    QVERIFY(!bench.sender.sendText("1", notice));
     bench.link.open = false;
-    QVERIFY(!bench.sender.sendText("01"));
+    QVERIFY(!bench.sender.sendText("01", notice));
     QCOMPARE(bench.link.blocks.size(), 1);
 }
 

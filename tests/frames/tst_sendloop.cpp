@@ -17,6 +17,9 @@ private slots:
     void aPassIsNotEnteredTwice();
     void eachPassAddsToTheSentCount();
 
+    void aBadHeaderIsToldOnceForEachText();
+    void aBadHeaderIsToldAgainAfterAStart();
+
     void anEmptyPlanFindsNothing_data();
     void anEmptyPlanFindsNothing();
     void rowsWithoutFramesAreAPass();
@@ -122,6 +125,42 @@ void TestSendLoop::eachPassAddsToTheSentCount()
     QCOMPARE(bench.loop.sentCount(), 6);
     bench.loop.stop();
     QCOMPARE(bench.loop.sentCount(), 0);
+}
+
+void TestSendLoop::aBadHeaderIsToldOnceForEachText()
+{
+    LoopBench bench;
+    bench.start({"01", "02"}, 1);
+    const auto runWith = [&](const std::optional<QString> &unreadable) {
+        bench.settings.unreadable = unreadable;
+        bench.loop.runPass();
+        const int passes = bench.passEnded.size();
+        QTRY_COMPARE(bench.passEnded.size(), passes + 1);
+    };
+    runWith(QString("5A"));
+    QCOMPARE(bench.messages.size(), 1);
+    QCOMPARE(bench.messages.at(0).at(0).toString(), QString("Startbytes Length error"));
+    runWith(QString("5A"));
+    QCOMPARE(bench.messages.size(), 1);
+    runWith(QString("A5"));
+    QCOMPARE(bench.messages.size(), 2);
+    runWith(std::nullopt);
+    runWith(QString("A5"));
+    QCOMPARE(bench.messages.size(), 3);
+    QCOMPARE(bench.link.blocks.size(), 10);
+}
+
+void TestSendLoop::aBadHeaderIsToldAgainAfterAStart()
+{
+    LoopBench bench;
+    bench.settings.unreadable = QString();
+    for (const int start : {1, 2}) {
+        bench.messages.clear();
+        bench.run({"01", "02"}, 1);
+        QTRY_COMPARE(bench.passEnded.size(), start);
+        // Once for the start, once for the loop that runs.
+        QCOMPARE(bench.messages.size(), 2);
+    }
 }
 
 void TestSendLoop::anEmptyPlanFindsNothing_data()

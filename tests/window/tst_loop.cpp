@@ -16,6 +16,7 @@ private slots:
     void aStopClickEndsThePass();
     void rowSendButtonsWorkMeanwhile();
     void changesOfTheTableHaveNoEffect();
+    void aBadHeaderIsToldOnceUntilItChanges();
     void tooManyEntriesAreRefused();
     void aPassThatFindsNothing();
     void aLostPortEndsTheLoop();
@@ -169,6 +170,26 @@ void TestLoop::changesOfTheTableHaveNoEffect()
     window.checkRow(2, false);
     QTRY_VERIFY(window.messageCount() >= 4);
     QVERIFY(window.port.received().startsWith(firstFrame + secondFrame));
+}
+
+void TestLoop::aBadHeaderIsToldOnceUntilItChanges()
+{
+    const QString told = "Startbytes Length error";
+    MessageBoxes boxes;
+    LoopWindow window("5", "30", "1");
+    window.edit("lineEdit_SBytes")->setText("5A");
+    window.click("pushButton_Start_Loop");
+    QCOMPARE(boxes.takeTexts(), QStringList{told});
+    QTRY_VERIFY(window.messageCount() >= 6);
+    QCOMPARE(boxes.takeTexts(), QStringList{told});
+    QVERIFY(window.port.received().startsWith(QByteArray::fromHex("A55A050300000001")));
+
+    window.edit("lineEdit_SBytes")->setText("5A,A5");
+    const int before = window.messageCount();
+    QTRY_VERIFY(window.messageCount() >= before + 6);
+    QCOMPARE(boxes.takeTexts(), QStringList{told});
+    window.click("pushButton_Start_Loop");
+    QCOMPARE(boxes.texts(), QStringList());
 }
 
 void TestLoop::tooManyEntriesAreRefused()

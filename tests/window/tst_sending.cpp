@@ -21,7 +21,8 @@ private slots:
     void overlongRowsAreLeftOutOfABatch();
     void checkedRowsGoOutInOneBlock();
     void aBlockIsLoggedAsItsFrames();
-    void aBadHeaderIsToldForEachFrame();
+    void aDelayRowSendsNothing();
+    void aBadHeaderIsToldOnceForEachAct();
     void theHeaderIsReadForEachFrame();
     void headerAndLengthAreLeftOutAsTheSettingsSay();
 };
@@ -227,7 +228,22 @@ void TestSending::aBlockIsLoggedAsItsFrames()
     QCOMPARE(window.message(1).at(2), QString(" 02"));
 }
 
-void TestSending::aBadHeaderIsToldForEachFrame()
+void TestSending::aDelayRowSendsNothing()
+{
+    MessageBoxes boxes;
+    WindowDriver window;
+    TestPort port;
+    window.open(port);
+    window.setRow(0, "++", "", "1000");
+    window.setRow(1, "03", "0000", "0001");
+    window.clickSend(0);
+    QCOMPARE(boxes.texts(), QStringList{"No thing to send!"});
+    QCOMPARE(window.messageCount(), 0);
+    window.clickSend(1);
+    QTRY_COMPARE(port.received(), hex("5AA5050300000001"));
+}
+
+void TestSending::aBadHeaderIsToldOnceForEachAct()
 {
     MessageBoxes boxes;
     WindowDriver window;
@@ -238,11 +254,18 @@ void TestSending::aBadHeaderIsToldForEachFrame()
         window.setRow(row, "03", "0000", "0001");
         window.checkRow(row);
     }
+    const QStringList once{"Startbytes Length error"};
     window.click("pushButton_SendAll");
-    QCOMPARE(boxes.texts(), QStringList({"Startbytes Length error", "Startbytes Length error"}));
+    QCOMPARE(boxes.takeTexts(), once);
     QTRY_COMPARE(port.received(), hex("A55A050300000001"
                                       "A55A050300000001"));
     QCOMPARE(window.messageCount(), 2);
+    window.clickSend(0);
+    QCOMPARE(boxes.takeTexts(), once);
+    QCOMPARE(window.messageCount(), 3);
+    window.click("pushButton_SendAll");
+    QCOMPARE(boxes.takeTexts(), once);
+    QTRY_COMPARE(port.received(), hex("A55A050300000001").repeated(5));
 }
 
 void TestSending::theHeaderIsReadForEachFrame()
