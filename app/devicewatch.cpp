@@ -1,6 +1,7 @@
 #include "devicewatch.h"
 
 #include "datafolder.h"
+#include "devicenames.h"
 #include "hextext.h"
 #include "hidlink.h"
 #include "messagelog.h"
@@ -14,9 +15,9 @@ QString linkName(DeviceKind kind)
 }
 
 /// Interface paths are compared and shown in upper case, port names as they are.
-QString shownName(DeviceKind kind, const QString &name)
+QString shownName(const WatchedDevice &device)
 {
-    return kind == DeviceKind::Port ? name : name.toUpper();
+    return device.kind == DeviceKind::Port ? device.name : device.name.toUpper();
 }
 
 } // namespace
@@ -34,34 +35,37 @@ DeviceWatch::DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, M
     connect(&m_monitor, &DeviceMonitor::refreshNeeded, this, &DeviceWatch::listsOutdated);
 }
 
-void DeviceWatch::noteArrival(DeviceKind kind, const QString &name)
+void DeviceWatch::noteArrival(const WatchedDevice &device)
 {
     emit listsOutdated();
-    m_log.appendEvent(linkName(kind), QStringLiteral("Insert ") + shownName(kind, name));
+    m_log.appendEvent(linkName(device.kind), QStringLiteral("Insert ") + shownName(device));
 }
 
-void DeviceWatch::noteRemoval(DeviceKind kind, const QString &name)
+void DeviceWatch::noteRemoval(const WatchedDevice &device)
 {
-    const QString shown = shownName(kind, name);
-    if (kind == DeviceKind::Port && isOpenPort(shown)) {
+    if (isOpenPort(device)) {
         emit portGone();
-    } else if (kind == DeviceKind::Hid && isOpenHidDevice(shown)) {
+    } else if (isOpenHidDevice(device)) {
         emit hidGone();
     }
-    m_log.appendEvent(linkName(kind), QStringLiteral("Remove ") + shown);
+    m_log.appendEvent(linkName(device.kind), QStringLiteral("Remove ") + shownName(device));
     emit listsOutdated();
 }
 
-bool DeviceWatch::isOpenPort(const QString &name) const
+bool DeviceWatch::isOpenPort(const WatchedDevice &device) const
 {
-    return m_serialLink.isOpen() && name == m_serialLink.openPortName();
+    return device.kind == DeviceKind::Port && m_serialLink.isOpen() &&
+           device.name == m_serialLink.openPortName();
 }
 
-bool DeviceWatch::isOpenHidDevice(const QString &path) const
+/// Devices of one type have the same IDs, so the path decides where it can.
+bool DeviceWatch::isOpenHidDevice(const WatchedDevice &device) const
 {
     constexpr int idDigits = 4;
     const DeviceIds ids = m_hidLink.ids();
-    return m_hidLink.isOpen() &&
-           path.contains(QLatin1String("VID_") + paddedHex(ids.vendor, idDigits)) &&
-           path.contains(QLatin1String("PID_") + paddedHex(ids.product, idDigits));
+    const QString name = shownName(device);
+    return device.kind == DeviceKind::Hid && m_hidLink.isOpen() &&
+           name.contains(QLatin1String("VID_") + paddedHex(ids.vendor, idDigits)) &&
+           name.contains(QLatin1String("PID_") + paddedHex(ids.product, idDigits)) &&
+           !areDifferentDevices(device.path, m_hidLink.openPath());
 }

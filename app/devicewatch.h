@@ -37,10 +37,10 @@ signals:
     void listsOutdated();
 
 private:
-    void noteArrival(DeviceKind kind, const QString &name);
-    void noteRemoval(DeviceKind kind, const QString &name);
-    bool isOpenPort(const QString &name) const;
-    bool isOpenHidDevice(const QString &path) const;
+    void noteArrival(const WatchedDevice &device);
+    void noteRemoval(const WatchedDevice &device);
+    bool isOpenPort(const WatchedDevice &device) const;
+    bool isOpenHidDevice(const WatchedDevice &device) const;
 
     const SerialLink &m_serialLink;
     const HidLink &m_hidLink;

@@ -27,10 +27,8 @@ DeviceMonitor::DeviceMonitor(QString portsFolder, QObject *parent)
     , m_portsFolder(std::move(portsFolder))
     , m_system(SystemWatch::create())
 {
-    connect(m_system.get(), &SystemWatch::arrived, this,
-            [this](const WatchedDevice &device) { emit arrived(device.kind, device.name); });
-    connect(m_system.get(), &SystemWatch::removed, this,
-            [this](const WatchedDevice &device) { emit removed(device.kind, device.name); });
+    connect(m_system.get(), &SystemWatch::arrived, this, &DeviceMonitor::arrived);
+    connect(m_system.get(), &SystemWatch::removed, this, &DeviceMonitor::removed);
     connect(m_system.get(), &SystemWatch::announcementsLost, this, &DeviceMonitor::refreshNeeded);
 }
 
@@ -63,9 +61,9 @@ void DeviceMonitor::comparePorts()
     const auto before = std::exchange(m_linkedPorts, linkedPorts(m_portsFolder));
     const auto now = m_linkedPorts;
     for (const QString &path : missingOrChanged(before, now)) {
-        emit removed(DeviceKind::Port, path);
+        emit removed({DeviceKind::Port, path, path});
     }
     for (const QString &path : missingOrChanged(now, before)) {
-        emit arrived(DeviceKind::Port, path);
+        emit arrived({DeviceKind::Port, path, path});
     }
 }

@@ -30,9 +30,9 @@ public:
 signals:
     /// A port (by name; links by absolute path) or a HID device (by a path with its IDs, such as
     /// "/dev/hidraw0#VID_EEEF&PID_1616") has come.
-    void arrived(DeviceKind kind, const QString &name);
+    void arrived(const WatchedDevice &device);
     /// One has gone, by the name that it had on arrival.
-    void removed(DeviceKind kind, const QString &name);
+    void removed(const WatchedDevice &device);
     /// More has happened than could be told; the device lists are to be read again.
     void refreshNeeded();
 

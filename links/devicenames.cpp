@@ -20,6 +20,17 @@ QString hidDeviceName(const QString &node, DeviceIds ids)
     return ids == DeviceIds() ? node : node + QLatin1Char('#') + deviceIdsText(ids);
 }
 
+bool areDifferentDevices(const QString &path, const QString &otherPath)
+{
+    static const QStringList beginnings{QStringLiteral("/dev/"), QStringLiteral(R"(\\?\)")};
+    const bool areComparable = std::any_of(
+        beginnings.begin(), beginnings.end(), [&path, &otherPath](const QString &beginning) {
+            return path.startsWith(beginning, Qt::CaseInsensitive) &&
+                   otherPath.startsWith(beginning, Qt::CaseInsensitive);
+        });
+    return areComparable && path.compare(otherPath, Qt::CaseInsensitive) != 0;
+}
+
 DeviceIds idsInHidId(const QString &hidId)
 {
     static const QRegularExpression pattern(

@@ -8,6 +8,11 @@
 /// IDs are not known.
 QString hidDeviceName(const QString &node, DeviceIds ids);
 
+/// Whether two HID device paths name devices that can't be the same: both name a node or interface
+/// of the same system, and not the same one. Letters count alike in upper and lower case. A text
+/// that only has IDs in it names none, and is like any.
+bool areDifferentDevices(const QString &path, const QString &otherPath);
+
 /// The IDs in a kernel's HID_ID property "0003:0000EEEF:00001616" (bus, vendor and product in hex);
 /// zeros when it is none.
 DeviceIds idsInHidId(const QString &hidId);

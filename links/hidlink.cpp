@@ -63,6 +63,7 @@ bool HidLink::open(const QString &path, quint8 reportId)
         return false;
     }
     const DeviceIds ids = idsOf(path);
+    m_openPath = path;
     m_reportId = reportId;
     m_thread.setIds(ids.vendor, ids.product);
     m_thread.setPacketSize(readPacketSize(m_deviceIdFile, ids));

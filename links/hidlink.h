@@ -42,6 +42,8 @@ public:
 
     /// Bytes of data in each report of the device opened last.
     int packetSize() const { return m_thread.packetSize(); }
+    /// The path of the device opened last.
+    QString openPath() const { return m_openPath; }
     /// IDs of the device opened last.
     DeviceIds ids() const { return {m_thread.vendorId(), m_thread.productId()}; }
 
@@ -57,6 +59,7 @@ private:
     QString m_deviceIdFile;
     /// What the system said about the paths listed last, since not every path tells its IDs.
     QHash<QString, DeviceIds> m_listedIds;
+    QString m_openPath;
     quint8 m_reportId = 0;
     /// Held while a device is open.
     std::optional<ExactTiming> m_timing;

@@ -28,17 +28,18 @@ class Told : public QStringList
 public:
     explicit Told(const DeviceMonitor &monitor)
     {
-        QObject::connect(
-            &monitor, &DeviceMonitor::arrived,
-            [this](DeviceKind kind, const QString &name) { append("+ " + text(kind) + name); });
-        QObject::connect(
-            &monitor, &DeviceMonitor::removed,
-            [this](DeviceKind kind, const QString &name) { append("- " + text(kind) + name); });
+        QObject::connect(&monitor, &DeviceMonitor::arrived,
+                         [this](const WatchedDevice &device) { append("+ " + text(device)); });
+        QObject::connect(&monitor, &DeviceMonitor::removed,
+                         [this](const WatchedDevice &device) { append("- " + text(device)); });
         QObject::connect(&monitor, &DeviceMonitor::refreshNeeded, [this] { append("refresh"); });
     }
 
 private:
-    static QString text(DeviceKind kind) { return kind == DeviceKind::Port ? "port " : "hid "; }
+    static QString text(const WatchedDevice &device)
+    {
+        return (device.kind == DeviceKind::Port ? "port " : "hid ") + device.name;
+    }
 };
 
 /// Announcements keep their order, so all before this one have been handled when it is told.

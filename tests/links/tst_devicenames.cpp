@@ -8,6 +8,8 @@ class TestDeviceNames : public QObject
 
 private slots:
     void hidName();
+    void differentDevices_data();
+    void differentDevices();
     void hidId_data();
     void hidId();
     void systemPath_data();
@@ -21,6 +23,41 @@ void TestDeviceNames::hidName()
     QCOMPARE(hidDeviceName("/dev/hidraw3", {0xEEEF, 0x000A}),
              QString("/dev/hidraw3#VID_EEEF&PID_000A"));
     QCOMPARE(hidDeviceName("/dev/hidraw3", {}), QString("/dev/hidraw3"));
+}
+
+void TestDeviceNames::differentDevices_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("other");
+    QTest::addColumn<bool>("different");
+
+    const char opened[] = R"(\\?\hid#vid_eeef&pid_1616#6&1&0&0000#{4d1e55b2})";
+    QTest::newRow("the same node") << "/dev/hidraw0"
+                                   << "/dev/hidraw0" << false;
+    QTest::newRow("in other letters") << "/DEV/HIDRAW0"
+                                      << "/dev/hidraw0" << false;
+    QTest::newRow("another node") << "/dev/hidraw1"
+                                  << "/dev/hidraw0" << true;
+    QTest::newRow("one number begins like the other") << "/dev/hidraw1"
+                                                      << "/dev/hidraw10" << true;
+    QTest::newRow("the same interface")
+        << R"(\\?\HID#VID_EEEF&PID_1616#6&1&0&0000#{4D1E55B2})" << opened << false;
+    QTest::newRow("another interface")
+        << R"(\\?\HID#VID_EEEF&PID_1616#6&2&0&0000#{4D1E55B2})" << opened << true;
+    QTest::newRow("only IDs") << "VID_EEEF&PID_1616" << opened << false;
+    QTest::newRow("nothing") << ""
+                             << "/dev/hidraw0" << false;
+    QTest::newRow("a place on the bus") << "/dev/hidraw0"
+                                        << "0001:0004:00" << false;
+}
+
+void TestDeviceNames::differentDevices()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, other);
+    QFETCH(bool, different);
+    QCOMPARE(areDifferentDevices(path, other), different);
+    QCOMPARE(areDifferentDevices(other, path), different);
 }
 
 void TestDeviceNames::hidId_data()

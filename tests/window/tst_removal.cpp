@@ -140,6 +140,10 @@ void TestRemoval::removalEndsTheLink_data()
     };
     const QStringList quick{"5", "5", "5"};
     row("idle", quick, [](OpenWindow & /*window*/) { pullOutSmall(); });
+    row("announced by its IDs alone", quick, [](OpenWindow & /*window*/) {
+        hid().removeDevice(smallPath);
+        FakeSystem::instance().pullOut({DeviceKind::Hid, "VID_EEEF&PID_1616", "VID_EEEF&PID_1616"});
+    });
     row("running loop", quick, [](OpenWindow &window) { loopOf(window, 3); });
     row("loop of blocks", {"0", "5", "5"}, [](OpenWindow &window) { loopOf(window, 3); });
     row("in the interval", {"10000", "5", "5"}, [](OpenWindow &window) { loopOf(window, 1); });
@@ -201,7 +205,10 @@ void TestRemoval::removalEndsTheLink()
     QCOMPARE(hid().count(HidCall::Function::Close), 1);
     const int rows = window.messageCount();
     const int sent = window.sent.size();
-    QCOMPARE(window.message(rows - 1), deviceRow("HID", smallRemoved));
+    QCOMPARE(window.message(rows - 1).at(0), QString("HID"));
+    QVERIFY(QRegularExpression("^Remove (/DEV/HIDRAW-OF-A-TEST-1#)?VID_EEEF&PID_1616$")
+                .match(window.message(rows - 1).at(5))
+                .hasMatch());
 
     // Nothing of it goes on: the next refresh finds the window as it was left.
     QTRY_COMPARE(window.combo("comboBox_Hid_Device")->count(), 1);
@@ -272,6 +279,7 @@ void TestRemoval::anotherDevicesRemovalIsOnlyLogged_data()
 
     QTest::newRow("other product") << hidDevice(largePath, largeIds);
     QTest::newRow("other vendor") << hidDevice(largePath, {0xEEEE, 0x1616});
+    QTest::newRow("spare of the same type") << hidDevice("/dev/hidraw-spare", smallIds);
     QTest::newRow("unknown device") << hidDevice(largePath, {});
     QTest::newRow("port") << port("ttyUSB0");
     QTest::newRow("port with the IDs in its name") << port("VID_EEEF&PID_1616");
