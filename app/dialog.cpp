@@ -3,6 +3,7 @@
 #include "boxes.h"
 #include "datafolder.h"
 #include "fieldcutter.h"
+#include "headernotice.h"
 #include "styles.h"
 #include "ui_dialog.h"
 #include "version.h"
@@ -46,7 +47,7 @@ Dialog::Dialog(QWidget *parent)
     , m_maximumInstructionLength(longestInstruction)
     , m_headlines(*m_form, m_list, this)
     , m_status({m_form->label_Status, m_form->label_Status_2}, this)
-    , m_frameOptions(*m_form, m_settings, m_maximumInstructionLength, this)
+    , m_frameOptions(*m_form, m_settings, m_maximumInstructionLength)
     , m_serialLink(FrameReassembler::capacity - FrameReassembler::longestFrame, this)
     , m_serialPanel(*m_form, m_serialLink, this)
     , m_hidLink(dataFile(QStringLiteral("hidDeviceID.ini")), this)
@@ -59,7 +60,8 @@ Dialog::Dialog(QWidget *parent)
     , m_messageCopy(*m_form->tableWidget_Message, m_log, this)
     , m_devices(m_serialLink, m_hidLink, m_log, this)
     , m_files(this, dataFolder(), fileHooks())
-    , m_receiver([this] { return m_frameOptions.readStartBytes(); }, this)
+    , m_receivedHeader(*m_form->lineEdit_SBytes, this)
+    , m_receiver([this] { return m_receivedHeader.startBytes(); }, this)
     , m_sender(m_frameOptions, this)
     , m_loop(*m_form, m_sender, this)
 {
@@ -171,19 +173,24 @@ void Dialog::setUpTimers()
 
 void Dialog::connectLinks()
 {
-    connect(&m_serialLink, &SerialLink::arrived, this, &Dialog::serial_receiveData);
+    connect(&m_serialLink, &SerialLink::arrived, &m_receiver, &Receiver::take);
     connect(&m_serialLink, &SerialLink::lost, this, [this](const QString &reason) {
         const QString port = m_serialLink.openPortName();
         endSerialLink();
         m_timer1.start(refreshAfterEventMs);
         showMessage(tr("The connection to %1 is lost: %2").arg(port, reason));
     });
-    connect(&m_hidLink, &HidLink::packetReceived, this, &Dialog::hid_receiveData);
+    connect(&m_hidLink, &HidLink::arrived, &m_receiver, &Receiver::take);
+    connect(&m_hidLink, &HidLink::dropped, &m_log, [this](qint64 bytes) {
+        m_log.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
+    });
     connect(&m_hidLink, &HidLink::deviceDisconnected, this, &Dialog::Close_HidDevice_From_thread);
     connect(&m_receiver, &Receiver::frameReceived, this, [this](const QString &hexText) {
         m_log.appendReceived(hexText, m_frameOptions.withCrc());
     });
     connect(&m_receiver, &Receiver::noticeReceived, this, &Dialog::logNotice);
+    connect(&m_receivedHeader, &ReceivedHeader::unreadable, this,
+            [this] { showMessage(badHeaderMessage); });
 }
 
 void Dialog::watchDevices()
@@ -203,7 +210,6 @@ void Dialog::watchDevices()
 void Dialog::connectSending()
 {
     connect(&m_sender, &Sender::message, this, &Dialog::showMessage);
-    connect(&m_frameOptions, &FrameOptions::badHeader, this, &Dialog::showMessage);
     connect(&m_sender, &Sender::sent, this, [this](const QString &hexText) {
         m_log.appendSent(hexText, m_frameOptions.withCrc());
     });
@@ -242,7 +248,7 @@ void Dialog::on_comboBox_Baudrate_activated(int index)
 
 void Dialog::serial_receiveData()
 {
-    m_receiver.take(m_serialLink.readArrived());
+    m_serialLink.receive();
 }
 
 void Dialog::on_pushButton_ConnectHID_clicked()
@@ -256,7 +262,7 @@ void Dialog::on_pushButton_ConnectHID_clicked()
 
 void Dialog::hid_receiveData(HidPacket packet)
 {
-    m_receiver.take(HidLink::readArrived(packet));
+    m_hidLink.receive(packet);
 }
 
 void Dialog::Close_HidDevice_From_thread()

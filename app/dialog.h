@@ -11,6 +11,7 @@
 #include "loopcontrol.h"
 #include "messagecopy.h"
 #include "messagelog.h"
+#include "receivedheader.h"
 #include "receiver.h"
 #include "rowactions.h"
 #include "roweditor.h"
@@ -124,6 +125,7 @@ private:
     MessageCopy m_messageCopy;
     DeviceWatch m_devices;
     FileActions m_files;
+    ReceivedHeader m_receivedHeader;
     Receiver m_receiver;
     Sender m_sender;
     LoopControl m_loop;

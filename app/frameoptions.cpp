@@ -1,12 +1,10 @@
 #include "frameoptions.h"
 
-#include "headernotice.h"
 #include "ui_dialog.h"
 
 FrameOptions::FrameOptions(const Ui::Dialog &form, const Settings &settings,
-                           int maximumInstructionLength, QObject *parent)
-    : QObject(parent)
-    , m_form(form)
+                           int maximumInstructionLength)
+    : m_form(form)
     , m_settings(settings)
     , m_maximumInstructionLength(maximumInstructionLength)
 {}
@@ -16,16 +14,6 @@ void FrameOptions::takeCrcFlag(LinkMode mode)
     const QCheckBox *box =
         mode == LinkMode::Uart ? m_form.checkBox_CRC_EN : m_form.checkBox_CRC_EN_2;
     m_crcFlag = box->isChecked() ? 1 : 0;
-}
-
-StartBytes FrameOptions::readStartBytes()
-{
-    // Both links share the header of the serial tab; the HID tab's own field is never read.
-    const std::optional<StartBytes> read = parseStartBytes(m_form.lineEdit_SBytes->text());
-    if (!read) {
-        emit badHeader(badHeaderMessage);
-    }
-    return read.value_or(fallbackStartBytes);
 }
 
 FrameLayout FrameOptions::nextFrameLayout()
@@ -41,6 +29,7 @@ FrameLayout FrameOptions::nextFrameLayout()
 
 StartBytes FrameOptions::startBytes() const
 {
+    // Both links share the header of the serial tab; the HID tab's own field is never read.
     return parseStartBytes(m_form.lineEdit_SBytes->text()).value_or(fallbackStartBytes);
 }
 

@@ -174,7 +174,7 @@ void connectTimes(HidWindow &window, int times)
 {
     constexpr int everySoOften = 20;
     QEventLoop arrived;
-    QObject::connect(window.window().findChild<HidLink *>(), &HidLink::packetReceived, &arrived,
+    QObject::connect(window.window().findChild<HidLink *>(), &HidLink::arrived, &arrived,
                      &QEventLoop::quit);
     for (int i = 0; i < times; ++i) {
         window.call("on_pushButton_ConnectHID_clicked");

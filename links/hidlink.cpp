@@ -2,7 +2,6 @@
 
 #include "hiddevices.h"
 #include "reports.h"
-#include "shortpause.h"
 
 #include <QCoreApplication>
 
@@ -10,8 +9,6 @@
 #include <utility>
 
 namespace {
-
-constexpr unsigned settleMs = 2;
 
 HidPacket makePacket(quint8 reportId, const QByteArray &report)
 {
@@ -29,14 +26,16 @@ HidLink::HidLink(QString deviceIdFile, QObject *parent)
     , m_deviceIdFile(std::move(deviceIdFile))
 {
     connect(&m_thread, &HidThread::packetReceived, &m_receiver,
-            [this](const HidPacket &packet) { emit packetReceived(packet); });
+            [this](const HidPacket &packet) { receive(packet); });
     connect(&m_thread, &HidThread::deviceDisconnected, &m_receiver,
             [this] { emit deviceDisconnected(); });
+    connect(&m_inbox, &ReportInbox::arrived, this, &HidLink::arrived);
+    connect(&m_inbox, &ReportInbox::dropped, this, &HidLink::dropped);
 }
 
 HidLink::~HidLink()
 {
-    close();
+    shutDown();
 }
 
 void HidLink::readDeviceTypes()
@@ -74,6 +73,12 @@ bool HidLink::open(const QString &path, quint8 reportId)
 
 void HidLink::close()
 {
+    m_inbox.handUpAll();
+    shutDown();
+}
+
+void HidLink::shutDown()
+{
     m_thread.stop();
     // What is still on its way must not be taken for something of the next device.
     QCoreApplication::removePostedEvents(&m_receiver);
@@ -81,11 +86,10 @@ void HidLink::close()
     m_timing.reset();
 }
 
-QByteArray HidLink::readArrived(const HidPacket &packet)
+void HidLink::receive(const HidPacket &packet)
 {
-    shortPause(settleMs);
-    const int length = qBound(0, packet.length, longestReport);
-    return {reinterpret_cast<const char *>(&packet.data[1]), length};
+    const int length = std::clamp(packet.length, 0, longestReport);
+    m_inbox.put({reinterpret_cast<const char *>(&packet.data[1]), length});
 }
 
 QString HidLink::closedMessage() const

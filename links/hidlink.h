@@ -3,6 +3,7 @@
 #include "exacttiming.h"
 #include "hidthread.h"
 #include "link.h"
+#include "reportinbox.h"
 
 #include <QHash>
 #include <QObject>
@@ -27,11 +28,12 @@ public:
 
     /// Opens the device at a path, after closing the one that is open. Returns whether it is open.
     bool open(const QString &path, quint8 reportId);
-    /// Stops the worker and closes the device. Nothing that the device had sent is signalled after.
+    /// Stops the worker and closes the device. What has arrived is signalled before, and nothing
+    /// that the device had sent is after.
     void close();
 
-    /// The data of a report that has arrived, 2 ms after it did.
-    static QByteArray readArrived(const HidPacket &packet);
+    /// Takes in a packet as if the device had sent it; a length past the packet's end is cut.
+    void receive(const HidPacket &packet);
 
     bool isOpen() const override { return m_thread.isOpen(); }
     QString closedMessage() const override;
@@ -48,12 +50,16 @@ public:
     DeviceIds ids() const { return {m_thread.vendorId(), m_thread.productId()}; }
 
 signals:
-    /// The open device has sent a report.
-    void packetReceived(HidPacket packet);
+    /// The data of a report that the device has sent, 2 ms after it came in. While a handler runs,
+    /// up to 1 MiB of later ones wait.
+    void arrived(const QByteArray &bytes);
+    /// So many bytes of reports are lost, since the one signalled last kept its handler busy.
+    void dropped(qint64 bytes);
     /// The device can't be written to any more; the link is to be closed.
     void deviceDisconnected();
 
 private:
+    void shutDown();
     DeviceIds idsOf(const QString &path) const;
 
     QString m_deviceIdFile;
@@ -66,4 +72,5 @@ private:
     HidThread m_thread;
     /// Takes the worker's signals, and nothing else that is queued.
     QObject m_receiver;
+    ReportInbox m_inbox;
 };

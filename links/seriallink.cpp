@@ -1,14 +1,13 @@
 #include "seriallink.h"
 
 #include "portstate.h"
-#include "shortpause.h"
 
 #include <QDeadlineTimer>
 
+#include <utility>
+
 namespace {
 
-constexpr unsigned settleMs = 2;
-constexpr int moreDataMs = 5;
 constexpr int writtenMs = 2000;
 constexpr int longestInstructionBytes = 65535;
 /// Failed reads in a row after which a port that is still there is given up.
@@ -28,6 +27,7 @@ SerialLink::SerialLink(int longestRead, QObject *parent)
 {
     m_port.setReadBufferSize(longestRead);
     connect(&m_port, &QSerialPort::readyRead, this, &SerialLink::onReadyRead);
+    connect(&m_wait, &ArrivalWait::over, this, &SerialLink::handUp);
     connect(&m_port, &QSerialPort::errorOccurred, this, &SerialLink::onError);
 }
 
@@ -53,6 +53,10 @@ bool SerialLink::open(const SerialSettings &settings)
 
 void SerialLink::close()
 {
+    if (m_wait.isRunning()) {
+        handUp();
+    }
+    m_wait.cancel();
     if (m_port.isOpen()) {
         m_port.clear(QSerialPort::AllDirections);
         m_port.close();
@@ -61,16 +65,40 @@ void SerialLink::close()
     }
 }
 
-QByteArray SerialLink::readArrived()
+void SerialLink::receive()
+{
+    if (!m_wait.isRunning()) {
+        m_wait.announce();
+    }
+}
+
+void SerialLink::handUp()
+{
+    if (m_handsUp) {
+        m_isDueMeanwhile = true;
+        return;
+    }
+    m_handsUp = true;
+    const QByteArray bytes = readAvailable();
+    if (!bytes.isEmpty()) {
+        emit arrived(bytes);
+    }
+    m_handsUp = false;
+    if (std::exchange(m_isDueMeanwhile, false)) {
+        m_wait.announce();
+    }
+}
+
+QByteArray SerialLink::readAvailable()
 {
     if (!m_port.isOpen()) {
         return {};
     }
-    shortPause(settleMs);
-    m_port.waitForReadyRead(moreDataMs);
     // The port takes half a kilobyte a time from the system; all that waits there belongs to it.
     while (m_port.waitForReadyRead(0)) {
     }
+    // It has announced that, too.
+    m_wait.cancel();
     return m_port.readAll();
 }
 
@@ -109,25 +137,15 @@ void SerialLink::waitForWritten()
 void SerialLink::writeOut(int milliseconds)
 {
     const QDeadlineTimer deadline(milliseconds);
-    m_waitsForWritten = true;
     while (m_port.bytesToWrite() > 0 &&
            m_port.waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) {
-    }
-    m_waitsForWritten = false;
-    if (m_arrivedMeanwhile) {
-        m_arrivedMeanwhile = false;
-        QMetaObject::invokeMethod(this, &SerialLink::arrived, Qt::QueuedConnection);
     }
 }
 
 void SerialLink::onReadyRead()
 {
     m_vainReads = 0;
-    if (m_waitsForWritten) {
-        m_arrivedMeanwhile = true;
-    } else {
-        emit arrived();
-    }
+    m_wait.announce();
 }
 
 void SerialLink::onError(QSerialPort::SerialPortError error)
@@ -156,7 +174,12 @@ void SerialLink::resumeReading()
 
 void SerialLink::reportLoss(const QString &reason)
 {
-    if (m_failed && m_port.isOpen()) {
+    if (!m_failed) {
+        return;
+    }
+    // The device's last words.
+    handUp();
+    if (m_port.isOpen()) {
         emit lost(reason);
     }
 }

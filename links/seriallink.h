@@ -1,5 +1,6 @@
 #pragma once
 
+#include "arrivalwait.h"
 #include "exacttiming.h"
 #include "link.h"
 
@@ -33,14 +34,15 @@ public:
     /// open.
     bool open(const SerialSettings &settings);
 
-    /// Drops what is still to be sent or read, and closes the port.
+    /// Hands up what has been announced, drops what is still to be sent or read, and closes the
+    /// port.
     void close();
 
     /// The name that the open port was opened by; empty while the link is closed.
     QString openPortName() const { return m_openPortName; }
 
-    /// Gives a frame that arrives in pieces 2 to 7 ms to come in whole, then takes what is there.
-    QByteArray readArrived();
+    /// Looks for what has come in, as if the port had announced it.
+    void receive();
 
     bool isOpen() const override;
     QString closedMessage() const override;
@@ -51,14 +53,17 @@ public:
     void waitForWritten() override;
 
 signals:
-    /// Data have come in; never emitted in the middle of a write.
-    void arrived();
+    /// What has come in, 2 to 7 ms after the port announced it, so that a frame in pieces comes in
+    /// whole. Handlers may block; meanwhile the port isn't read any further.
+    void arrived(const QByteArray &bytes);
 
     /// The open port has failed for good, for the reason given. Emitted once, from the event loop.
     void lost(const QString &reason);
 
 private:
     void writeOut(int milliseconds);
+    void handUp();
+    QByteArray readAvailable();
     void onReadyRead();
     void onError(QSerialPort::SerialPortError error);
     void resumeReading();
@@ -68,8 +73,9 @@ private:
     QString m_openPortName;
     /// Held while the port is open.
     std::optional<ExactTiming> m_timing;
-    bool m_waitsForWritten = false;
-    bool m_arrivedMeanwhile = false;
+    ArrivalWait m_wait;
+    bool m_handsUp = false;
+    bool m_isDueMeanwhile = false;
     bool m_failed = false;
     int m_vainReads = 0;
 };

@@ -93,6 +93,12 @@ void FakeHid::sendReport(const QByteArray &bytes)
     m_changed.notify_all();
 }
 
+int FakeHid::waitingReports() const
+{
+    const std::lock_guard lock(m_lock);
+    return static_cast<int>(m_reports.size());
+}
+
 void FakeHid::failReads()
 {
     const std::lock_guard lock(m_lock);

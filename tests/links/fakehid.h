@@ -48,6 +48,8 @@ public:
 
     /// The next read returns these bytes. Reads without anything to return time out.
     void sendReport(const QByteArray &bytes);
+    /// Reports that no read has returned yet.
+    int waitingReports() const;
     /// From now on reads fail at once instead of timing out.
     void failReads();
     /// From now on writes fail, after so many more good ones.

@@ -5,6 +5,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
+#include <iterator>
+
 using Function = HidCall::Function;
 
 namespace {
@@ -40,6 +43,10 @@ private slots:
     void isBehindWhileReportsWait();
     void closingStopsFirst();
     void received();
+    void packetsFromElsewhere_data();
+    void packetsFromElsewhere();
+    void aBusyHandlerLosesNothing();
+    void closingHandsUpWhatHasArrived();
     void disconnectionIsSignalledOnce();
     void nothingOldAfterReopening();
     void closingFromTheSignal();
@@ -260,14 +267,82 @@ void TestHidLink::closingStopsFirst()
 void TestHidLink::received()
 {
     HidLink link(m_file);
-    QSignalSpy spy(&link, &HidLink::packetReceived);
+    QSignalSpy spy(&link, &HidLink::arrived);
     QVERIFY(link.open(smallPath, 9));
     m_fake.sendReport("answer");
-    QTRY_COMPARE(spy.size(), 1);
-    const auto packet = spy.at(0).at(0).value<HidPacket>();
-    QCOMPARE(packet.length, 6);
-    QCOMPARE(packet.data[0], quint8(0));
-    QCOMPARE(packet.data[1], quint8('a'));
+    m_fake.sendReport("another");
+    QTRY_COMPARE(spy.size(), 2);
+    QCOMPARE(spy.at(0).at(0).toByteArray(), QByteArray("answer"));
+    QCOMPARE(spy.at(1).at(0).toByteArray(), QByteArray("another"));
+}
+
+void TestHidLink::packetsFromElsewhere_data()
+{
+    QTest::addColumn<int>("length");
+    QTest::addColumn<int>("bytes");
+
+    QTest::newRow("usual") << 3 << 3;
+    QTest::newRow("all there is") << longestReport << longestReport;
+    QTest::newRow("more than there is") << longestReport + 1 << longestReport;
+}
+
+void TestHidLink::packetsFromElsewhere()
+{
+    QFETCH(int, length);
+    QFETCH(int, bytes);
+    HidLink link(m_file);
+    QSignalSpy spy(&link, &HidLink::arrived);
+    HidPacket nothing;
+    nothing.length = -1;
+    link.receive(nothing);
+    HidPacket packet;
+    packet.data[0] = 'i';
+    std::fill(packet.data + 1, std::end(packet.data), 'd');
+    packet.length = length;
+    link.receive(packet);
+    QCOMPARE(spy.size(), 0);
+    QVERIFY(spy.wait());
+    QCOMPARE(spy.at(0).at(0).toByteArray(), QByteArray(bytes, 'd'));
+}
+
+void TestHidLink::aBusyHandlerLosesNothing()
+{
+    constexpr int reports = 20;
+    m_fake.readWithoutWaiting();
+    HidLink link(m_file);
+    QStringList heard;
+    int heardWhileBusy = 0;
+    connect(&link, &HidLink::arrived, this, [&](const QByteArray &report) {
+        heard.append(report);
+        if (heard.size() == 1) {
+            QTRY_COMPARE(m_fake.waitingReports(), 0);
+            QTest::qWait(20);
+            heardWhileBusy = heard.size();
+        }
+    });
+    QStringList sent;
+    for (int i = 0; i < reports; ++i) {
+        sent.append(QString::number(i));
+        m_fake.sendReport(sent.constLast().toLatin1());
+    }
+    QVERIFY(link.open(smallPath, 0));
+    QTRY_COMPARE(heard, sent);
+    QCOMPARE(heardWhileBusy, 1);
+}
+
+void TestHidLink::closingHandsUpWhatHasArrived()
+{
+    HidLink link(m_file);
+    QSignalSpy spy(&link, &HidLink::arrived);
+    QVERIFY(link.open(smallPath, 0));
+    HidPacket packet;
+    packet.length = 1;
+    link.receive(packet);
+    link.close();
+    QCOMPARE(spy.size(), 1);
+    link.receive(packet);
+    QVERIFY(link.open(largePath, 0));
+    QCOMPARE(spy.size(), 2);
 }
 
 void TestHidLink::disconnectionIsSignalledOnce()
@@ -291,7 +366,7 @@ void TestHidLink::nothingOldAfterReopening()
 {
     HidLink link(m_file);
     QSignalSpy disconnections(&link, &HidLink::deviceDisconnected);
-    QSignalSpy packets(&link, &HidLink::packetReceived);
+    QSignalSpy packets(&link, &HidLink::arrived);
     QVERIFY(link.open(smallPath, 0));
     m_fake.sendReport("old");
     m_fake.failWrites(1);
@@ -324,7 +399,7 @@ void TestHidLink::reopeningUnderLoad()
     m_fake.readWithoutWaiting();
     HidLink link(m_file);
     int packets = 0;
-    connect(&link, &HidLink::packetReceived, this, [&packets] { ++packets; });
+    connect(&link, &HidLink::arrived, this, [&packets] { ++packets; });
     for (int round = 0; round < 50; ++round) {
         QVERIFY(link.open(round % 2 == 0 ? smallPath : largePath, quint8(round)));
         link.write(QByteArray(10'000, 'x'));

@@ -4,7 +4,10 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <functional>
+#include <sys/ioctl.h>
 #include <thread>
+#include <utility>
 
 class TestSerialLink : public QObject
 {
@@ -22,10 +25,18 @@ private slots:
     void blocksArriveInOrder();
     void aLongBlockArrivesWhole();
     void oneReadIsBoundedAndNothingIsLost();
-    void closingDropsWhatHasArrived();
+    void nothingStandsStillWhileMoreIsAwaited();
+    void piecesAreHandedUpTogether();
+    void lookingForMoreIsAlwaysAllowed();
+    void aBusyHandlerLosesNothing_data();
+    void aBusyHandlerLosesNothing();
+    void aHandlerMayCloseTheLink();
+    void closingHandsUpWhatWasAnnounced();
+    void closingDropsWhatWasNotAnnounced();
     void dataDuringAWriteAreSignalledAfterIt();
     void writingWhileDataComeInIsNoLoss();
     void lossIsSignalledOnce();
+    void lossIsSignalledBehindTheLastBytes();
     void lossIsNotSignalledOfAClosedLink();
     void aLostLinkOpensAgain();
 };
@@ -50,6 +61,39 @@ QByteArray numbered(int bytes)
     return data.left(bytes);
 }
 
+QSerialPort *portOf(const SerialLink &link)
+{
+    return link.findChild<QSerialPort *>();
+}
+
+/// Bytes that have come in and have not been read yet.
+int waitingInTheSystem(const QSerialPort &port)
+{
+    int bytes = 0;
+    ioctl(port.handle(), FIONREAD, &bytes);
+    return bytes;
+}
+
+/// All that a link hands up.
+class Collector : public QObject
+{
+public:
+    explicit Collector(const SerialLink &link)
+    {
+        connect(&link, &SerialLink::arrived, this, [this](const QByteArray &part) {
+            bytes += part;
+            if (++handlers == 1) {
+                whileBusy();
+            }
+        });
+    }
+
+    QByteArray bytes;
+    int handlers = 0;
+    /// Run by the first handler.
+    std::function<void()> whileBusy = [] {};
+};
+
 } // namespace
 
 void TestSerialLink::closedLinkTakesNothing()
@@ -60,8 +104,11 @@ void TestSerialLink::closedLinkTakesNothing()
     QCOMPARE(closed.closedMessage(), QString("Please open the Com Port!"));
     QCOMPARE(closed.longestInstruction(), 65535);
     QCOMPARE(link.openPortName(), QString());
-    QCOMPARE(link.readArrived(), QByteArray());
+    const QSignalSpy arrived(&link, &SerialLink::arrived);
+    link.receive();
     link.waitForWritten();
+    QTest::qWait(20);
+    QCOMPARE(arrived.count(), 0);
     link.close();
 }
 
@@ -190,8 +237,7 @@ void TestSerialLink::oneReadIsBoundedAndNothingIsLost()
     QVERIFY(link.open(at(port)));
     QByteArray all;
     int longest = 0;
-    connect(&link, &SerialLink::arrived, this, [&] {
-        const QByteArray part = link.readArrived();
+    connect(&link, &SerialLink::arrived, this, [&](const QByteArray &part) {
         longest = std::max(longest, part.size());
         all.append(part);
     });
@@ -202,19 +248,133 @@ void TestSerialLink::oneReadIsBoundedAndNothingIsLost()
     QCOMPARE(longest, bound);
 }
 
-void TestSerialLink::closingDropsWhatHasArrived()
+void TestSerialLink::nothingStandsStillWhileMoreIsAwaited()
 {
     const TestPort port;
     SerialLink link(longestRead);
+    QVERIFY(link.open(at(port)));
+    bool goesOn = false;
+    bool wentOnBefore = false;
+    connect(portOf(link), &QSerialPort::readyRead, this,
+            [&] { QTimer::singleShot(0, this, [&goesOn] { goesOn = true; }); });
     QSignalSpy arrived(&link, &SerialLink::arrived);
+    connect(&link, &SerialLink::arrived, this, [&] { wentOnBefore = goesOn; });
+    port.send("x");
+    QVERIFY(arrived.wait());
+    QVERIFY(wentOnBefore);
+}
+
+void TestSerialLink::piecesAreHandedUpTogether()
+{
+    const TestPort port;
+    SerialLink link(longestRead);
+    QVERIFY(link.open(at(port)));
+    QSignalSpy arrived(&link, &SerialLink::arrived);
+    bool more = false;
+    connect(portOf(link), &QSerialPort::readyRead, this, [&] {
+        if (!std::exchange(more, true)) {
+            port.send("second");
+        }
+    });
+    port.send("first ");
+    QVERIFY(arrived.wait());
+    QCOMPARE(arrived.at(0).at(0).toByteArray(), QByteArray("first second"));
+}
+
+void TestSerialLink::lookingForMoreIsAlwaysAllowed()
+{
+    const TestPort port;
+    SerialLink link(longestRead);
+    QVERIFY(link.open(at(port)));
+    const Collector collector(link);
+    const QByteArray sent = numbered(20000);
+    QTimer impatience;
+    connect(&impatience, &QTimer::timeout, this, [&link] { link.receive(); });
+    impatience.start(1);
+    std::thread farEnd([&] { port.send(sent); });
+    QTRY_COMPARE(collector.bytes.size(), sent.size());
+    farEnd.join();
+    QCOMPARE(collector.bytes, sent);
+}
+
+void TestSerialLink::aBusyHandlerLosesNothing_data()
+{
+    QTest::addColumn<int>("bytes");
+    QTest::newRow("7 bytes") << 7;
+    QTest::newRow("64 KiB, more than fits in") << 64 * 1024;
+}
+
+/// The first handler runs an event loop of its own, as a message box does.
+void TestSerialLink::aBusyHandlerLosesNothing()
+{
+    QFETCH(int, bytes);
+    const TestPort port;
+    SerialLink link(longestRead);
+    QVERIFY(link.open(at(port)));
+    const QByteArray sent = numbered(bytes);
+    Collector collector(link);
+    std::thread farEnd;
+    int handlersWhileBusy = 0;
+    collector.whileBusy = [&] {
+        farEnd = std::thread([&] { port.send(sent); });
+        QTRY_COMPARE(portOf(link)->bytesAvailable(), qint64(std::min(bytes, longestRead)));
+        QTest::qWait(20);
+        handlersWhileBusy = collector.handlers;
+    };
+    port.send("!");
+    QTRY_COMPARE(collector.bytes.size(), 1 + bytes);
+    farEnd.join();
+    QCOMPARE(collector.bytes, "!" + sent);
+    QCOMPARE(handlersWhileBusy, 1);
+}
+
+void TestSerialLink::aHandlerMayCloseTheLink()
+{
+    const TestPort port;
+    SerialLink link(longestRead);
+    QVERIFY(link.open(at(port)));
+    Collector collector(link);
+    collector.whileBusy = [&] {
+        port.send("unheard");
+        QTRY_VERIFY(portOf(link)->bytesAvailable() > 0);
+        link.close();
+    };
+    port.send("!");
+    QTRY_COMPARE(collector.bytes, QByteArray("!"));
+    QVERIFY(link.open(at(port)));
+    port.send("?");
+    QTRY_COMPARE(collector.bytes, QByteArray("!?"));
+}
+
+void TestSerialLink::closingHandsUpWhatWasAnnounced()
+{
+    const TestPort port;
+    SerialLink link(longestRead);
+    const Collector collector(link);
+    QVERIFY(link.open(at(port)));
+    QSignalSpy announced(portOf(link), &QSerialPort::readyRead);
+    port.send("announced");
+    connect(portOf(link), &QSerialPort::readyRead, &link, &SerialLink::close, Qt::QueuedConnection);
+    QVERIFY(announced.wait());
+    QTRY_VERIFY(!link.isOpen());
+    QCOMPARE(collector.bytes, QByteArray("announced"));
+}
+
+void TestSerialLink::closingDropsWhatWasNotAnnounced()
+{
+    const TestPort port;
+    SerialLink link(longestRead);
+    const Collector collector(link);
     QVERIFY(link.open(at(port)));
     port.send("old");
-    QVERIFY(arrived.wait());
+    // Without running the event loop, so that the port can't announce it.
+    while (waitingInTheSystem(*portOf(link)) < 3) {
+        std::this_thread::yield();
+    }
     link.close();
     QVERIFY(link.open(at(port)));
     port.send("new");
-    QVERIFY(arrived.wait());
-    QCOMPARE(link.readArrived(), QByteArray("new"));
+    QTRY_COMPARE(collector.bytes, QByteArray("new"));
 }
 
 void TestSerialLink::dataDuringAWriteAreSignalledAfterIt()
@@ -236,7 +396,7 @@ void TestSerialLink::dataDuringAWriteAreSignalledAfterIt()
     farEnd.join();
     QCOMPARE(signalledInTheMiddle, 0);
     QVERIFY(arrived.wait());
-    QCOMPARE(link.readArrived(), QByteArray("meanwhile"));
+    QCOMPARE(arrived.at(0).at(0).toByteArray(), QByteArray("meanwhile"));
     QCOMPARE(port.received(), block);
 }
 
@@ -247,8 +407,7 @@ void TestSerialLink::writingWhileDataComeInIsNoLoss()
     SerialLink link(longestRead);
     QVERIFY(link.open(at(port)));
     const QSignalSpy lost(&link, &SerialLink::lost);
-    int taken = 0;
-    connect(&link, &SerialLink::arrived, this, [&] { taken += link.readArrived().size(); });
+    const Collector collector(link);
     for (int round = 1; round <= rounds; ++round) {
         port.send("in");
         QMetaObject::invokeMethod(
@@ -260,7 +419,7 @@ void TestSerialLink::writingWhileDataComeInIsNoLoss()
             Qt::QueuedConnection);
         QCoreApplication::processEvents();
     }
-    QTRY_COMPARE(taken, 2 * rounds);
+    QTRY_COMPARE(collector.bytes.size(), 2 * rounds);
     QTRY_COMPARE(port.received().size(), 3 * rounds);
     QCOMPARE(lost.count(), 0);
 }
@@ -280,6 +439,21 @@ void TestSerialLink::lossIsSignalledOnce()
     }
     QCOMPARE(lost.count(), 1);
     QCOMPARE(link.openPortName(), port.path());
+}
+
+void TestSerialLink::lossIsSignalledBehindTheLastBytes()
+{
+    TestPort port;
+    SerialLink link(longestRead);
+    QVERIFY(link.open(at(port)));
+    const Collector collector(link);
+    QByteArray heardBefore;
+    QSignalSpy lost(&link, &SerialLink::lost);
+    connect(&link, &SerialLink::lost, this, [&] { heardBefore = collector.bytes; });
+    connect(portOf(link), &QSerialPort::readyRead, this, [&port] { port.unplug(); });
+    port.send("last words");
+    QVERIFY(lost.wait());
+    QCOMPARE(heardBefore, QByteArray("last words"));
 }
 
 void TestSerialLink::lossIsNotSignalledOfAClosedLink()
@@ -308,7 +482,7 @@ void TestSerialLink::aLostLinkOpensAgain()
     QSignalSpy arrived(&link, &SerialLink::arrived);
     next.send("hello");
     QVERIFY(arrived.wait());
-    QCOMPARE(link.readArrived(), QByteArray("hello"));
+    QCOMPARE(arrived.at(0).at(0).toByteArray(), QByteArray("hello"));
 }
 
 QTEST_GUILESS_MAIN(TestSerialLink)

@@ -1,4 +1,5 @@
 #include "fakehid.h"
+#include "hidbench.h"
 #include "hidwindow.h"
 
 #include <QSignalSpy>
@@ -18,6 +19,10 @@ private slots:
     void closedDeviceIsTold();
     void aFrameGoesOutInReports();
     void receivedReportsAreFramesAndNotices();
+    void reportsComeInWhileABoxIsUp_data();
+    void reportsComeInWhileABoxIsUp();
+    void theSlotTakesPacketsAtAnyMoment();
+    void whatABoxInTheMiddleLeavesNoRoomForIsTold();
     void theHeaderIsTheSerialTabs();
     void aFailedWriteEndsLoopAndLink();
     void theLoopRestsTheWidgetsOfTheTab();
@@ -159,6 +164,91 @@ void TestHid::receivedReportsAreFramesAndNotices()
     hid.sendReport(hex("0700"));
     QTRY_COMPARE(window.messageCount(), 2);
     QCOMPARE(window.message(1).at(5), QString("07 00 "));
+}
+
+void TestHid::reportsComeInWhileABoxIsUp_data()
+{
+    QTest::addColumn<QString>("header");
+    QTest::addColumn<QString>("box");
+    QTest::newRow("on the receive path") << "5A"
+                                         << "Startbytes Length error";
+    QTest::newRow("elsewhere") << "0x5A,0xA5"
+                               << "Not thing to send!";
+}
+
+void TestHid::reportsComeInWhileABoxIsUp()
+{
+    constexpr int reports = 30;
+    QFETCH(QString, header);
+    QFETCH(QString, box);
+    MessageBoxes boxes;
+    HidWindow window;
+    window.openDevice(smallDevice);
+    window.edit("lineEdit_SBytes")->setText(header);
+    FakeHid &hid = FakeHid::instance();
+    int shownDuringBox = 0;
+    connect(&boxes, &MessageBoxes::shown, this, [&] {
+        for (int i = 1; i < reports; ++i) {
+            hid.sendReport(QByteArray(1, char(i)));
+        }
+        QTRY_COMPARE(window.messageCount(), reports);
+        shownDuringBox = window.messageCount();
+    });
+    hid.sendReport("!");
+    QTRY_VERIFY(window.messageCount() > 0);
+    if (header != "5A") {
+        window.click("pushButton_SendAll_2");
+    }
+    QTRY_COMPARE(shownDuringBox, reports);
+    for (int i = 1; i < reports; ++i) {
+        QCOMPARE(hex(window.message(i).at(5)), QByteArray(1, char(i)));
+    }
+    QTRY_COMPARE(boxes.texts(), QStringList{box});
+}
+
+/// With and without a device.
+void TestHid::theSlotTakesPacketsAtAnyMoment()
+{
+    HidWindow window;
+    const HidPacket packet = packetOf(9, hex("5AA50503001000FF"));
+    const auto give = [&] {
+        QVERIFY(QMetaObject::invokeMethod(&window.window(), "hid_receiveData",
+                                          Q_ARG(HidPacket, packet)));
+    };
+    give();
+    QTRY_COMPARE(window.messageCount(), 1);
+    QCOMPARE(window.message(0), QStringList({"1", "5A A5", " 05", " 03", "0010", " 00 FF ", ""}));
+    give();
+    window.openDevice(smallDevice);
+    QCOMPARE(window.messageCount(), 2);
+    give();
+    give();
+    QTRY_COMPARE(window.messageCount(), 4);
+}
+
+void TestHid::whatABoxInTheMiddleLeavesNoRoomForIsTold()
+{
+    constexpr int mebibyte = 1024 * 1024;
+    constexpr int reportSize = 512;
+    constexpr int reports = mebibyte / reportSize + 7;
+    HidWindow window;
+    const HidPacket packet = packetOf(0, QByteArray(reportSize, 'x'));
+    const auto give = [&] {
+        QMetaObject::invokeMethod(&window.window(), "hid_receiveData", Q_ARG(HidPacket, packet));
+    };
+    int received = 0;
+    connect(window.window().findChild<Receiver *>(), &Receiver::noticeReceived, this, [&] {
+        if (++received == 1) {
+            for (int i = 0; i < reports; ++i) {
+                give();
+            }
+        }
+    });
+    give();
+    QTRY_COMPARE(received, 1 + mebibyte / reportSize);
+    window.window().findChild<MessageLog *>()->bringIn();
+    QCOMPARE(window.message(window.messageCount() - 1),
+             QStringList({"HID", "", "", "", "", "3584 bytes dropped", ""}));
 }
 
 void TestHid::theHeaderIsTheSerialTabs()

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
+#include <deque>
+
+/// Gives each report that comes in 2 ms, then hands it up, in order.
+///
+/// While whoever takes a report is busy with it (a message box may be up), the next ones wait here.
+class ReportInbox : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Bytes of reports that wait at most; what comes beyond them is dropped.
+    static constexpr int capacity = 1024 * 1024;
+
+    explicit ReportInbox(QObject *parent = nullptr);
+
+    /// Takes in the data of a report; an empty one is passed over.
+    void put(const QByteArray &report);
+
+    /// Hands up at once what waits.
+    void handUpAll();
+
+signals:
+    /// The data of a report.
+    void arrived(const QByteArray &report);
+    /// So many bytes behind the report signalled last are lost.
+    void dropped(qint64 bytes);
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    struct Waiting
+    {
+        QByteArray report;
+        Clock::time_point due;
+        qint64 droppedBehind = 0;
+    };
+
+    void handUpDueBy(Clock::time_point moment);
+    Waiting takeOldest();
+    void wake();
+
+    std::deque<Waiting> m_waiting;
+    int m_bytes = 0;
+    bool m_busy = false;
+    QTimer m_due;
+};

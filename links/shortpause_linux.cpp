@@ -1,8 +1,0 @@
-#include "shortpause.h"
-
-#include <QThread>
-
-void shortPause(unsigned milliseconds)
-{
-    QThread::msleep(milliseconds);
-}

@@ -1,8 +1,0 @@
-#include "shortpause.h"
-
-#include <windows.h>
-
-void shortPause(unsigned milliseconds)
-{
-    Sleep(milliseconds);
-}
