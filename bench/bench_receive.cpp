@@ -44,9 +44,7 @@ QByteArray pushAll(const TestPort &port)
     }
     std::minstd_rand random(1);
     std::uniform_int_distribution<int> chunkSize(1, longestChunk);
-    // Only behind a whole frame does a start byte that comes alone begin the next one.
-    int at = numberedFrame(0).size();
-    port.send(stream.left(at));
+    int at = 0;
     while (at < stream.size()) {
         const QByteArray chunk = stream.mid(at, chunkSize(random));
         port.send(chunk);

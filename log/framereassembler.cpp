@@ -1,6 +1,7 @@
 #include "framereassembler.h"
 
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -19,11 +20,9 @@ std::optional<int> frameLength(const QByteArray &buffer, int begin)
 class Walk
 {
 public:
-    Walk(const QByteArray &buffer, StartBytes startBytes, bool &frameSeen,
-         QVector<ReceivedPiece> &pieces)
+    Walk(const QByteArray &buffer, StartBytes startBytes, QVector<ReceivedPiece> &pieces)
         : m_buffer(buffer)
         , m_pieces(pieces)
-        , m_frameSeen(frameSeen)
     {
         m_header.append(static_cast<char>(startBytes.first));
         m_header.append(static_cast<char>(startBytes.second));
@@ -44,18 +43,17 @@ public:
                 break;
             }
             give(ReceivedPiece::Kind::Frame, begin + *length);
-            m_frameSeen = true;
         }
         return m_position;
     }
 
 private:
-    /// In a stream that has shown a frame, a first start byte at the very end is the beginning of
-    /// the next one: no frame is lost to the place where the stream was cut into chunks.
+    /// A first start byte at the very end may be the beginning of a frame: none is lost to the
+    /// place where the stream was cut into chunks.
     int endOfRubbish() const
     {
         const int size = m_buffer.size();
-        return m_frameSeen && m_buffer.at(size - 1) == m_header.at(0) ? size - 1 : size;
+        return m_buffer.at(size - 1) == m_header.at(0) ? size - 1 : size;
     }
 
     void noticeTo(int end)
@@ -75,7 +73,6 @@ private:
     QByteArray m_header;
     QVector<ReceivedPiece> &m_pieces;
     int m_position = 0;
-    bool &m_frameSeen;
 };
 
 } // namespace
@@ -87,7 +84,16 @@ QVector<ReceivedPiece> FrameReassembler::take(const QByteArray &chunk, StartByte
         flush(pieces);
     }
     m_buffer.append(chunk.left(capacity - m_buffer.size()));
-    m_buffer.remove(0, Walk(m_buffer, startBytes, m_frameSeen, pieces).run());
+    m_buffer.remove(0, Walk(m_buffer, startBytes, pieces).run());
+    return pieces;
+}
+
+QVector<ReceivedPiece> FrameReassembler::giveUpLoneStartByte()
+{
+    QVector<ReceivedPiece> pieces;
+    if (holdsLoneStartByte()) {
+        pieces.append({ReceivedPiece::Kind::Notice, std::exchange(m_buffer, {})});
+    }
     return pieces;
 }
 

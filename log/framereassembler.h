@@ -17,7 +17,8 @@ struct ReceivedPiece
 ///
 /// A frame is the two start bytes, a length byte L, and L bytes more. It is given out as soon as
 /// its last byte is in, wherever the stream was cut into chunks. Bytes in front of, between or
-/// behind frames are given out as notices, in the order of the stream.
+/// behind frames are given out as notices, in the order of the stream. A first start byte at the
+/// end of what is in may begin a frame and waits, too, until it is given up.
 class FrameReassembler
 {
 public:
@@ -31,6 +32,13 @@ public:
     /// are.
     QVector<ReceivedPiece> take(const QByteArray &chunk, StartBytes startBytes);
 
+    /// Whether the only byte that waits is a first start byte.
+    bool holdsLoneStartByte() const { return m_buffer.size() == 1; }
+
+    /// Takes it for no beginning of a frame after all, and gives it out. Gives out nothing where
+    /// something else waits.
+    QVector<ReceivedPiece> giveUpLoneStartByte();
+
     /// Bytes that wait for the rest of their frame.
     int waitingBytes() const { return m_buffer.size(); }
 
@@ -38,6 +46,4 @@ private:
     void flush(QVector<ReceivedPiece> &pieces);
 
     QByteArray m_buffer;
-    /// The stream has shown a whole frame.
-    bool m_frameSeen = false;
 };

@@ -4,33 +4,38 @@
 
 #include <utility>
 
+namespace {
+
+constexpr int silenceMs = 50;
+
+} // namespace
+
 Receiver::Receiver(ReadStartBytes readStartBytes, QObject *parent)
     : QObject(parent)
     , m_readStartBytes(std::move(readStartBytes))
-{}
+{
+    m_silence.setSingleShot(true);
+    m_silence.setTimerType(Qt::PreciseTimer);
+    m_silence.setInterval(silenceMs);
+    connect(&m_silence, &QTimer::timeout, this,
+            [this] { giveOut(m_reassembler.giveUpLoneStartByte()); });
+}
 
 void Receiver::take(const QByteArray &chunk)
 {
     if (chunk.isEmpty()) {
         return;
     }
-    m_waiting.append(chunk);
-    if (m_busy) {
-        return;
+    m_silence.stop();
+    giveOut(m_reassembler.take(chunk, m_readStartBytes()));
+    if (m_reassembler.holdsLoneStartByte()) {
+        m_silence.start();
     }
-    m_busy = true;
-    while (!m_waiting.isEmpty()) {
-        const StartBytes startBytes = m_readStartBytes();
-        for (const QByteArray &waiting : std::exchange(m_waiting, {})) {
-            giveOut(waiting, startBytes);
-        }
-    }
-    m_busy = false;
 }
 
-void Receiver::giveOut(const QByteArray &chunk, StartBytes startBytes)
+void Receiver::giveOut(const QVector<ReceivedPiece> &pieces)
 {
-    for (const ReceivedPiece &piece : m_reassembler.take(chunk, startBytes)) {
+    for (const ReceivedPiece &piece : pieces) {
         const QString hexText = formatHexBytes(piece.bytes);
         if (piece.kind == ReceivedPiece::Kind::Frame) {
             emit frameReceived(hexText);

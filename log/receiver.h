@@ -3,7 +3,7 @@
 #include "framereassembler.h"
 
 #include <QObject>
-#include <QVector>
+#include <QTimer>
 
 #include <functional>
 
@@ -13,13 +13,13 @@ class Receiver : public QObject
     Q_OBJECT
 
 public:
-    /// Reads the start bytes; it is called for each chunk and may keep the user busy with a
-    /// message.
+    /// Tells the start bytes; it is called for each chunk.
     using ReadStartBytes = std::function<StartBytes()>;
 
     explicit Receiver(ReadStartBytes readStartBytes, QObject *parent = nullptr);
 
-    /// Takes in a chunk. Chunks that come in while the start bytes are being read wait their turn.
+    /// Takes in a chunk. A first start byte at its end that nothing has followed for 50 ms is given
+    /// out as a notice.
     void take(const QByteArray &chunk);
 
 signals:
@@ -30,10 +30,9 @@ signals:
     void noticeReceived(const QString &hexText);
 
 private:
-    void giveOut(const QByteArray &chunk, StartBytes startBytes);
+    void giveOut(const QVector<ReceivedPiece> &pieces);
 
     ReadStartBytes m_readStartBytes;
     FrameReassembler m_reassembler;
-    QVector<QByteArray> m_waiting;
-    bool m_busy = false;
+    QTimer m_silence;
 };

@@ -16,6 +16,7 @@ private slots:
     void everyPlaceOfACut_data();
     void everyPlaceOfACut();
     void aStreamInRandomChunksLosesNothing();
+    void aLoneStartByteCanBeGivenUp();
     void overflowGivesOutWhatWaits();
     void aChunkBeyondTheCapacityIsCut();
     void aChangedHeaderMakesWaitingBytesANotice();
@@ -91,13 +92,13 @@ void TestFrameReassembler::startByteAtTheEnd_data()
         << Chunks{"5AA501015A", "5AA50102"} << QStringList{"F 5AA50101", "N 5A", "F 5AA50102"} << 0;
     QTest::newRow("a first start byte in a chunk of its own behind a frame")
         << Chunks{"5AA50101", "5A", "A50102"} << QStringList{"F 5AA50101", "F 5AA50102"} << 0;
-    QTest::newRow("a first start byte behind rubbish, once there was a frame")
-        << Chunks{"5AA50101", "09", "085A", "A50102"}
-        << QStringList{"F 5AA50101", "N 09", "N 08", "F 5AA50102"} << 0;
-    QTest::newRow("a first start byte as the first of all bytes is rubbish")
-        << Chunks{"5A", "A50102"} << QStringList{"N 5A", "N A50102"} << 0;
-    QTest::newRow("a first start byte behind rubbish only is rubbish")
-        << Chunks{"095A", "A50102"} << QStringList{"N 095A", "N A50102"} << 0;
+    QTest::newRow("behind rubbish in chunks of its own")
+        << Chunks{"09", "085A", "A50102"} << QStringList{"N 09", "N 08", "F 5AA50102"} << 0;
+    QTest::newRow("as the first of all bytes")
+        << Chunks{"5A", "A50102"} << QStringList{"F 5AA50102"} << 0;
+    QTest::newRow("behind rubbish only")
+        << Chunks{"095A", "A50102"} << QStringList{"N 09", "F 5AA50102"} << 0;
+    QTest::newRow("several of them") << Chunks{"5A5A", "5A"} << QStringList{"N 5A", "N 5A"} << 1;
 }
 
 void TestFrameReassembler::chunks()
@@ -124,7 +125,7 @@ void TestFrameReassembler::startByteAtTheEnd()
 void TestFrameReassembler::everyPlaceOfACut_data()
 {
     QTest::addColumn<int>("cut");
-    for (int cut = 2; cut < 7; ++cut) {
+    for (int cut = 1; cut < 7; ++cut) {
         QTest::addRow("behind byte %d", cut) << cut;
     }
 }
@@ -157,8 +158,7 @@ void TestFrameReassembler::aStreamInRandomChunksLosesNothing()
     }
     FrameReassembler reassembler;
     QVector<QByteArray> given;
-    // The first read of a stream holds a whole frame; from there on any cut is good.
-    int size = 60;
+    int size = 1;
     for (int position = 0; position < stream.size();
          position += size, size = 1 + int(random() % 50)) {
         for (const ReceivedPiece &piece :
@@ -170,6 +170,23 @@ void TestFrameReassembler::aStreamInRandomChunksLosesNothing()
     }
     QCOMPARE(given, frames);
     QCOMPARE(reassembler.waitingBytes(), 0);
+}
+
+void TestFrameReassembler::aLoneStartByteCanBeGivenUp()
+{
+    FrameReassembler reassembler;
+    QVERIFY(!reassembler.holdsLoneStartByte());
+    QVERIFY(reassembler.giveUpLoneStartByte().isEmpty());
+    reassembler.take(hex("075A"), defaultHeader);
+    QVERIFY(reassembler.holdsLoneStartByte());
+    const QVector<ReceivedPiece> pieces = reassembler.giveUpLoneStartByte();
+    QCOMPARE(pieces.size(), 1);
+    QCOMPARE(described(pieces.first()), QString("N 5A"));
+    QCOMPARE(reassembler.waitingBytes(), 0);
+    reassembler.take(hex("5AA5"), defaultHeader);
+    QVERIFY(!reassembler.holdsLoneStartByte());
+    QVERIFY(reassembler.giveUpLoneStartByte().isEmpty());
+    QCOMPARE(reassembler.waitingBytes(), 2);
 }
 
 void TestFrameReassembler::overflowGivesOutWhatWaits()

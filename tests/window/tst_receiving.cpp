@@ -23,6 +23,7 @@ private slots:
     void boxesDoNotStandInTheWay();
     void aBoxInTheMiddleOfAFrameLosesNothing();
     void theSlotMayBeCalledAtAnyMoment();
+    void aLoneStartByteIsShownAfterASilence();
     void bytesLeftFromOnePortAreJoinedWithTheNextOnes();
     void crcOfTheLastSendDecidesTheColumns();
     void allZeroNoticesOfASerialPortAreShown();
@@ -306,6 +307,22 @@ void TestReceiving::theSlotMayBeCalledAtAnyMoment()
     farEnd.join();
     window.click("pushButton_OpenCom");
     window.call("serial_receiveData");
+}
+
+void TestReceiving::aLoneStartByteIsShownAfterASilence()
+{
+    WindowDriver window;
+    TestPort port;
+    window.open(port);
+    port.send(hex("5AA503030001"));
+    QTRY_COMPARE(window.messageCount(), 1);
+    port.send(hex("5A"));
+    QTRY_COMPARE(window.messageCount(), 2);
+    QCOMPARE(window.message(1).at(5), QString("5A "));
+    port.send(hex("5A"));
+    port.send(hex("A503030002"));
+    QTRY_COMPARE(window.messageCount(), 3);
+    QCOMPARE(window.message(2).at(5), QString(" 00 02 "));
 }
 
 void TestReceiving::bytesLeftFromOnePortAreJoinedWithTheNextOnes()

@@ -1,0 +1,117 @@
+#include "receiver.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QtTest>
+
+class TestReceiver : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void piecesAreGivenOutInOrder();
+    void theStartBytesAreReadForEachChunk();
+    void aLoneStartByteIsShownAfterASilence_data();
+    void aLoneStartByteIsShownAfterASilence();
+    void aStartByteThatIsFollowedIsNotShown();
+    void whatIsMoreThanAStartByteIsKept();
+};
+
+namespace {
+
+QByteArray hex(const QByteArray &text)
+{
+    return QByteArray::fromHex(text);
+}
+
+/// A receiver for the default header, and what it gives out: "F …" for a frame, "N …" for a notice.
+class Heard : public QObject
+{
+public:
+    Heard()
+        : receiver([this] { return startBytes; })
+    {
+        connect(&receiver, &Receiver::frameReceived, this,
+                [this](const QString &text) { pieces.append("F " + text); });
+        connect(&receiver, &Receiver::noticeReceived, this,
+                [this](const QString &text) { pieces.append("N " + text); });
+    }
+
+    StartBytes startBytes{0x5A, 0xA5};
+    Receiver receiver;
+    QStringList pieces;
+};
+
+constexpr int silenceMs = 50;
+
+} // namespace
+
+void TestReceiver::piecesAreGivenOutInOrder()
+{
+    Heard heard;
+    heard.receiver.take(hex("07 5AA50101 08 5AA5"));
+    heard.receiver.take({});
+    heard.receiver.take(hex("0102"));
+    QCOMPARE(heard.pieces, QStringList({"N 07 ", "F 5A A5 01 01 ", "N 08 ", "F 5A A5 01 02 "}));
+}
+
+void TestReceiver::theStartBytesAreReadForEachChunk()
+{
+    Heard heard;
+    heard.receiver.take(hex("5AA50101"));
+    heard.startBytes = {0x12, 0x34};
+    heard.receiver.take(hex("5AA50101"));
+    heard.receiver.take(hex("12340101"));
+    QCOMPARE(heard.pieces, QStringList({"F 5A A5 01 01 ", "N 5A A5 01 01 ", "F 12 34 01 01 "}));
+}
+
+void TestReceiver::aLoneStartByteIsShownAfterASilence_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("pieces");
+
+    QTest::newRow("alone") << hex("5A") << QStringList{"N 5A "};
+    QTest::newRow("behind rubbish") << hex("075A") << QStringList{"N 07 ", "N 5A "};
+    QTest::newRow("behind a frame") << hex("5AA501015A") << QStringList{"F 5A A5 01 01 ", "N 5A "};
+}
+
+void TestReceiver::aLoneStartByteIsShownAfterASilence()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QStringList, pieces);
+    Heard heard;
+    QElapsedTimer silence;
+    silence.start();
+    heard.receiver.take(bytes);
+    QCOMPARE(heard.pieces, pieces.mid(0, pieces.size() - 1));
+    QTRY_COMPARE(heard.pieces, pieces);
+    QVERIFY(silence.elapsed() >= silenceMs);
+    // It is gone for good.
+    heard.receiver.take(hex("A50102"));
+    QCOMPARE(heard.pieces.mid(pieces.size()), QStringList{"N A5 01 02 "});
+}
+
+void TestReceiver::aStartByteThatIsFollowedIsNotShown()
+{
+    Heard heard;
+    heard.receiver.take(hex("5A"));
+    heard.receiver.take(hex("A5"));
+    bool silent = false;
+    QTimer::singleShot(2 * silenceMs, Qt::PreciseTimer, &heard, [&silent] { silent = true; });
+    QTRY_VERIFY(silent);
+    heard.receiver.take(hex("0107"));
+    QCOMPARE(heard.pieces, QStringList{"F 5A A5 01 07 "});
+}
+
+void TestReceiver::whatIsMoreThanAStartByteIsKept()
+{
+    Heard heard;
+    heard.receiver.take(hex("5AA502"));
+    bool silent = false;
+    QTimer::singleShot(2 * silenceMs, Qt::PreciseTimer, &heard, [&silent] { silent = true; });
+    QTRY_VERIFY(silent);
+    QCOMPARE(heard.pieces, QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestReceiver)
+#include "tst_receiver.moc"
