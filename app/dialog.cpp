@@ -146,7 +146,8 @@ void Dialog::setUpCommands()
 
 void Dialog::setUpTips()
 {
-    for (QTableWidget *table : {m_form->tableWidget_Register, m_form->tableWidget_Message}) {
+    for (QTableWidget *table : std::initializer_list<QTableWidget *>{m_form->tableWidget_Register,
+                                                                     m_form->tableWidget_Message}) {
         table->setMouseTracking(true);
         connect(table, &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
     }

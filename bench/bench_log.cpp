@@ -1,5 +1,6 @@
 #include "figures.h"
 #include "hextext.h"
+#include "logtable.h"
 #include "messagelog.h"
 
 #include <QApplication>
@@ -67,7 +68,7 @@ public:
     }
 
 private:
-    QTableWidget m_table;
+    LogTable m_table;
     MessageLog m_log;
     const QString m_text = formatHexBytes(QByteArray::fromHex("5AA50803100000000000770102"));
 };

@@ -4,20 +4,45 @@
 
 #include <utility>
 
-LogItem::LogItem(QString text, Qt::Alignment alignment, Origin origin)
+LogItem::LogItem(QString text, Qt::Alignment alignment, Colour colour)
     : m_text(std::move(text))
     , m_alignment(alignment)
-    , m_origin(origin)
+    , m_colour(colour)
 {
     setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
 }
 
 QTableWidgetItem *LogItem::clone() const
 {
-    return new LogItem(m_text, m_alignment, m_origin);
+    return new LogItem(*this);
 }
 
 QVariant LogItem::data(int role) const
+{
+    const QVariant set = QTableWidgetItem::data(role);
+    return set.isValid() ? set : ownData(role);
+}
+
+void LogItem::setData(int role, const QVariant &value)
+{
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        m_text.clear();
+        break;
+    case Qt::TextAlignmentRole:
+        m_alignment = {};
+        break;
+    case Qt::ForegroundRole:
+        m_colour = Colour::Plain;
+        break;
+    default:
+        break;
+    }
+    QTableWidgetItem::setData(role, value);
+}
+
+QVariant LogItem::ownData(int role) const
 {
     static const QVariant receivedColour = QBrush(QColor(0, 130, 255));
 
@@ -28,8 +53,8 @@ QVariant LogItem::data(int role) const
     case Qt::TextAlignmentRole:
         return int(m_alignment);
     case Qt::ForegroundRole:
-        return m_origin == Origin::Received ? receivedColour : QVariant();
+        return m_colour == Colour::Received ? receivedColour : QVariant();
     default:
-        return QTableWidgetItem::data(role);
+        return {};
     }
 }

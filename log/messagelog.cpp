@@ -1,11 +1,11 @@
 #include "messagelog.h"
 
 #include "fieldcutter.h"
+#include "logitem.h"
+#include "logtable.h"
 #include "plaincelldelegate.h"
 #include "tableitems.h"
 #include "tablelook.h"
-
-#include <QTableWidget>
 
 #include <algorithm>
 #include <utility>
@@ -16,8 +16,8 @@ constexpr int columnCount = 8;
 constexpr int filledColumns = 7;
 constexpr int initialRows = 9;
 constexpr int fullCount = 1024;
-constexpr int displayFrameMs = 16;
 constexpr int rowsAtOncePerFrame = 64;
+constexpr int numberColumn = 0;
 constexpr int dataColumn = 5;
 
 Qt::Alignment alignmentOf(int column)
@@ -27,7 +27,7 @@ Qt::Alignment alignmentOf(int column)
 
 } // namespace
 
-MessageLog::MessageLog(QTableWidget &table, QObject *parent)
+MessageLog::MessageLog(LogTable &table, QObject *parent)
     : QObject(parent)
     , m_table(table)
 {
@@ -42,9 +42,12 @@ MessageLog::MessageLog(QTableWidget &table, QObject *parent)
                          {QString(), 63}});
     m_table.setItemDelegate(new PlainCellDelegate(this));
     showBlankTable();
-    m_displayFrame.setSingleShot(true);
-    m_displayFrame.setInterval(displayFrameMs);
-    connect(&m_displayFrame, &QTimer::timeout, this, &MessageLog::onDisplayFrame);
+    connect(&m_pace, &DisplayPace::due, this, &MessageLog::moveOn);
+}
+
+void MessageLog::setHold(std::function<bool()> hold)
+{
+    m_pace.setHold(std::move(hold));
 }
 
 void MessageLog::appendSent(const QString &hexText, bool withCrc)
@@ -65,13 +68,14 @@ void MessageLog::appendNotice(const QString &text)
 void MessageLog::appendEvent(const QString &linkName, const QString &text)
 {
     makeRoom();
-    append({Entry::Kind::Notice, linkName, text});
+    append({Entry::Kind::Notice, linkName, text}, Direction::None);
 }
 
 void MessageLog::clear()
 {
     forgetAll();
     bringIn();
+    m_pace.request();
 }
 
 QVector<std::array<QString, 7>> MessageLog::rows()
@@ -96,31 +100,32 @@ void MessageLog::bringIn()
         return;
     }
     int row = m_count - m_waiting.size();
-    m_table.setRowCount(std::max(initialRows, m_count));
+    if (m_count > m_table.rowCount()) {
+        m_table.growTo(m_count);
+    }
     for (const Entry &entry : std::as_const(m_waiting)) {
         fillRow(row++, entry);
     }
     m_waiting.clear();
-    if (m_count >= initialRows) {
-        m_table.scrollToBottom();
-    }
 }
 
 void MessageLog::append(Entry::Kind kind, const QString &text, bool withCrc)
 {
     makeRoom();
-    append({kind, QString::number(m_nextNumber++), text, withCrc});
+    append({kind, QString::number(m_nextNumber++), text, withCrc},
+           kind == Entry::Kind::Sent ? Direction::Sent : Direction::Received);
 }
 
-void MessageLog::append(Entry entry)
+void MessageLog::append(Entry entry, Direction direction)
 {
     ++m_count;
+    m_directions.append(direction);
     m_waiting.append(std::move(entry));
-    beginDisplayFrame();
     if (m_rowsThisFrame < rowsAtOncePerFrame) {
         ++m_rowsThisFrame;
         bringIn();
     }
+    m_pace.request();
 }
 
 void MessageLog::makeRoom()
@@ -133,28 +138,21 @@ void MessageLog::makeRoom()
 void MessageLog::forgetAll()
 {
     m_waiting.clear();
+    m_directions.clear();
     m_count = 0;
     m_nextNumber = 1;
     m_tableIsStale = true;
 }
 
-/// A row after a quiet time is painted at once, what follows it at the pace of the display.
-void MessageLog::beginDisplayFrame()
-{
-    if (m_displayFrame.isActive()) {
-        m_table.setUpdatesEnabled(false);
-    } else {
-        m_displayFrame.start();
-    }
-}
-
-void MessageLog::onDisplayFrame()
+void MessageLog::moveOn()
 {
     m_rowsThisFrame = 0;
     bringIn();
-    if (!m_table.updatesEnabled()) {
-        m_table.setUpdatesEnabled(true);
-        m_displayFrame.start();
+    if (m_count >= initialRows) {
+        m_table.showEnd();
+    }
+    if (std::exchange(m_announcedCount, m_count) != m_count) {
+        emit countChanged(m_count);
     }
 }
 
@@ -164,7 +162,8 @@ void MessageLog::showBlankTable()
     m_table.setRowCount(initialRows);
     for (int row = 0; row < initialRows; ++row) {
         for (int column = 0; column < columnCount; ++column) {
-            setCell(row, column, QString(), LogItem::Origin::Sent);
+            m_table.setItem(row, column,
+                            new LogItem(QString(), alignmentOf(column), LogItem::Colour::Plain));
         }
     }
     m_table.scrollToTop();
@@ -173,16 +172,20 @@ void MessageLog::showBlankTable()
 void MessageLog::fillRow(int row, const Entry &entry)
 {
     const QStringList texts = textsOf(entry);
-    const auto origin =
-        entry.kind == Entry::Kind::Sent ? LogItem::Origin::Sent : LogItem::Origin::Received;
     for (int column = 0; column < columnCount; ++column) {
-        setCell(row, column, texts.value(column), origin);
+        m_table.setItem(
+            row, column,
+            new LogItem(texts.value(column), alignmentOf(column), colourOf(entry.kind, column)));
     }
 }
 
-void MessageLog::setCell(int row, int column, const QString &text, LogItem::Origin origin)
+LogItem::Colour MessageLog::colourOf(Entry::Kind kind, int column)
 {
-    m_table.setItem(row, column, new LogItem(text, alignmentOf(column), origin));
+    const bool coloured =
+        kind == Entry::Kind::Received
+            ? column < filledColumns
+            : kind == Entry::Kind::Notice && (column == numberColumn || column == dataColumn);
+    return coloured ? LogItem::Colour::Received : LogItem::Colour::Plain;
 }
 
 QStringList MessageLog::textsOf(const Entry &entry)

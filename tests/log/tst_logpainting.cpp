@@ -1,3 +1,4 @@
+#include "logtable.h"
 #include "messagelog.h"
 
 #include <QTableWidget>
@@ -45,7 +46,7 @@ struct ShownLog
         QCoreApplication::processEvents();
     }
 
-    QTableWidget table;
+    LogTable table;
     MessageLog log;
 };
 

@@ -5,7 +5,7 @@
 #include <QTableWidget>
 #include <QtTest>
 
-Q_DECLARE_METATYPE(LogItem::Origin)
+Q_DECLARE_METATYPE(LogItem::Colour)
 
 class TestPlainCellDelegate : public QObject
 {
@@ -35,7 +35,7 @@ QImage picture(QTableWidget &table, qreal ratio)
 void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<LogItem::Origin>("origin");
+    QTest::addColumn<LogItem::Colour>("colour");
     QTest::addColumn<int>("alignment");
     QTest::addColumn<int>("width");
     QTest::addColumn<qreal>("ratio");
@@ -44,11 +44,11 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem_data()
     struct Look
     {
         const char *name;
-        LogItem::Origin origin;
+        LogItem::Colour colour;
         Qt::Alignment alignment;
     };
-    for (const Look &look : {Look{"sent, centred", LogItem::Origin::Sent, Qt::AlignHCenter},
-                             Look{"received, left", LogItem::Origin::Received, Qt::AlignLeft}}) {
+    for (const Look &look : {Look{"sent, centred", LogItem::Colour::Plain, Qt::AlignHCenter},
+                             Look{"received, left", LogItem::Colour::Received, Qt::AlignLeft}}) {
         for (const QString &text : {QString(), QStringLiteral("1025"), data, data.repeated(20)}) {
             for (const int width : {60, 103, 300}) {
                 for (const qreal ratio : {1.0, 2.0}) {
@@ -58,7 +58,7 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem_data()
                                              .arg(width)
                                              .arg(ratio);
                     QTest::newRow(qPrintable(name))
-                        << text << look.origin << int(look.alignment | Qt::AlignVCenter) << width
+                        << text << look.colour << int(look.alignment | Qt::AlignVCenter) << width
                         << ratio;
                 }
             }
@@ -69,7 +69,7 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem_data()
 void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem()
 {
     QFETCH(QString, text);
-    QFETCH(LogItem::Origin, origin);
+    QFETCH(LogItem::Colour, colour);
     QFETCH(int, alignment);
     QFETCH(int, width);
     QFETCH(qreal, ratio);
@@ -79,7 +79,7 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem()
     for (int column = 0; column < columns; ++column) {
         table.setColumnWidth(column, width);
         for (int row = 0; row < rows; ++row) {
-            table.setItem(row, column, new LogItem(text, Qt::Alignment(alignment), origin));
+            table.setItem(row, column, new LogItem(text, Qt::Alignment(alignment), colour));
         }
     }
     table.resize(columns * width + 20, 180);

@@ -1,0 +1,160 @@
+#include "messagelog.h"
+#include "windowdriver.h"
+
+#include <QScreen>
+#include <QtTest>
+
+class TestSteadyLog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void rowsThatAreInStayOnTheScreen_data();
+    void rowsThatAreInStayOnTheScreen();
+    void aLoopAtWorkStaysOnTheScreen_data();
+    void aLoopAtWorkStaysOnTheScreen();
+};
+
+namespace {
+
+constexpr int rowHeight = 36;
+const QString hexText = QStringLiteral("5A A5 08 03 10 00 00 00 00 00 77 ");
+
+/// What the screen shows of the log, as it was painted: nothing is painted for the picture.
+QImage shownLog(const WindowDriver &window)
+{
+    const QTableWidget &table = *window.messages();
+    const QWidget &viewport = *table.viewport();
+    const QPoint corner = viewport.mapTo(table.window(), QPoint());
+    return table.screen()
+        ->grabWindow(table.window()->winId(), corner.x(), corner.y(), viewport.width(),
+                     viewport.height())
+        .toImage();
+}
+
+bool hasText(const QImage &picture, const QRect &place)
+{
+    constexpr int darkest = 160;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x) {
+            if (qRed(picture.pixel(x, y)) < darkest) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// Rows in full view whose number can't be seen.
+int blankRows(const WindowDriver &window)
+{
+    const QImage picture = shownLog(window);
+    const int width = window.messages()->columnWidth(0);
+    int blank = 0;
+    for (int top = 0; top + rowHeight <= picture.height(); top += rowHeight) {
+        blank += hasText(picture, {0, top, width, rowHeight}) ? 0 : 1;
+    }
+    return blank;
+}
+
+/// Looks at the log in each turn of the event loop, until it holds that many rows.
+///
+/// Returns how often some row was not to be seen.
+int flashesUntil(WindowDriver &window, int rows)
+{
+    constexpr int patienceMs = 20000;
+    const MessageLog &log = *window.window().findChild<MessageLog *>();
+    QElapsedTimer timer;
+    timer.start();
+    int flashes = 0;
+    while (log.count() < rows && timer.elapsed() < patienceMs) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        flashes += blankRows(window) > 0 ? 1 : 0;
+    }
+    return log.count() >= rows ? flashes : -1;
+}
+
+/// Fills what is in view of the log.
+void fillView(WindowDriver &window)
+{
+    constexpr int more = 3;
+    auto &log = *window.window().findChild<MessageLog *>();
+    const int rows = window.messages()->viewport()->height() / rowHeight + more;
+    for (int row = 0; row < rows; ++row) {
+        log.appendReceived(hexText, false);
+    }
+    QTRY_COMPARE(blankRows(window), 0);
+}
+
+} // namespace
+
+void TestSteadyLog::rowsThatAreInStayOnTheScreen_data()
+{
+    QTest::addColumn<int>("everyMs");
+    QTest::addColumn<int>("rowsAtOnce");
+
+    QTest::newRow("a row at each turn") << 0 << 1;
+    QTest::newRow("a flood") << 0 << 100;
+    QTest::newRow("every 2 ms") << 2 << 1;
+    QTest::newRow("every 5 ms") << 5 << 3;
+    QTest::newRow("every 10 ms") << 10 << 1;
+    QTest::newRow("every 25 ms") << 25 << 1;
+}
+
+void TestSteadyLog::rowsThatAreInStayOnTheScreen()
+{
+    QFETCH(int, everyMs);
+    QFETCH(int, rowsAtOnce);
+
+    WindowDriver window;
+    QVERIFY(QTest::qWaitForWindowExposed(&window.window()));
+    fillView(window);
+    auto &log = *window.window().findChild<MessageLog *>();
+    QTimer source;
+    source.setTimerType(Qt::PreciseTimer);
+    connect(&source, &QTimer::timeout, [&] {
+        for (int row = 0; row < rowsAtOnce; ++row) {
+            log.appendReceived(hexText, false);
+        }
+    });
+    source.start(everyMs);
+    constexpr int announcements = 40;
+    QCOMPARE(flashesUntil(window, std::min(900, log.count() + announcements * rowsAtOnce)), 0);
+}
+
+void TestSteadyLog::aLoopAtWorkStaysOnTheScreen_data()
+{
+    QTest::addColumn<QString>("interval");
+    QTest::addColumn<QString>("cycleDelay");
+
+    QTest::newRow("fast passes") << "0"
+                                 << "10";
+    QTest::newRow("row by row") << "10"
+                                << "0";
+}
+
+void TestSteadyLog::aLoopAtWorkStaysOnTheScreen()
+{
+    QFETCH(QString, interval);
+    QFETCH(QString, cycleDelay);
+
+    const TestPort port;
+    WindowDriver window;
+    QVERIFY(QTest::qWaitForWindowExposed(&window.window()));
+    window.open(port);
+    for (const int row : {0, 1}) {
+        window.setRow(row, "03", "1000", "0001");
+        window.checkRow(row);
+    }
+    fillView(window);
+    window.edit("lineEdit_StepValue")->setText(interval);
+    window.edit("lineEdit_CycleTime")->setText(cycleDelay);
+    window.click("pushButton_Start_Loop");
+    constexpr int frames = 80;
+    const int before = window.window().findChild<MessageLog *>()->count();
+    QCOMPARE(flashesUntil(window, before + frames), 0);
+}
+
+QTEST_MAIN(TestSteadyLog)
+
+#include "tst_steadylog.moc"
