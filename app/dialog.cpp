@@ -168,7 +168,7 @@ FileActionHooks Dialog::fileHooks()
 void Dialog::setUpTimers()
 {
     connect(&m_timer1, &QTimer::timeout, this, &Dialog::Timer1_Out_Event);
-    connect(&m_loop.timer(), &QTimer::timeout, this, &Dialog::Timer2_Out_Event);
+    connect(&m_loop, &LoopControl::passDue, this, &Dialog::Timer2_Out_Event);
     m_timer1.start(firstRefreshMs);
 }
 

@@ -1,21 +1,23 @@
 #include "loopcontrol.h"
 
 #include "sender.h"
+#include "systemclock.h"
 
 namespace {
 
-constexpr int behindMs = 5;
+/// About as long as the log takes to be painted.
+constexpr int nearMs = 5;
 
 } // namespace
 
 LoopControl::LoopControl(Ui::Dialog &form, Sender &sender, QObject *parent)
     : QObject(parent)
     , m_sender(sender)
-    , m_loop(sender, this)
+    , m_clock(makeSystemClock())
+    , m_loop(sender, *m_clock, this)
     , m_panel(form, this)
 {
-    m_timer.setTimerType(Qt::PreciseTimer);
-    connect(&m_loop, &SendLoop::passEnded, this, [this] { m_timer.start(m_cycleDelayMs); });
+    connect(&m_loop, &SendLoop::passDue, this, &LoopControl::passDue);
     connect(&m_loop, &SendLoop::foundNothing, this, [this] {
         m_panel.showNothingToSend();
         emit message(QStringLiteral("No thing to send"));
@@ -33,30 +35,21 @@ void LoopControl::start(const QVector<CheckedRow> &rows, LinkMode mode)
         return;
     }
     m_mode = mode;
-    m_cycleDelayMs = m_panel.cycleDelayMs();
-    m_loop.start(plan, m_panel.intervalMs());
     m_panel.showRunning(m_mode);
-    m_timer.start(m_cycleDelayMs);
+    m_loop.start(plan, {m_panel.intervalMs(), m_panel.cycleDelayMs()});
+}
+
+bool LoopControl::isFrameNear() const
+{
+    return m_loop.isDueWithin(nearMs);
 }
 
 void LoopControl::stop()
 {
     if (m_loop.isRunning()) {
         m_loop.stop();
-        m_timer.stop();
         m_panel.showStopped(m_mode);
     }
-}
-
-void LoopControl::tick()
-{
-    m_timer.stop();
-    // A loop that outruns the wire would fill the memory, and go on long after a stop.
-    if (m_loop.isRunning() && m_sender.isLinkBehind()) {
-        m_timer.start(behindMs);
-        return;
-    }
-    m_loop.runPass();
 }
 
 bool LoopControl::isAcceptable(const LoopPlan &plan)

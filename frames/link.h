@@ -21,12 +21,10 @@ public:
     /// warning.
     virtual int longestInstruction() const = 0;
 
-    /// Hands a block of whole frames to the device. Blocks are neither reordered nor mixed.
+    /// Hands a block of whole frames to the device without waiting for it: what it doesn't take at
+    /// once leaves through the event loop. Blocks are neither reordered nor mixed.
     virtual void write(const QByteArray &block) = 0;
 
-    /// Whether blocks still wait to leave the program, so that a loop had better not add more.
-    virtual bool isBehind() const { return false; }
-
-    /// Waits until what was written has left the program, for as long as the kind of link asks for.
-    virtual void waitForWritten() = 0;
+    /// Bytes that still wait to leave the program.
+    virtual qint64 unsentBytes() const = 0;
 };

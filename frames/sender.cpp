@@ -6,6 +6,12 @@
 #include "hextext.h"
 #include "link.h"
 
+namespace {
+
+constexpr qint64 mostUnsentBytes = 1024 * 1024;
+
+} // namespace
+
 Sender::Sender(FrameSettings &settings, QObject *parent)
     : QObject(parent)
     , m_settings(settings)
@@ -23,7 +29,7 @@ bool Sender::isLinkOpen() const
 
 bool Sender::isLinkBehind() const
 {
-    return m_link->isBehind();
+    return m_link->unsentBytes() > 0;
 }
 
 bool Sender::requireOpenLink()
@@ -49,7 +55,7 @@ void Sender::sendOne(const QString &frameText)
         emit message(overlongInstructionWarning(length));
     }
     HeaderNotice notice;
-    sendText(frameText, notice);
+    tellFrame(handOverText(frameText, notice));
 }
 
 void Sender::sendAll(const QVector<CheckedRow> &rows)
@@ -68,8 +74,7 @@ void Sender::sendAll(const QVector<CheckedRow> &rows)
         emit message(QStringLiteral("Not thing to send!"));
         return;
     }
-    sendBlock(plan.block);
-    m_link->waitForWritten();
+    tellBlock(handOverBlock(plan.block));
 }
 
 LoopPlan Sender::planLoop(const QVector<CheckedRow> &rows)
@@ -79,35 +84,56 @@ LoopPlan Sender::planLoop(const QVector<CheckedRow> &rows)
                       [this, &notice](const QString &text) { return makeFrame(text, notice); });
 }
 
-bool Sender::sendText(const QString &frameText, HeaderNotice &notice)
+QByteArray Sender::handOverText(const QString &frameText, HeaderNotice &notice)
 {
     const QByteArray frame = makeFrame(frameText, notice);
     if (frame.isEmpty()) {
         tellNothingToSend();
-        return false;
+        return {};
     }
-    // A message shown since the link was found open may have outlived the link.
-    if (!isLinkOpen()) {
-        return false;
-    }
-    m_link->write(frame);
-    m_link->waitForWritten();
-    emit handedOver();
-    emit sent(formatHexBytes(frame));
-    return true;
+    return handOverBlock(frame);
 }
 
-void Sender::sendBlock(const QByteArray &block)
+QByteArray Sender::handOverBlock(const QByteArray &block)
 {
-    if (!isLinkOpen()) {
-        return;
+    if (!isTaken(block)) {
+        return {};
     }
     m_link->write(block);
-    emit handedOver();
+    return block;
+}
+
+void Sender::tellFrame(const QByteArray &frame)
+{
+    if (!frame.isEmpty()) {
+        emit sent(formatHexBytes(frame));
+    }
+}
+
+void Sender::tellBlock(const QByteArray &block)
+{
+    if (block.isEmpty()) {
+        return;
+    }
     const QString startBytes = startBytesText(m_settings.startBytes());
     for (const QString &piece : splitBlockText(formatHexBytes(block), startBytes)) {
         emit sent(piece);
     }
+}
+
+bool Sender::isTaken(const QByteArray &block)
+{
+    // A message shown since the link was found open may have outlived the link.
+    if (!isLinkOpen()) {
+        return false;
+    }
+    const qint64 unsent = m_link->unsentBytes();
+    // Where nothing waits, a block of any size goes.
+    if (unsent > 0 && unsent + block.size() > mostUnsentBytes) {
+        emit message(unsentBytesMessage(unsent));
+        return false;
+    }
+    return true;
 }
 
 QByteArray Sender::makeFrame(const QString &frameText, HeaderNotice &notice)

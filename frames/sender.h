@@ -23,7 +23,8 @@ public:
     /// Whether the active link is open.
     bool isLinkOpen() const;
 
-    /// Whether what was sent still waits to leave the program.
+    /// Whether what was sent still waits to leave the program, so that a loop had better not add
+    /// more.
     bool isLinkBehind() const;
 
     /// Whether the active link is open; if not, the user is told.
@@ -33,31 +34,37 @@ public:
     /// sent after a warning.
     void sendOne(const QString &frameText);
 
-    /// Sends the rows' frames in one write, without the pauses of delay rows.
+    /// Sends the rows' frames in one write, without the pauses of delay rows. Refused, as sending
+    /// one row is, where more than 1 MiB would wait for a device that takes too little.
     void sendAll(const QVector<CheckedRow> &rows);
 
     /// What the loop sends in each pass over the rows.
     LoopPlan planLoop(const QVector<CheckedRow> &rows);
 
-    /// Sends one frame text without any check of the link. Returns whether there was a frame to
-    /// send. A bad header is told where it is news to the notice.
-    bool sendText(const QString &frameText, HeaderNotice &notice);
+    /// Gives the frame of a frame text to the link. A bad header is told where it is news to the
+    /// notice. Returns the frame, to be told; nothing where there was none, or no way to send it.
+    QByteArray handOverText(const QString &frameText, HeaderNotice &notice);
 
-    /// Sends a block of frames without any check of the link.
-    void sendBlock(const QByteArray &block);
+    /// Gives a block of frames to the link. Returns it, to be told; nothing where there was no way
+    /// to send it.
+    QByteArray handOverBlock(const QByteArray &block);
+
+    /// Tells of a frame that was handed over.
+    void tellFrame(const QByteArray &frame);
+
+    /// Tells of the frames of a block that was handed over, one by one.
+    void tellBlock(const QByteArray &block);
 
 signals:
     /// Something the user must be told, emitted before the sender goes on; handlers may block.
     void message(const QString &text);
-
-    /// The frame or block under way is in the link's hands.
-    void handedOver();
 
     /// One frame as hex text ("5A A5 03 …"), for the log.
     void sent(const QString &frameHexText);
 
 private:
     QByteArray makeFrame(const QString &frameText, HeaderNotice &notice);
+    bool isTaken(const QByteArray &block);
     void tellNothingToSend();
 
     FrameSettings &m_settings;

@@ -1,44 +1,39 @@
 #include "sendloop.h"
 
-#include "delaymarker.h"
+#include "alarmclock.h"
 #include "sender.h"
-
-#include <QThread>
-
-#include <algorithm>
 
 namespace {
 
 constexpr qint64 nsPerMs = 1000000;
-constexpr qint64 nsPerUs = 1000;
-/// Even precise timers count whole milliseconds and come late by up to this; they are set early by
-/// as much, and what is left of a wait is slept.
-constexpr int timerIsLateMs = 1;
+constexpr qint64 lookAgainNs = 5 * nsPerMs;
 
 } // namespace
 
-SendLoop::SendLoop(Sender &sender, QObject *parent)
+SendLoop::SendLoop(Sender &sender, AlarmClock &clock, QObject *parent)
     : QObject(parent)
     , m_sender(sender)
+    , m_clock(clock)
 {
-    m_wait.setSingleShot(true);
-    m_wait.setTimerType(Qt::PreciseTimer);
-    connect(&m_wait, &QTimer::timeout, this, &SendLoop::endWait);
-    connect(&m_sender, &Sender::handedOver, this, [this] { m_sinceHandOver.start(); });
+    connect(&m_clock, &AlarmClock::rang, this, &SendLoop::onAlarm);
 }
 
-void SendLoop::start(const LoopPlan &plan, int intervalMs)
+void SendLoop::start(const LoopPlan &plan, LoopTiming timing)
 {
     stop();
-    m_plan = plan;
-    m_intervalMs = intervalMs;
+    m_hasRows = !plan.texts.isEmpty();
+    m_steps = loopSteps(plan, timing.intervalMs);
+    m_cycleDelayMs = timing.cycleDelayMs;
     m_headerNotice = {};
     m_running = true;
+    m_deadlines.meet(m_clock.now());
+    m_deadlines.wait(m_cycleDelayMs);
+    m_clock.setAlarm(m_deadlines.due());
 }
 
 void SendLoop::stop()
 {
-    m_wait.stop();
+    m_clock.clearAlarm();
     m_running = false;
     m_inPass = false;
     m_sentCount = 0;
@@ -50,74 +45,105 @@ void SendLoop::runPass()
     if (!m_running || m_inPass) {
         return;
     }
-    if (m_plan.texts.isEmpty()) {
+    if (!m_hasRows) {
         stop();
         emit foundNothing();
         return;
     }
-    m_step = 0;
+    m_clock.clearAlarm();
+    m_deadlines.meet(m_clock.now());
+    m_nextStep = 0;
     m_inPass = true;
     goOn();
+}
+
+bool SendLoop::isDueWithin(int milliseconds) const
+{
+    return m_running && m_deadlines.due() - m_clock.now() <= milliseconds * nsPerMs;
+}
+
+void SendLoop::onAlarm()
+{
+    if (m_inPass) {
+        goOn();
+    } else {
+        emit passDue();
+    }
 }
 
 void SendLoop::goOn()
 {
     const unsigned stops = m_stops;
-    m_sinceHandOver.start();
-    while (!isPassDone()) {
-        const int pauseMs = m_intervalMs > 0 ? sendTextStep() : sendBlockStep();
+    while (m_nextStep < m_steps.size()) {
+        const LoopStep step = m_steps.at(m_nextStep);
+        if (step.sends() && !maySend()) {
+            return;
+        }
+        ++m_nextStep;
+        take(step);
         // A message shown while sending may have let in a stop, and even a new start.
         if (stops != m_stops) {
             return;
         }
-        if (pauseMs > 0) {
-            waitSinceHandOver(pauseMs);
-            return;
-        }
     }
+    if (mayGoOn()) {
+        endPass();
+    }
+}
+
+bool SendLoop::mayGoOn()
+{
+    if (m_clock.now() >= m_deadlines.due()) {
+        return true;
+    }
+    m_clock.setAlarm(m_deadlines.due());
+    return false;
+}
+
+bool SendLoop::maySend()
+{
+    if (!mayGoOn()) {
+        return false;
+    }
+    // A loop that outruns the wire would fill the memory, and go on long after a stop.
+    if (m_sender.isLinkBehind()) {
+        m_clock.setAlarm(m_clock.now() + lookAgainNs);
+        return false;
+    }
+    return true;
+}
+
+void SendLoop::take(const LoopStep &step)
+{
+    if (step.sends()) {
+        send(step);
+    } else {
+        m_deadlines.wait(step.waitMs);
+    }
+}
+
+void SendLoop::send(const LoopStep &step)
+{
+    const unsigned stops = m_stops;
+    const bool isText = step.kind == LoopStep::Kind::Text;
+    m_sentCount += isText ? 1 : 0;
+    const QByteArray sent = isText ? m_sender.handOverText(step.text, m_headerNotice)
+                                   : m_sender.handOverBlock(step.block);
+    if (stops == m_stops) {
+        m_deadlines.meet(m_clock.now());
+        m_deadlines.wait(step.waitMs);
+    }
+    if (isText) {
+        m_sender.tellFrame(sent);
+    } else {
+        m_sender.tellBlock(sent);
+    }
+}
+
+void SendLoop::endPass()
+{
     m_inPass = false;
-    emit passEnded();
-}
-
-bool SendLoop::isPassDone() const
-{
-    return m_step >= (m_intervalMs > 0 ? m_plan.texts.size() : m_plan.queue.size());
-}
-
-int SendLoop::sendBlockStep()
-{
-    const QueueEntry entry = m_plan.queue.at(m_step++);
-    if (!entry.isPause()) {
-        m_sender.sendBlock(entry.block);
-    }
-    return entry.pauseMs;
-}
-
-int SendLoop::sendTextStep()
-{
-    const QString text = m_plan.texts.at(m_step++);
-    if (isDelay(text)) {
-        return delayMilliseconds(text);
-    }
-    ++m_sentCount;
-    if (!m_sender.sendText(text, m_headerNotice)) {
-        m_sinceHandOver.start();
-    }
-    return m_intervalMs;
-}
-
-void SendLoop::waitSinceHandOver(int milliseconds)
-{
-    m_waitNs = milliseconds * nsPerMs;
-    const qint64 leftMs = (m_waitNs - m_sinceHandOver.nsecsElapsed()) / nsPerMs;
-    m_wait.start(static_cast<int>(std::max<qint64>(0, leftMs - timerIsLateMs)));
-}
-
-void SendLoop::endWait()
-{
-    const qint64 leftNs = m_waitNs - m_sinceHandOver.nsecsElapsed();
-    if (leftNs > 0) {
-        QThread::usleep(static_cast<unsigned long>(leftNs / nsPerUs));
-    }
-    goOn();
+    m_deadlines.meet(m_clock.now());
+    m_deadlines.wait(m_cycleDelayMs);
+    m_clock.setAlarm(m_deadlines.due());
 }

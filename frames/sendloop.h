@@ -1,35 +1,43 @@
 #pragma once
 
+#include "deadlineplan.h"
 #include "headernotice.h"
 #include "sendplan.h"
 
-#include <QElapsedTimer>
 #include <QObject>
-#include <QTimer>
 
+class AlarmClock;
 class Sender;
+
+/// What passes between frames, and between passes, in ms.
+struct LoopTiming
+{
+    int intervalMs = 0;
+    int cycleDelayMs = 0;
+};
 
 /// The auto-send loop: one pass after the other over a plan taken when it was started.
 ///
 /// With an interval each row is sent by itself and followed by the interval; without one the plan's
-/// prepared blocks go out as fast as the link takes them. Pauses of delay rows run in both. Waiting
-/// is done by a timer: nothing blocks, and a stop is just another event. Who owns the loop decides
-/// when the next pass begins.
+/// prepared blocks go out as fast as the link takes them. Pauses of delay rows run in both. Only
+/// the loop's own frames count for its deadlines. Waiting, also for a link that is behind, is done
+/// by the clock's alarm: nothing blocks, and a stop is just another event.
 class SendLoop : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The sender must outlive the loop.
-    explicit SendLoop(Sender &sender, QObject *parent = nullptr);
+    /// Sender and clock must outlive the loop, which has the clock's alarm to itself.
+    SendLoop(Sender &sender, AlarmClock &clock, QObject *parent = nullptr);
 
     bool isRunning() const { return m_running; }
 
     /// Rows sent in interval mode since the start; 0 when the loop is stopped.
     int sentCount() const { return m_sentCount; }
 
-    /// Marks the loop as running; an interval in ms of 0 selects the prepared blocks.
-    void start(const LoopPlan &plan, int intervalMs);
+    /// Starts the loop; its first pass is due after the cycle delay. An interval of 0 selects the
+    /// prepared blocks.
+    void start(const LoopPlan &plan, LoopTiming timing);
 
     /// Ends the loop; what is left of the pass under way is not sent.
     void stop();
@@ -37,31 +45,35 @@ public:
     /// Begins a pass, unless the loop is stopped or a pass is under way.
     void runPass();
 
+    /// Whether the loop has something to send within that time from now, or should have by now.
+    bool isDueWithin(int milliseconds) const;
+
 signals:
-    /// A pass came to its end with the loop still running.
-    void passEnded();
+    /// The next pass is due: who owns the loop runs it.
+    void passDue();
 
     /// A pass found no rows; the loop is stopped.
     void foundNothing();
 
 private:
+    void onAlarm();
     void goOn();
-    bool isPassDone() const;
-    int sendBlockStep();
-    int sendTextStep();
-    void waitSinceHandOver(int milliseconds);
-    void endWait();
+    bool mayGoOn();
+    bool maySend();
+    void take(const LoopStep &step);
+    void send(const LoopStep &step);
+    void endPass();
 
     Sender &m_sender;
-    LoopPlan m_plan;
+    AlarmClock &m_clock;
+    QVector<LoopStep> m_steps;
+    int m_cycleDelayMs = 0;
     HeaderNotice m_headerNotice;
-    int m_intervalMs = 0;
+    DeadlinePlan m_deadlines;
+    bool m_hasRows = false;
     bool m_running = false;
     bool m_inPass = false;
-    int m_step = 0;
+    int m_nextStep = 0;
     int m_sentCount = 0;
     unsigned m_stops = 0;
-    QElapsedTimer m_sinceHandOver;
-    qint64 m_waitNs = 0;
-    QTimer m_wait;
 };

@@ -53,6 +53,23 @@ private:
     QByteArray m_pending;
 };
 
+LoopStep pauseStep(int milliseconds)
+{
+    return {LoopStep::Kind::Pause, {}, {}, milliseconds};
+}
+
+LoopStep textStep(const QString &text, int intervalMs)
+{
+    return isDelay(text) ? pauseStep(delayMilliseconds(text))
+                         : LoopStep{LoopStep::Kind::Text, text, {}, intervalMs};
+}
+
+LoopStep queueStep(const QueueEntry &entry)
+{
+    return entry.isPause() ? pauseStep(entry.pauseMs)
+                           : LoopStep{LoopStep::Kind::Block, {}, entry.block, 0};
+}
+
 } // namespace
 
 BatchPlan planBatch(const QVector<CheckedRow> &rows, bool withCrc, const MakeFrame &makeFrame)
@@ -93,6 +110,21 @@ LoopPlan planLoop(const QVector<CheckedRow> &rows, bool withCrc, const MakeFrame
     return plan;
 }
 
+QVector<LoopStep> loopSteps(const LoopPlan &plan, int intervalMs)
+{
+    QVector<LoopStep> steps;
+    if (intervalMs > 0) {
+        for (const QString &text : plan.texts) {
+            steps.append(textStep(text, intervalMs));
+        }
+    } else {
+        for (const QueueEntry &entry : plan.queue) {
+            steps.append(queueStep(entry));
+        }
+    }
+    return steps;
+}
+
 int instructionLength(const QString &frameText, bool withCrc)
 {
     constexpr int crcBytes = 2;
@@ -104,6 +136,11 @@ QString overlongInstructionWarning(int instructionLength)
     return QStringLiteral(
                "Instruction length %1 is out of the maximum range,<br> sending errors may occur!")
         .arg(instructionLength);
+}
+
+QString unsentBytesMessage(qint64 unsentBytes)
+{
+    return QStringLiteral("Not sent: the device has yet to take %1 bytes.").arg(unsentBytes);
 }
 
 QString overlongRowsMessage(const QVector<int> &rows)

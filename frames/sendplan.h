@@ -44,6 +44,18 @@ struct LoopPlan
     bool tooManyEntries = false;
 };
 
+/// One step of a pass: something to send, if it sends, and the wait in ms that follows.
+struct LoopStep
+{
+    enum class Kind { Text, Block, Pause };
+    Kind kind = Kind::Pause;
+    QString text;
+    QByteArray block;
+    int waitMs = 0;
+
+    bool sends() const { return kind != Kind::Pause; }
+};
+
 /// The number of queue entries with which a loop is refused.
 constexpr int queueLimit = 128;
 
@@ -53,11 +65,17 @@ BatchPlan planBatch(const QVector<CheckedRow> &rows, bool withCrc, const MakeFra
 /// What a loop over the rows sends. A delay row ends a block and adds a pause to the queue.
 LoopPlan planLoop(const QVector<CheckedRow> &rows, bool withCrc, const MakeFrame &makeFrame);
 
+/// The steps of a pass: each row followed by the interval in ms, or with none the prepared blocks.
+QVector<LoopStep> loopSteps(const LoopPlan &plan, int intervalMs);
+
 /// Bytes of payload and CRC that a single row's frame text stands for.
 int instructionLength(const QString &frameText, bool withCrc);
 
 /// The warning about a single row's instruction of that many bytes.
 QString overlongInstructionWarning(int instructionLength);
+
+/// The message about what was not sent because so many bytes still wait to leave the program.
+QString unsentBytesMessage(qint64 unsentBytes);
 
 /// The message about the rows left out of a batch or a loop.
 QString overlongRowsMessage(const QVector<int> &rows);

@@ -104,6 +104,11 @@ void HidLink::write(const QByteArray &block)
     }
 }
 
+qint64 HidLink::unsentBytes() const
+{
+    return qint64(m_thread.queuedPackets()) * m_thread.packetSize();
+}
+
 DeviceIds HidLink::idsOf(const QString &path) const
 {
     const DeviceIds inPath = parseDeviceIds(path);

@@ -39,8 +39,7 @@ public:
     QString closedMessage() const override;
     int longestInstruction() const override { return 255; }
     void write(const QByteArray &block) override;
-    bool isBehind() const override { return m_thread.hasQueuedPackets(); }
-    void waitForWritten() override {}
+    qint64 unsentBytes() const override;
 
     /// Bytes of data in each report of the device opened last.
     int packetSize() const { return m_thread.packetSize(); }

@@ -93,10 +93,10 @@ bool HidThread::queuePacket(const HidPacket &packet)
     return true;
 }
 
-bool HidThread::hasQueuedPackets() const
+int HidThread::queuedPackets() const
 {
     const QMutexLocker locker(&m_queueLock);
-    return !m_queue.empty();
+    return static_cast<int>(m_queue.size());
 }
 
 void HidThread::run()

@@ -59,8 +59,8 @@ public:
     /// Appends a copy of the packet to what is to be written. Returns false while no device is
     /// open.
     bool queuePacket(const HidPacket &packet);
-    /// Whether packets wait that the loop has not taken yet.
-    bool hasQueuedPackets() const;
+    /// How many packets wait that the loop has not taken yet.
+    int queuedPackets() const;
 
 signals:
     /// The device has sent a report. Its report ID is always 0.

@@ -2,13 +2,10 @@
 
 #include "portstate.h"
 
-#include <QDeadlineTimer>
-
 #include <utility>
 
 namespace {
 
-constexpr int writtenMs = 2000;
 constexpr int longestInstructionBytes = 65535;
 /// Failed reads in a row after which a port that is still there is given up.
 constexpr int mostVainReads = 100;
@@ -120,26 +117,15 @@ int SerialLink::longestInstruction() const
 void SerialLink::write(const QByteArray &block)
 {
     m_port.write(block);
-    // Not flush(): to a port that takes nothing just now, it fails for good.
-    writeOut(0);
-}
-
-bool SerialLink::isBehind() const
-{
-    return m_port.bytesToWrite() > 0;
-}
-
-void SerialLink::waitForWritten()
-{
-    writeOut(writtenMs);
-}
-
-void SerialLink::writeOut(int milliseconds)
-{
-    const QDeadlineTimer deadline(milliseconds);
-    while (m_port.bytesToWrite() > 0 &&
-           m_port.waitForBytesWritten(static_cast<int>(deadline.remainingTime()))) {
+    // What the system takes at once goes at once. Not with flush(): to a port that takes nothing just
+    // now, it fails for good.
+    while (m_port.bytesToWrite() > 0 && m_port.waitForBytesWritten(0)) {
     }
+}
+
+qint64 SerialLink::unsentBytes() const
+{
+    return m_port.bytesToWrite();
 }
 
 void SerialLink::onReadyRead()

@@ -48,9 +48,7 @@ public:
     QString closedMessage() const override;
     int longestInstruction() const override;
     void write(const QByteArray &block) override;
-    bool isBehind() const override;
-    /// Waits for at most 2000 ms.
-    void waitForWritten() override;
+    qint64 unsentBytes() const override;
 
 signals:
     /// What has come in, 2 to 7 ms after the port announced it, so that a frame in pieces comes in
@@ -61,7 +59,6 @@ signals:
     void lost(const QString &reason);
 
 private:
-    void writeOut(int milliseconds);
     void handUp();
     QByteArray readAvailable();
     void onReadyRead();

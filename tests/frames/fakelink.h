@@ -2,44 +2,31 @@
 
 #include "link.h"
 
-#include <QElapsedTimer>
-#include <QStringList>
 #include <QVector>
 
 #include <functional>
 
-/// A link that keeps what it is given, and when.
+/// A link that keeps what it is given.
 class FakeLink : public Link
 {
 public:
-    FakeLink() { clock.start(); }
-
     bool isOpen() const override { return open; }
     QString closedMessage() const override { return QStringLiteral("closed"); }
     int longestInstruction() const override { return longest; }
+    qint64 unsentBytes() const override { return unsent; }
 
     void write(const QByteArray &block) override
     {
-        writtenAtNs.append(clock.nsecsElapsed());
         blocks.append(block);
-        calls.append(QStringLiteral("write"));
-    }
-
-    void waitForWritten() override
-    {
-        calls.append(QStringLiteral("wait"));
-        if (whileWaiting) {
-            whileWaiting();
+        if (onWrite) {
+            onWrite();
         }
     }
 
     bool open = true;
     int longest = 65535;
-    /// Called on each waitForWritten().
-    std::function<void()> whileWaiting;
+    qint64 unsent = 0;
+    /// Called with each block that comes.
+    std::function<void()> onWrite;
     QVector<QByteArray> blocks;
-    /// When each of the blocks came, on `clock`.
-    QVector<qint64> writtenAtNs;
-    QElapsedTimer clock;
-    QStringList calls;
 };

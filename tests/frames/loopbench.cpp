@@ -4,24 +4,28 @@ LoopBench::LoopBench()
 {
     settings.layout.withStartBytes = false;
     settings.layout.withLength = false;
+    link.onWrite = [this] { m_writtenAt.append(clock.now()); };
     sender.setLink(&link);
-    QObject::connect(&loop, &SendLoop::passEnded, &loop,
-                     [this] { endedAtNs = link.clock.nsecsElapsed(); });
 }
 
-void LoopBench::start(const QStringList &texts, int intervalMs)
+void LoopBench::start(const QStringList &texts, LoopTiming timing)
 {
     QVector<CheckedRow> rows;
     for (const QString &text : texts) {
         rows.append({rows.size() + 1, text});
     }
-    loop.start(sender.planLoop(rows), intervalMs);
+    loop.start(sender.planLoop(rows), timing);
 }
 
-void LoopBench::run(const QStringList &texts, int intervalMs)
+void LoopBench::run(const QStringList &texts, LoopTiming timing)
 {
-    start(texts, intervalMs);
+    start(texts, timing);
     loop.runPass();
+}
+
+void LoopBench::keepRunning()
+{
+    QObject::connect(&loop, &SendLoop::passDue, &loop, &SendLoop::runPass);
 }
 
 QString LoopBench::written() const
@@ -33,14 +37,13 @@ QString LoopBench::written() const
     return texts.join(QLatin1Char(' '));
 }
 
-qint64 LoopBench::gapBefore(int block) const
+QString LoopBench::timetable()
 {
-    return link.writtenAtNs.at(block) - link.writtenAtNs.at(block - 1);
-}
-
-bool runsThrough(const QStringList &texts, int intervalMs)
-{
-    LoopBench other;
-    other.run(texts, intervalMs);
-    return !other.passEnded.isEmpty() || other.passEnded.wait();
+    QStringList entries;
+    for (; m_listed < link.blocks.size(); ++m_listed) {
+        const double atMs = double(m_writtenAt.at(m_listed) - m_madeAt) / nsPerMs;
+        entries.append(QString::fromLatin1(link.blocks.at(m_listed).toHex()) + QLatin1Char('@') +
+                       QString::number(atMs));
+    }
+    return entries.join(QLatin1Char(' '));
 }

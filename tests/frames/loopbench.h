@@ -2,43 +2,45 @@
 
 #include "fakeframesettings.h"
 #include "fakelink.h"
+#include "handclock.h"
 #include "sender.h"
 #include "sendloop.h"
 
 #include <QSignalSpy>
 
-constexpr qint64 nsPerMs = 1000000;
-
-/// A loop on a fake link; frames are their texts alone.
+/// A loop on a fake link and a clock moved by hand; frames are their texts alone.
 class LoopBench
 {
 public:
     LoopBench();
 
-    void start(const QStringList &texts, int intervalMs);
+    void start(const QStringList &texts, LoopTiming timing);
 
-    /// Starts the loop and runs its first pass.
-    void run(const QStringList &texts, int intervalMs);
+    /// Starts the loop and runs its first pass at once.
+    void run(const QStringList &texts, LoopTiming timing);
+
+    /// Runs each pass that is due from now on.
+    void keepRunning();
 
     /// What was written, block by block, in hex.
     QString written() const;
 
-    /// The ns between a block and the one before it.
-    qint64 gapBefore(int block) const;
+    /// What was written since the last call, with the ms since the bench was made: "01@0 02@20".
+    QString timetable();
 
     FakeFrameSettings settings;
     FakeLink link;
+    HandClock clock;
     Sender sender{settings};
-    SendLoop loop{sender};
-    QSignalSpy passEnded{&loop, &SendLoop::passEnded};
+    SendLoop loop{sender, clock};
+    QSignalSpy passDue{&loop, &SendLoop::passDue};
     QSignalSpy foundNothing{&loop, &SendLoop::foundNothing};
     QSignalSpy messages{&sender, &Sender::message};
-    /// When the last pass ended, on the clock of the link.
-    qint64 endedAtNs = 0;
 
     Q_DISABLE_COPY(LoopBench)
-};
 
-/// Whether a loop started now gets through these texts: by then every wait of a loop that was
-/// started earlier with the same texts would be over.
-bool runsThrough(const QStringList &texts, int intervalMs);
+private:
+    qint64 m_madeAt = clock.now();
+    QVector<qint64> m_writtenAt;
+    int m_listed = 0;
+};

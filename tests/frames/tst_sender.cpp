@@ -31,15 +31,16 @@ private slots:
     void allOfNothing();
     void allLeavesOverlongRowsOut();
     void allOverlong();
-    void allWaitsBehindTheLog();
     void allWhoseLinkClosesDuringAMessage();
     void allReadsTheLayoutForEachRow();
     void allWithoutStartBytesIsOneLogRow();
     void allCutsAtStartBytesInPayloads();
 
     void loopPlanChecksNoLink();
-    void textHandedOverBeforeItIsLogged();
-    void blockHandedOverBeforeItIsLogged();
+    void aTextIsHandedOverAndTold();
+    void aBlockIsHandedOverAndTold();
+    void whatWaitsIsBounded_data();
+    void whatWaitsIsBounded();
     void linkCanBeExchanged();
 };
 
@@ -54,8 +55,7 @@ public:
         sender.setLink(&link);
         QObject::connect(&sender, &Sender::message, &sender,
                          [this](const QString &text) { said.append("message " + text); });
-        QObject::connect(&sender, &Sender::handedOver, &sender,
-                         [this] { said.append("handed over"); });
+        link.onWrite = [this] { said.append("handed over"); };
         QObject::connect(&sender, &Sender::sent, &sender,
                          [this](const QString &text) { said.append("sent " + text); });
     }
@@ -85,7 +85,6 @@ void TestSender::oneFrame()
     Bench bench;
     bench.sender.sendOne("010203");
     QCOMPARE(bench.link.blocks, QVector<QByteArray>{QByteArray::fromHex("5aa503010203")});
-    QCOMPARE(bench.link.calls, (QStringList{"write", "wait"}));
     QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 03 01 02 03 "}));
 }
 
@@ -103,7 +102,7 @@ void TestSender::oneOverAClosedLink()
     bench.link.open = false;
     bench.sender.sendOne(bytes(70000));
     QCOMPARE(bench.said, QStringList{"message closed"});
-    QVERIFY(bench.link.calls.isEmpty());
+    QVERIFY(bench.link.blocks.isEmpty());
     QCOMPARE(bench.settings.layoutsRead, 0);
 }
 
@@ -122,7 +121,7 @@ void TestSender::oneWithNothingToSend()
     Bench bench;
     bench.sender.sendOne(text);
     QCOMPARE(bench.said, QStringList{"message No thing to send!"});
-    QVERIFY(bench.link.calls.isEmpty());
+    QVERIFY(bench.link.blocks.isEmpty());
 }
 
 void TestSender::oneOfADelayRow_data()
@@ -142,7 +141,7 @@ void TestSender::oneOfADelayRow()
     bench.settings.unreadable = QStringLiteral("5A");
     bench.sender.sendOne(text);
     QCOMPARE(bench.said, QStringList{"message No thing to send!"});
-    QVERIFY(bench.link.calls.isEmpty());
+    QVERIFY(bench.link.blocks.isEmpty());
 }
 
 void TestSender::oneTooLong_data()
@@ -185,7 +184,7 @@ void TestSender::warningComesBeforeTheFrame()
     bench.link.longest = 1;
     bool warnedFirst = false;
     QObject::connect(&bench.sender, &Sender::message, &bench.sender,
-                     [&] { warnedFirst = bench.link.calls.isEmpty(); });
+                     [&] { warnedFirst = bench.link.blocks.isEmpty(); });
     bench.sender.sendOne("0102");
     QVERIFY(warnedFirst);
     QCOMPARE(bench.said, (QStringList{warning(2), "handed over", "sent 5A A5 02 01 02 "}));
@@ -196,7 +195,7 @@ void TestSender::oneWhoseLinkClosesDuringAMessage()
     Bench bench;
     bench.settings.onNextLayout = [&] { bench.link.open = false; };
     bench.sender.sendOne("0102");
-    QVERIFY(bench.link.calls.isEmpty());
+    QVERIFY(bench.link.blocks.isEmpty());
     QVERIFY(bench.said.isEmpty());
 }
 
@@ -245,7 +244,6 @@ void TestSender::allInOneWrite()
     Bench bench;
     bench.sender.sendAll({{1, "01"}, {2, "++5000"}, {4, "0203"}});
     QCOMPARE(bench.link.blocks, QVector<QByteArray>{QByteArray::fromHex("5aa501015aa5020203")});
-    QCOMPARE(bench.link.calls, (QStringList{"write", "wait"}));
     QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 ", "sent 5A A5 02 02 03 "}));
 }
 
@@ -255,7 +253,7 @@ void TestSender::allOverAClosedLink()
     bench.link.open = false;
     bench.sender.sendAll({{1, "01"}});
     QCOMPARE(bench.said, QStringList{"message closed"});
-    QVERIFY(bench.link.calls.isEmpty());
+    QVERIFY(bench.link.blocks.isEmpty());
     QCOMPARE(bench.settings.layoutsRead, 0);
 }
 
@@ -266,7 +264,7 @@ void TestSender::allOfNothing()
         Bench bench;
         bench.sender.sendAll(rows);
         QCOMPARE(bench.said, QStringList{"message Not thing to send!"});
-        QVERIFY(bench.link.calls.isEmpty());
+        QVERIFY(bench.link.blocks.isEmpty());
     }
 }
 
@@ -287,16 +285,6 @@ void TestSender::allOverlong()
     QCOMPARE(bench.said, (QStringList{"message row: 5 instruction length is out of the maximum "
                                       "range, sending errors may occur!",
                                       "message Not thing to send!"}));
-}
-
-void TestSender::allWaitsBehindTheLog()
-{
-    Bench bench;
-    int saidBefore = 0;
-    bench.link.whileWaiting = [&] { saidBefore = bench.said.size(); };
-    bench.sender.sendAll({{1, "01"}, {2, "02"}});
-    QCOMPARE(saidBefore, 3);
-    QCOMPARE(bench.said.size(), 3);
 }
 
 void TestSender::allWhoseLinkClosesDuringAMessage()
@@ -348,24 +336,64 @@ void TestSender::loopPlanChecksNoLink()
     QVERIFY(bench.said.isEmpty());
 }
 
-void TestSender::textHandedOverBeforeItIsLogged()
+void TestSender::aTextIsHandedOverAndTold()
 {
     Bench bench;
     HeaderNotice notice;
-    QVERIFY(bench.sender.sendText("01", notice));
+    const QByteArray frame = bench.sender.handOverText("01", notice);
+    QCOMPARE(bench.said, QStringList{"handed over"});
+    bench.sender.tellFrame(frame);
     QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 "}));
-    QVERIFY(!bench.sender.sendText("1", notice));
+    QCOMPARE(bench.sender.handOverText("1", notice), QByteArray());
     bench.link.open = false;
-    QVERIFY(!bench.sender.sendText("01", notice));
-    QCOMPARE(bench.link.blocks.size(), 1);
+    QCOMPARE(bench.sender.handOverText("01", notice), QByteArray());
+    QCOMPARE(bench.link.blocks, QVector<QByteArray>{frame});
 }
 
-void TestSender::blockHandedOverBeforeItIsLogged()
+void TestSender::aBlockIsHandedOverAndTold()
 {
     Bench bench;
-    bench.sender.sendBlock(QByteArray::fromHex("5aa501015aa50102"));
-    QCOMPARE(bench.link.calls, QStringList{"write"});
+    const QByteArray block = QByteArray::fromHex("5aa501015aa50102");
+    QCOMPARE(bench.sender.handOverBlock(block), block);
+    QCOMPARE(bench.said, QStringList{"handed over"});
+    bench.sender.tellBlock(block);
     QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 ", "sent 5A A5 01 02 "}));
+    bench.link.open = false;
+    QCOMPARE(bench.sender.handOverBlock(block), QByteArray());
+    bench.sender.tellBlock({});
+    QCOMPARE(bench.said.size(), 3);
+}
+
+void TestSender::whatWaitsIsBounded_data()
+{
+    constexpr qint64 most = 1024 * 1024;
+    QTest::addColumn<qint64>("unsent");
+    QTest::addColumn<bool>("isTaken");
+
+    QTest::newRow("just fits") << most - 4 << true;
+    QTest::newRow("a byte too many") << most - 3 << false;
+    QTest::newRow("far too many") << 2 * most << false;
+}
+
+void TestSender::whatWaitsIsBounded()
+{
+    QFETCH(qint64, unsent);
+    QFETCH(bool, isTaken);
+    Bench bench;
+    bench.link.unsent = unsent;
+    const QString refusal =
+        QString("message Not sent: the device has yet to take %1 bytes.").arg(unsent);
+    const QString sent = "sent 5A A5 01 01 ";
+    const QStringList once = isTaken ? QStringList{"handed over", sent} : QStringList{refusal};
+    bench.sender.sendOne("01");
+    QCOMPARE(bench.said, once);
+    bench.sender.sendAll({{1, "01"}});
+    QCOMPARE(bench.said, once + once);
+    QCOMPARE(bench.link.blocks.size(), isTaken ? 2 : 0);
+    // However long, a block that nothing waits before goes.
+    bench.link.unsent = 0;
+    bench.sender.sendOne(bytes(1100000));
+    QCOMPARE(bench.link.blocks.last().size(), 1100003);
 }
 
 void TestSender::linkCanBeExchanged()
@@ -377,7 +405,7 @@ void TestSender::linkCanBeExchanged()
     QVERIFY(bench.sender.isLinkOpen());
     bench.sender.sendOne("01");
     QCOMPARE(other.blocks.size(), 1);
-    QVERIFY(bench.link.calls.isEmpty());
+    QVERIFY(bench.link.blocks.isEmpty());
     other.open = false;
     QVERIFY(!bench.sender.requireOpenLink());
     QCOMPARE(bench.said.last(), QString("message closed"));

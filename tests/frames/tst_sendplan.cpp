@@ -20,6 +20,8 @@ private slots:
     void loopPauseBehindEmptyFrames();
     void loopLeavesOverlongRowsOut();
     void loopOfNothing();
+    void stepsOfALoop_data();
+    void stepsOfALoop();
     void queueLimits_data();
     void queueLimits();
     void rowsBehindTheLimitAreNotBuilt();
@@ -193,6 +195,36 @@ void TestSendPlan::loopOfNothing()
     QVERIFY(!plan.tooManyEntries);
 }
 
+void TestSendPlan::stepsOfALoop_data()
+{
+    QTest::addColumn<int>("intervalMs");
+    QTest::addColumn<QString>("steps");
+
+    QTest::newRow("fast mode") << 0 << "block <01><02>, 0; pause 500; block <03>, 0; pause 0";
+    QTest::newRow("interval mode")
+        << 20 << "text 01, 20; text 02, 20; pause 500; text 03, 20; pause 0";
+}
+
+void TestSendPlan::stepsOfALoop()
+{
+    QFETCH(int, intervalMs);
+    QFETCH(QString, steps);
+    const LoopPlan plan = planLoop(rowsOf({"01", "02", "++500", "03", "++"}), false, fakeFrame);
+    QStringList result;
+    for (const LoopStep &step : loopSteps(plan, intervalMs)) {
+        const QString wait = QString::number(step.waitMs);
+        if (step.kind == LoopStep::Kind::Text) {
+            result.append("text " + step.text + ", " + wait);
+        } else if (step.kind == LoopStep::Kind::Block) {
+            result.append("block " + step.block + ", " + wait);
+        } else {
+            result.append("pause " + wait);
+        }
+        QCOMPARE(step.sends(), step.kind != LoopStep::Kind::Pause);
+    }
+    QCOMPARE(result.join("; "), steps);
+}
+
 void TestSendPlan::queueLimits_data()
 {
     QTest::addColumn<QStringList>("texts");
@@ -257,6 +289,8 @@ void TestSendPlan::messages()
     QCOMPARE(overlongInstructionWarning(300),
              QString("Instruction length 300 is out of the maximum range,<br> "
                      "sending errors may occur!"));
+    QCOMPARE(unsentBytesMessage(70000),
+             QString("Not sent: the device has yet to take 70000 bytes."));
     QCOMPARE(overlongRowsMessage({3, 12}),
              QString("row: 3 12 instruction length is out of the maximum range, "
                      "sending errors may occur!"));

@@ -19,8 +19,12 @@ private slots:
     void aBadHeaderIsToldOnceUntilItChanges();
     void tooManyEntriesAreRefused();
     void aPassThatFindsNothing();
+    void aRowSentMeanwhileDelaysNothing();
     void aLostPortEndsTheLoop();
+    void aLoopThatOutrunsTheWireWaits_data();
     void aLoopThatOutrunsTheWireWaits();
+    void stopWorksWhileNothingIsTaken();
+    void nothingIsLostWhenTheFarEndReadsAgain();
     void closingTheWindowEndsTheLoop();
 };
 
@@ -74,6 +78,33 @@ public:
 
 const QByteArray firstFrame = QByteArray::fromHex("5AA5050300000001");
 const QByteArray secondFrame = QByteArray::fromHex("5AA5054200020202");
+
+/// A window whose loop has two long rows and, where a delay is given, a pause between them. Nobody
+/// reads at the far end: what the system takes in is soon full.
+class StuffedWindow : public LoopWindow
+{
+public:
+    StuffedWindow(const QString &interval, const QString &delay)
+        : LoopWindow(interval, "0", delay)
+    {
+        setRow(0, "42", "0000", QString("11").repeated(250));
+        setRow(2, "42", "0002", QString("22").repeated(250));
+        checkRow(1, !delay.isEmpty());
+    }
+
+    static constexpr int frameLength = 256;
+
+    /// As many frames as the loop has sent.
+    static QByteArray frames(int count)
+    {
+        QByteArray all;
+        for (int i = 0; i < count; ++i) {
+            all += QByteArray::fromHex(i % 2 == 0 ? "5AA5FD420000" : "5AA5FD420002");
+            all += QByteArray(250, i % 2 == 0 ? '\x11' : '\x22');
+        }
+        return all;
+    }
+};
 
 } // namespace
 
@@ -227,7 +258,7 @@ void TestLoop::aPassThatFindsNothing()
     window.click("pushButton_Start_Loop");
     auto *loop = window.window().findChild<SendLoop *>();
     QVERIFY(loop != nullptr);
-    loop->start({}, 10);
+    loop->start({}, {10, 10000});
     window.call("Timer2_Out_Event");
     QCOMPARE(boxes.texts(), QStringList{"No thing to send"});
     QCOMPARE(window.loopCaption(), QString("Auto Send"));
@@ -243,6 +274,29 @@ void TestLoop::aPassThatFindsNothing()
                                 "lineEdit_StepValue", "lineEdit_CycleTime"})
                  .size(),
              6);
+}
+
+void TestLoop::aRowSentMeanwhileDelaysNothing()
+{
+    constexpr int intervalMs = 1000;
+    LoopWindow window(QString::number(intervalMs), "0", "1");
+    window.setRow(5, "42", "0005", "0505");
+    QTimer heartbeat;
+    int beats = 0;
+    connect(&heartbeat, &QTimer::timeout, this, [&] { ++beats; });
+    window.click("pushButton_Start_Loop");
+    QTRY_COMPARE(window.messageCount(), 1);
+    QTest::qWait(intervalMs * 3 / 4);
+    window.clickSend(5);
+    QCOMPARE(window.messageCount(), 2);
+    QElapsedTimer sinceClick;
+    sinceClick.start();
+    heartbeat.start(5);
+    QTRY_COMPARE(window.messageCount(), 3);
+    QVERIFY(sinceClick.elapsed() < intervalMs);
+    QVERIFY(beats > 5);
+    QTRY_COMPARE(window.port.received(),
+                 firstFrame + QByteArray::fromHex("5AA5054200050505") + secondFrame);
 }
 
 void TestLoop::aLostPortEndsTheLoop()
@@ -261,16 +315,27 @@ void TestLoop::aLostPortEndsTheLoop()
     QCOMPARE(boxes.texts().last(), QString("Please open the Com Port!"));
 }
 
+void TestLoop::aLoopThatOutrunsTheWireWaits_data()
+{
+    QTest::addColumn<QString>("interval");
+    QTest::addColumn<QString>("delay");
+
+    QTest::newRow("fast mode") << "0" << QString();
+    QTest::newRow("fast mode with a pause") << "0"
+                                            << "1";
+    QTest::newRow("interval mode") << "1" << QString();
+}
+
 void TestLoop::aLoopThatOutrunsTheWireWaits()
 {
-    LoopWindow window("0", "0", "1");
-    window.setRow(0, "42", "0000", QString("00").repeated(250));
-    window.checkRow(1, false);
+    QFETCH(QString, interval);
+    QFETCH(QString, delay);
+    StuffedWindow window(interval, delay);
     window.click("pushButton_Start_Loop");
-    // Nobody reads: what the system takes in is soon full.
     auto *port = window.window().findChild<QSerialPort *>();
     QTRY_VERIFY(port->bytesToWrite() > 0);
     const qint64 waiting = port->bytesToWrite();
+    QVERIFY(waiting <= 2 * StuffedWindow::frameLength);
     QElapsedTimer elapsed;
     elapsed.start();
     QTRY_VERIFY(elapsed.hasExpired(200));
@@ -279,6 +344,47 @@ void TestLoop::aLoopThatOutrunsTheWireWaits()
     const int before = window.port.received().size();
     QTRY_VERIFY(window.port.received().size() > before + waiting);
     window.click("pushButton_Start_Loop");
+}
+
+void TestLoop::stopWorksWhileNothingIsTaken()
+{
+    StuffedWindow window("10", QString());
+    auto *port = window.window().findChild<QSerialPort *>();
+    QTimer heartbeat;
+    int beats = 0;
+    connect(&heartbeat, &QTimer::timeout, this, [&] { ++beats; });
+    window.click("pushButton_Start_Loop");
+    QTRY_VERIFY(port->bytesToWrite() > 0);
+    // A frame that waits for 2 s, as it may in one go, would leave no room for these.
+    QElapsedTimer elapsed;
+    elapsed.start();
+    heartbeat.start(20);
+    QTRY_VERIFY(elapsed.hasExpired(400));
+    QVERIFY(beats >= 10);
+    const int sent = window.messageCount();
+    window.click("pushButton_Start_Loop");
+    QCOMPARE(window.loopCaption(), QString("Auto Send"));
+    window.port.received();
+    QTRY_COMPARE(port->bytesToWrite(), 0);
+    QTest::qWait(50);
+    QCOMPARE(window.messageCount(), sent);
+    QCOMPARE(window.port.received(), window.frames(sent));
+}
+
+void TestLoop::nothingIsLostWhenTheFarEndReadsAgain()
+{
+    StuffedWindow window("1", QString());
+    auto *port = window.window().findChild<QSerialPort *>();
+    window.click("pushButton_Start_Loop");
+    for (int round = 1; round <= 3; ++round) {
+        QTRY_VERIFY(port->bytesToWrite() > 0);
+        window.port.received();
+    }
+    QTRY_VERIFY(port->bytesToWrite() > 0);
+    window.click("pushButton_Start_Loop");
+    const QByteArray all = window.frames(window.messageCount());
+    QTRY_COMPARE(window.port.received().size(), all.size());
+    QCOMPARE(window.port.received(), all);
 }
 
 void TestLoop::closingTheWindowEndsTheLoop()

@@ -23,6 +23,8 @@ private slots:
     void aBlockIsLoggedAsItsFrames();
     void aDelayRowSendsNothing();
     void aBadHeaderIsToldOnceForEachAct();
+    void sendingNeverWaitsForTheFarEnd();
+    void whatPilesUpIsBounded();
     void theHeaderIsReadForEachFrame();
     void headerAndLengthAreLeftOutAsTheSettingsSay();
 };
@@ -266,6 +268,51 @@ void TestSending::aBadHeaderIsToldOnceForEachAct()
     window.click("pushButton_SendAll");
     QCOMPARE(boxes.takeTexts(), once);
     QTRY_COMPARE(port.received(), hex("A55A050300000001").repeated(5));
+}
+
+void TestSending::sendingNeverWaitsForTheFarEnd()
+{
+    WindowDriver window;
+    TestPort port;
+    window.open(port);
+    window.setRow(0, "42", "", QString("00").repeated(60000));
+    window.checkRow(0);
+    // Nobody reads, which may take two seconds to be seen where somebody waits for it.
+    QElapsedTimer elapsed;
+    elapsed.start();
+    window.call("SendOne");
+    window.click("pushButton_SendAll");
+    QVERIFY(elapsed.elapsed() < 2000);
+    QCOMPARE(window.messageCount(), 2);
+    QVERIFY(window.window().findChild<QSerialPort *>()->bytesToWrite() > 60000);
+    QTRY_COMPARE(port.received().size(), 2 * 60004);
+}
+
+void TestSending::whatPilesUpIsBounded()
+{
+    constexpr int mebibyte = 1024 * 1024;
+    constexpr int rows = 9;
+    MessageBoxes boxes;
+    WindowDriver window;
+    TestPort port;
+    window.open(port);
+    for (int row = 0; row < rows; ++row) {
+        window.setRow(row, "42", "", QString("0%1").arg(row).repeated(60000));
+        window.checkRow(row);
+    }
+    const auto *serialPort = window.window().findChild<QSerialPort *>();
+    window.click("pushButton_SendAll");
+    const qint64 once = serialPort->bytesToWrite();
+    QCOMPARE(boxes.texts(), QStringList());
+    window.click("pushButton_SendAll");
+    QCOMPARE(boxes.texts().size(), 1);
+    QVERIFY(boxes.texts().first().startsWith("Not sent: the device has yet to take "));
+    // The system may have taken a little more meanwhile.
+    QVERIFY(serialPort->bytesToWrite() <= once);
+    QVERIFY(once <= mebibyte);
+    QCOMPARE(window.messageCount(), rows);
+    QTRY_COMPARE(port.received().size(), rows * 60004);
+    QCOMPARE(port.received().right(60000), QByteArray(60000, '\x08'));
 }
 
 void TestSending::theHeaderIsReadForEachFrame()

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "alarmclock.h"
+
+#include <memory>
+
+/// The system's monotonic clock. Its alarm is an event like any other, exact to a fraction of a
+/// millisecond, so that nobody has to sleep or spin for the rest of a wait.
+std::unique_ptr<AlarmClock> makeSystemClock();
