@@ -117,8 +117,8 @@ int SerialLink::longestInstruction() const
 void SerialLink::write(const QByteArray &block)
 {
     m_port.write(block);
-    // What the system takes at once goes at once. Not with flush(): to a port that takes nothing just
-    // now, it fails for good.
+    // What the system takes at once goes at once. Not with flush(): to a port that takes nothing
+    // just now, it fails for good.
     while (m_port.bytesToWrite() > 0 && m_port.waitForBytesWritten(0)) {
     }
 }
