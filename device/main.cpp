@@ -1,8 +1,9 @@
+#include "announcement.h"
 #include "deviceoptions.h"
 #include "devicesession.h"
+#include "endsignals.h"
 #include "pseudoterminal.h"
 #include "publishedlink.h"
-#include "shutdownsignals.h"
 
 #include <QCoreApplication>
 
@@ -13,6 +14,8 @@ namespace {
 
 constexpr int failed = 1;
 constexpr int wrongUsage = 2;
+/// More is not needed to remove the link.
+constexpr int patienceSeconds = 2;
 
 void complain(const QString &message)
 {
@@ -29,8 +32,8 @@ int runDevice(const DeviceOptions &options)
 {
     // A reader of our output that goes away must not end us before the link is removed.
     std::signal(SIGPIPE, SIG_IGN);
-    const ShutdownSignals shutdown;
-    QObject::connect(&shutdown, &ShutdownSignals::arrived, &QCoreApplication::quit);
+    const EndSignals endSignals(patienceSeconds);
+    QObject::connect(&endSignals, &EndSignals::arrived, &QCoreApplication::quit);
 
     const std::optional<PseudoTerminal> terminal = PseudoTerminal::open();
     if (!terminal) {
@@ -47,7 +50,7 @@ int runDevice(const DeviceOptions &options)
         complain(error);
         return failed;
     }
-    say(link.path() + '\n');
+    const Announcement announcement(link.path());
     return QCoreApplication::exec();
 }
 

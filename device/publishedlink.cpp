@@ -10,10 +10,7 @@ PublishedLink::PublishedLink(const QString &folder, const QString &name)
     : m_folder(QDir(folder).absolutePath())
     , m_path(QDir(m_folder).filePath(name))
     , m_lock(QDir(m_folder).filePath(QStringLiteral(".%1.lock").arg(name)))
-{
-    // However old, the lock of a running device counts.
-    m_lock.setStaleLockTime(0);
-}
+{}
 
 PublishedLink::~PublishedLink()
 {
@@ -27,8 +24,9 @@ QString PublishedLink::publish(const QString &target)
     if (!QDir().mkpath(m_folder)) {
         return QStringLiteral("Can't make the folder %1.").arg(m_folder);
     }
-    if (!m_lock.tryLock(0)) {
-        return lockError();
+    const QString lockError = lockName();
+    if (!lockError.isEmpty()) {
+        return lockError;
     }
     const QFileInfo present(m_path);
     if (present.exists() && !present.isSymLink()) {
@@ -42,12 +40,19 @@ QString PublishedLink::publish(const QString &target)
     return {};
 }
 
-QString PublishedLink::lockError() const
+QString PublishedLink::lockName()
 {
-    if (m_lock.error() == QLockFile::LockFailedError) {
-        return QStringLiteral("%1 belongs to a running device; choose another --name.").arg(m_path);
+    switch (m_lock.tryLock()) {
+    case LockFile::Outcome::Locked:
+        return {};
+    case LockFile::Outcome::HeldByAnother:
+        return QStringLiteral("%1 belongs to a running device, which holds %2; choose another "
+                              "--name.")
+            .arg(m_path, m_lock.path());
+    case LockFile::Outcome::Failed:
+        break;
     }
-    return QStringLiteral("Can't write in the folder %1.").arg(m_folder);
+    return QStringLiteral("Can't lock %1: %2.").arg(m_lock.path(), m_lock.error());
 }
 
 QString defaultPortsFolder(const QString &applicationName)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLockFile>
+#include "lockfile.h"
+
 #include <QString>
 
 /// A symbolic link under which a port is found, for as long as this object lives.
@@ -28,12 +29,13 @@ public:
     QString path() const { return m_path; }
 
 private:
-    QString lockError() const;
+    /// An error in words, empty if the name is ours from now on.
+    QString lockName();
 
     QString m_folder;
     QString m_path;
     QString m_target;
-    QLockFile m_lock;
+    LockFile m_lock;
 };
 
 /// The folder that links are published in by default: `ports` in the folder of the program, or,

@@ -1,5 +1,6 @@
 #include "deviceids.h"
 
+#include "filereader.h"
 #include "hidpacket.h"
 
 #include <QFileInfo>
@@ -50,14 +51,11 @@ void createDeviceIdFile(const QString &fileName)
     }
 }
 
-/// Only a regular file is read: reading a pipe or a device might never end.
+/// Empty where the file can't be read as a whole.
 QByteArray contentOf(const QString &fileName)
 {
-    QFile file(fileName);
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    return file.readAll();
+    constexpr int largestDeviceIdFile = 8 * 1024 * 1024;
+    return readFile(fileName, largestDeviceIdFile).bytes;
 }
 
 } // namespace

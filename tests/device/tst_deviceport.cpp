@@ -4,7 +4,11 @@
 #include <QFileInfo>
 #include <QtTest>
 
+#include <array>
 #include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 class TestDevicePort : public QObject
 {
@@ -18,6 +22,11 @@ private slots:
     void leavesAPortThatIsNotItsOwn();
     void replacesALeftBehindLink();
     void takesOverFromADeviceThatDied();
+    void takesOverALockFile_data();
+    void takesOverALockFile();
+    void namesALockFileThatIsInTheWay_data();
+    void namesALockFileThatIsInTheWay();
+    void endsWhileNobodyReadsItsOutput();
     void refusesTheNameOfARunningDevice();
     void refusesToReplaceAFile();
 
@@ -25,6 +34,32 @@ private slots:
     void wrongOptionsEndIt();
     void printsHelp();
 };
+
+namespace {
+
+QString lockFileOf(const RunningDevice &device)
+{
+    return device.folder() + "/.simulated.lock";
+}
+
+/// A process whose standard output is a descriptor of ours.
+class OutputTo : public QProcess
+{
+public:
+    explicit OutputTo(int descriptor)
+        : m_descriptor(descriptor)
+    {
+        setProcessChannelMode(QProcess::ForwardedChannels);
+    }
+
+protected:
+    void setupChildProcess() override { dup2(m_descriptor, STDOUT_FILENO); }
+
+private:
+    int m_descriptor;
+};
+
+} // namespace
 
 void TestDevicePort::publishesAndPrintsItsPort()
 {
@@ -101,6 +136,83 @@ void TestDevicePort::takesOverFromADeviceThatDied()
     QCOMPARE(ask(second, frame("B"), 4), frame("B"));
 }
 
+void TestDevicePort::takesOverALockFile_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("mode");
+
+    QTest::newRow("empty") << QByteArray() << 0644;
+    QTest::newRow("rubbish") << QByteArray("\xFF\0\nno process", 13) << 0644;
+    QTest::newRow("of a process that runs") << QByteArray::number(getpid()) + "\nother\nhost\n"
+                                            << 0644;
+    QTest::newRow("readable by nobody") << QByteArray("1\n") << 0;
+}
+
+void TestDevicePort::takesOverALockFile()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(int, mode);
+    RunningDevice device;
+    const QString path = lockFileOf(device);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    QCOMPARE(chmod(qUtf8Printable(path), static_cast<mode_t>(mode)), 0);
+    QVERIFY(device.start());
+    QCOMPARE(ask(device, frame("B"), 4), frame("B"));
+    RunningDevice second;
+    QVERIFY(!second.startOnly({"--ports", device.folder()}));
+}
+
+void TestDevicePort::namesALockFileThatIsInTheWay_data()
+{
+    QTest::addColumn<QString>("kind");
+
+    QTest::newRow("folder") << "folder";
+    QTest::newRow("named pipe") << "pipe";
+    QTest::newRow("link") << "link";
+}
+
+void TestDevicePort::namesALockFileThatIsInTheWay()
+{
+    QFETCH(QString, kind);
+    RunningDevice device;
+    const QString path = lockFileOf(device);
+    if (kind == "folder") {
+        QVERIFY(QDir().mkdir(path));
+    } else if (kind == "pipe") {
+        QCOMPARE(mkfifo(qUtf8Printable(path), 0600), 0);
+    } else {
+        QVERIFY(QFile::link("/dev/null", path));
+    }
+    QVERIFY(!device.startOnly());
+    QCOMPARE(device.process().exitCode(), 1);
+    QVERIFY(device.process().readAllStandardError().contains(path.toLocal8Bit()));
+    QVERIFY(QFileInfo(path).exists());
+}
+
+void TestDevicePort::endsWhileNobodyReadsItsOutput()
+{
+    std::array<int, 2> ends{};
+    QCOMPARE(pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
+    const std::array<char, 4096> filling{};
+    while (::write(ends[1], filling.data(), filling.size()) > 0) {
+    }
+    const QTemporaryDir folder;
+    const QString link = folder.filePath("simulated");
+    OutputTo device(ends[1]);
+    device.start(TARNWICK_DEVICE, {"--ports", folder.path()});
+    QTRY_VERIFY(QFileInfo(link).isSymLink());
+    device.terminate();
+    QVERIFY(device.waitForFinished());
+    QCOMPARE(device.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(device.exitCode(), 0);
+    QVERIFY(QDir(folder.path()).isEmpty());
+    ::close(ends[0]);
+    ::close(ends[1]);
+}
+
 void TestDevicePort::refusesTheNameOfARunningDevice()
 {
     RunningDevice first;
@@ -108,7 +220,9 @@ void TestDevicePort::refusesTheNameOfARunningDevice()
     RunningDevice second;
     QVERIFY(!second.startOnly({"--ports", first.folder()}));
     QCOMPARE(second.process().exitCode(), 1);
-    QVERIFY(second.process().readAllStandardError().contains("running device"));
+    const QByteArray told = second.process().readAllStandardError();
+    QVERIFY(told.contains("running device"));
+    QVERIFY(told.contains(lockFileOf(first).toLocal8Bit()));
     QCOMPARE(ask(first, frame("B"), 4), frame("B"));
 
     RunningDevice third;

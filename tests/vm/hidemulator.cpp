@@ -4,10 +4,10 @@
 // report that isn't of the form that the device has is an error.
 
 #include "deviceparser.h"
+#include "endsignals.h"
 #include "framebuilder.h"
 #include "registerdevice.h"
 #include "reports.h"
-#include "shutdownsignals.h"
 #include "uhiddevice.h"
 
 #include <QCoreApplication>
@@ -74,8 +74,9 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    const ShutdownSignals shutdown;
-    QObject::connect(&shutdown, &ShutdownSignals::arrived, &QCoreApplication::quit);
+    constexpr int patienceSeconds = 2;
+    const EndSignals endSignals(patienceSeconds);
+    QObject::connect(&endSignals, &EndSignals::arrived, &QCoreApplication::quit);
 
     const quint16 product = arguments.value(1).toUShort(nullptr, 16);
     const int reportSize = arguments.value(2).toInt();

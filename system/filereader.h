@@ -19,6 +19,7 @@ struct FileContent
 /// the way or when fewer bytes come than the device had at first.
 FileContent readDevice(QIODevice &device, qint64 limit);
 
-/// Reads a file as it stands, up to `limit` bytes. Anything but a regular file (a folder, a named
-/// pipe, a device) is unreadable: opening it could wait for ever.
+/// Reads a file as it stands, up to `limit` bytes, without ever waiting. Anything but a regular
+/// file (a folder, a named pipe, a device) is unreadable, and so is one that has nothing to tell
+/// yet.
 FileContent readFile(const QString &path, qint64 limit);

@@ -1,7 +1,8 @@
 #include "filereader.h"
 
+#include "regularfile.h"
+
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
 
@@ -34,8 +35,8 @@ FileContent readDevice(QIODevice &device, qint64 limit)
 
 FileContent readFile(const QString &path, qint64 limit)
 {
-    QFile file(path);
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+    QFile file;
+    if (!openRegularFile(file, path, QIODevice::ReadOnly)) {
         return {};
     }
     return readDevice(file, limit);

@@ -30,6 +30,8 @@ public:
 
     bool isValid() const { return m_descriptor >= 0; }
     int get() const { return m_descriptor; }
+    /// Leaves the descriptor to somebody else.
+    int release() { return std::exchange(m_descriptor, -1); }
 
 private:
     int m_descriptor = -1;

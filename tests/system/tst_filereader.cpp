@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <csignal>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 class TestFileReader : public QObject
@@ -18,6 +20,7 @@ private slots:
     void unreadable_data();
     void unreadable();
     void namedPipe();
+    void neverWaits();
     void failsOnTheWay();
     void tooLarge_data();
     void tooLarge();
@@ -120,6 +123,20 @@ void TestFileReader::namedPipe()
     const QString link = dir.filePath(QStringLiteral("link"));
     QVERIFY(QFile::link(pipe, link));
     QCOMPARE(readFile(link, 1000).outcome, Outcome::Unreadable);
+}
+
+void TestFileReader::neverWaits()
+{
+    const QTemporaryDir dir;
+    const QString path = writeFile(dir, "text");
+    QFile leased(path);
+    QVERIFY(leased.open(QIODevice::ReadOnly));
+    // Whoever opens a leased file has to wait until the lease is given back, or gets nothing.
+    std::signal(SIGIO, SIG_IGN);
+    QCOMPARE(fcntl(leased.handle(), F_SETLEASE, F_WRLCK), 0);
+    QCOMPARE(readFile(path, 1000).outcome, Outcome::Unreadable);
+    QCOMPARE(fcntl(leased.handle(), F_SETLEASE, F_UNLCK), 0);
+    QCOMPARE(readFile(path, 1000).bytes, QByteArray("text"));
 }
 
 void TestFileReader::failsOnTheWay()

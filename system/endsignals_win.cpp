@@ -1,0 +1,5 @@
+#include "endsignals.h"
+
+EndSignals::EndSignals(int /*patienceSeconds*/, QObject *parent)
+    : QObject(parent)
+{}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QIODevice>
+
+class QFile;
+class QString;
+
+/// Opens a regular file that exists, for reading or for both reading and writing, so that neither
+/// this nor reading from it ever waits: not for the other end of a pipe, not for a kernel file that
+/// has nothing to tell yet. Such a read fails instead.
+///
+/// False for whatever is no regular file (a folder, a named pipe, a device), and where it cannot be
+/// opened. The file is closed beforehand and has no name of its own afterwards.
+bool openRegularFile(QFile &file, const QString &path, QIODevice::OpenMode mode);
+
+/// Makes sure that the file, which is open for writing, can grow to so many bytes, without changing
+/// what is in it. False where the disk is full or the file may not get that large; true where the
+/// system can't tell.
+bool reserveRoom(const QFile &file, qint64 bytes);
