@@ -19,15 +19,14 @@ QByteArray takeLine(const QByteArray &bytes, int &begin)
 
 std::optional<CommandRow> CommandLineReader::read(const QByteArray &line)
 {
-    if (line.size() > longestCommandLine) {
-        m_sawInvalidLine = true;
-        return std::nullopt;
-    }
     const QString text = m_decoder.decode(line);
     if (isIgnoredLine(text)) {
         return std::nullopt;
     }
-    std::optional<CommandRow> row = parseCommandLine(text);
+    std::optional<CommandRow> row;
+    if (line.size() <= longestCommandLine) {
+        row = parseCommandLine(text);
+    }
     m_sawInvalidLine = m_sawInvalidLine || !row;
     return row;
 }

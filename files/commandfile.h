@@ -14,8 +14,8 @@ inline constexpr int mostCommandRows = 10'000;
 /// The most bytes that a command file may have.
 inline constexpr int largestCommandFile = 8 * 1024 * 1024;
 
-/// The most bytes that a line may have: the longest instruction there can be, 65535 bytes written
-/// with blanks between them, and room for its description.
+/// The most bytes that the line of a command may have: the longest instruction there can be, 65535
+/// bytes written with blanks between them, and room for its description.
 inline constexpr int longestCommandLine = 256 * 1024;
 
 /// Reads the lines of a command file, one after the other.

@@ -2,6 +2,7 @@
 
 #include <QTextCodec>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -12,26 +13,54 @@ bool holdsReplacedBytes(const QTextCodec &codec, const QString &text)
     return &codec != &utf8Codec() && text.contains(QChar(QChar::ReplacementCharacter));
 }
 
+bool isAscii(const QByteArray &bytes)
+{
+    constexpr uchar lastAscii = 127;
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char byte) { return static_cast<uchar>(byte) <= lastAscii; });
+}
+
+QString withoutLineEnds(QString text)
+{
+    return text.remove(QLatin1Char('\r')).remove(QLatin1Char('\n'));
+}
+
+/// Nothing is made for a blank line.
+QString asciiText(const QByteArray &line)
+{
+    int size = line.size();
+    while (size > 0 && (line.at(size - 1) == '\n' || line.at(size - 1) == '\r')) {
+        --size;
+    }
+    return size == 0 ? QString() : withoutLineEnds(QString::fromLatin1(line.constData(), size));
+}
+
 DecodedLine decodeBytes(const QTextCodec &codec, const QByteArray &line)
 {
     // Behind a character that is cut off, the line end shows every codec that it is.
     const QByteArray bytes = line.endsWith('\n') ? line : line + '\n';
     QTextCodec::ConverterState state;
-    QString text = codec.toUnicode(bytes.constData(), bytes.size(), &state);
+    const QString text = codec.toUnicode(bytes.constData(), bytes.size(), &state);
     const bool valid = state.invalidChars == 0 && !holdsReplacedBytes(codec, text);
-    text.remove(QLatin1Char('\r')).remove(QLatin1Char('\n'));
-    return {text, valid};
+    return {withoutLineEnds(text), valid};
+}
+
+QString textOfField(const QTextCodec &codec, const QByteArray &field)
+{
+    return isAscii(field) ? asciiText(field) : decodeBytes(codec, field).text;
 }
 
 /// Without ICU, Qt's GBK decoder takes the byte behind a wrong one for lost, too; in a command line
 /// that must not be a comma.
 QString decodeByFields(const QTextCodec &codec, const QByteArray &line)
 {
-    QStringList fields;
-    for (const QByteArray &field : line.split(',')) {
-        fields.append(decodeBytes(codec, field).text);
+    QString text;
+    int begin = 0;
+    for (int comma = line.indexOf(','); comma >= 0; comma = line.indexOf(',', begin)) {
+        text += textOfField(codec, line.mid(begin, comma - begin)) + QLatin1Char(',');
+        begin = comma + 1;
     }
-    return fields.join(QLatin1Char(','));
+    return text + textOfField(codec, line.mid(begin));
 }
 
 } // namespace
@@ -68,6 +97,10 @@ LineDecoder::LineDecoder(const QTextCodec &first, const QTextCodec &second)
 
 QString LineDecoder::decode(const QByteArray &line)
 {
+    // Asking a codec takes longer than all that is done with a blank line.
+    if (isAscii(line)) {
+        return asciiText(line);
+    }
     const DecodedLine attempt = decodeLine(*m_current, line);
     if (attempt.valid) {
         return attempt.text;

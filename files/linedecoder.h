@@ -26,7 +26,8 @@ const QTextCodec &fallbackCodec();
 /// Decodes the lines of a file of unknown encoding, one after the other.
 ///
 /// It starts with one codec and changes over to the other whenever a line does not fit, in either
-/// direction; a change stays in force for the lines that follow.
+/// direction; a change stays in force for the lines that follow. Both codecs must contain ASCII: a
+/// line of nothing else fits either of them.
 class LineDecoder
 {
 public:

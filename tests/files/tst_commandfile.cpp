@@ -18,6 +18,9 @@ private slots:
     void encodings();
     void lineOfTheLongestInstruction();
     void linesTooLong();
+    void longCommentsAreSkipped();
+    void longCommentsChooseTheCodec();
+    void longLinesChooseTheCodec();
     void mostRows();
     void rubbishIsBounded_data();
     void rubbishIsBounded();
@@ -244,6 +247,35 @@ void TestCommandFile::linesTooLong()
     const CommandFile tooLong = readCommandFile("a" + longest + "b,5A0001\n");
     QCOMPARE(descriptions(tooLong), QStringList({"b"}));
     QVERIFY(tooLong.hasInvalidLines);
+}
+
+void TestCommandFile::longCommentsAreSkipped()
+{
+    const QByteArray comment = "//" + QByteArray(longestCommandLine, ',') + '\n';
+    const CommandFile file = readCommandFile(comment + "a,5A0001\n" + comment);
+    QCOMPARE(descriptions(file), QStringList("a"));
+    QVERIFY(!file.hasInvalidLines);
+}
+
+void TestCommandFile::longCommentsChooseTheCodec()
+{
+    // The bytes of the command fit both encodings, so it is the comment that tells.
+    const QByteArray command = "\xC2\xB0,5A0001\n";
+    QCOMPARE(descriptions(readCommandFile(command)), QStringList("°"));
+    for (const int length : {10, longestCommandLine}) {
+        const QByteArray comment = "//" + gbk("漢") + QByteArray(length, ' ') + '\n';
+        const CommandFile file = readCommandFile(comment + command);
+        QCOMPARE(descriptions(file), QStringList("掳"));
+        QVERIFY(!file.hasInvalidLines);
+    }
+}
+
+void TestCommandFile::longLinesChooseTheCodec()
+{
+    const QByteArray tooLong = gbk("漢") + QByteArray(longestCommandLine, ' ') + ",5A0001\n";
+    const CommandFile file = readCommandFile(tooLong + "\xC2\xB0,5A0001\n");
+    QCOMPARE(descriptions(file), QStringList("掳"));
+    QVERIFY(file.hasInvalidLines);
 }
 
 void TestCommandFile::mostRows()

@@ -11,6 +11,7 @@ private slots:
     void lines_data();
     void lines();
     void changesOver();
+    void plainLinesAskNoCodec();
     void fallsBackToGbk();
 };
 
@@ -59,6 +60,43 @@ void TestLineDecoder::changesOver()
     QCOMPARE(decoder.decode("\xC3\xA9\n"), QStringLiteral("é"));
     QCOMPARE(decoder.decode("\xE9\n"), QStringLiteral("é"));
     QCOMPARE(decoder.decode("\xC3\xA9\n"), QString::fromUtf8("Ã©"));
+}
+
+namespace {
+
+/// Counts how often it is asked.
+class CountingCodec : public QTextCodec
+{
+public:
+    QByteArray name() const override { return "counting"; }
+    int mibEnum() const override { return 0; }
+
+    mutable int questions = 0;
+
+protected:
+    QString convertToUnicode(const char *in, int length, ConverterState *) const override
+    {
+        ++questions;
+        return QString::fromUtf8(in, length);
+    }
+    QByteArray convertFromUnicode(const QChar *, int, ConverterState *) const override
+    {
+        return {};
+    }
+};
+
+} // namespace
+
+void TestLineDecoder::plainLinesAskNoCodec()
+{
+    const auto *const codec = new CountingCodec; // Qt keeps it, and deletes it at the end.
+    LineDecoder decoder(*codec, *codec);
+    QCOMPARE(decoder.decode("\n"), QString());
+    QCOMPARE(decoder.decode("\r\n"), QString());
+    QCOMPARE(decoder.decode("// a\r\r,b\n"), QStringLiteral("// a,b"));
+    QCOMPARE(codec->questions, 0);
+    QCOMPARE(decoder.decode("é"), QStringLiteral("é"));
+    QCOMPARE(codec->questions, 1);
 }
 
 void TestLineDecoder::fallsBackToGbk()
