@@ -1,6 +1,8 @@
 #include "filesaver.h"
 
-#include <QFile>
+#include "overwriting.h"
+#include "regularfile.h"
+
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -21,44 +23,39 @@ QString behindLinks(const QString &path)
     return {};
 }
 
-bool writeAll(QFileDevice &file, const QByteArray &bytes)
-{
-    return file.write(bytes) == bytes.size() && file.flush();
-}
+enum class Outcome { Saved, Failed, NotAllowed };
 
-/// Writes straight into a file. What is longer than the old content goes first, so that a full
-/// disk is noticed while the old content is still whole.
-bool writeInPlace(const QString &path, const QByteArray &bytes)
+/// Not allowed is what the folder doesn't permit, and what would give the file to somebody else.
+Outcome replaceFile(const QString &path, const QByteArray &bytes)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
-        return false;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return Outcome::NotAllowed;
     }
-    const qint64 oldSize = file.size();
-    if (bytes.size() > oldSize) {
-        const QByteArray excess = bytes.mid(static_cast<int>(oldSize));
-        if (!file.seek(oldSize) || !writeAll(file, excess)) {
-            file.resize(oldSize);
-            return false;
-        }
+    if (QFileInfo::exists(path) && !giveToOwnerOf(path, file)) {
+        return Outcome::NotAllowed;
     }
-    const QByteArray rest = bytes.left(static_cast<int>(oldSize));
-    return file.seek(0) && writeAll(file, rest) && file.resize(bytes.size());
+    // On a full disk it may well take a part of the bytes, and call that no error.
+    if (file.write(bytes) != bytes.size()) {
+        return Outcome::Failed;
+    }
+    if (file.commit()) {
+        return Outcome::Saved;
+    }
+    return file.error() == QFileDevice::RenameError ? Outcome::NotAllowed : Outcome::Failed;
 }
 
 } // namespace
 
-bool saveFile(const QString &path, const QByteArray &bytes)
+bool saveFile(const QString &path, const QByteArray &bytes,
+              const std::function<void()> &beforeOverwriting)
 {
     const QString target = behindLinks(path);
     const QFileInfo existing(target);
     if (target.isEmpty() || (existing.exists() && !existing.isFile())) {
         return false;
     }
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return writeInPlace(target, bytes);
-    }
-    // On a full disk it may well take a part of the bytes, and call that no error.
-    return file.write(bytes) == bytes.size() && file.commit();
+    const Outcome outcome = replaceFile(target, bytes);
+    return outcome == Outcome::NotAllowed ? overwriteFile(target, bytes, beforeOverwriting)
+                                          : outcome == Outcome::Saved;
 }

@@ -3,6 +3,7 @@
 #include <QIODevice>
 
 class QFile;
+class QFileDevice;
 class QString;
 
 /// Opens a regular file that exists, for reading or for both reading and writing, so that neither
@@ -17,3 +18,10 @@ bool openRegularFile(QFile &file, const QString &path, QIODevice::OpenMode mode)
 /// what is in it. False where the disk is full or the file may not get that large; true where the
 /// system can't tell.
 bool reserveRoom(const QFile &file, qint64 bytes);
+
+/// Waits until what was written to the open file is safe from a power cut; false if that fails.
+bool syncToDisk(const QFile &file);
+
+/// Gives an open file of ours to the user and the group that the file `model` belongs to. True if
+/// it belongs to them afterwards; so it does where files have no such owners.
+bool giveToOwnerOf(const QString &model, const QFileDevice &file);

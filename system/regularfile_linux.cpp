@@ -31,3 +31,20 @@ bool reserveRoom(const QFile &file, qint64 bytes)
     const bool reserved = fallocate(file.handle(), FALLOC_FL_KEEP_SIZE, 0, bytes) == 0;
     return reserved || (errno != ENOSPC && errno != EDQUOT && errno != EFBIG);
 }
+
+bool syncToDisk(const QFile &file)
+{
+    return fsync(file.handle()) == 0;
+}
+
+bool giveToOwnerOf(const QString &model, const QFileDevice &file)
+{
+    struct stat wanted = {};
+    struct stat present = {};
+    const QByteArray name = QFile::encodeName(model);
+    if (stat(name.constData(), &wanted) != 0 || fstat(file.handle(), &present) != 0) {
+        return false;
+    }
+    const bool isTheirs = present.st_uid == wanted.st_uid && present.st_gid == wanted.st_gid;
+    return isTheirs || fchown(file.handle(), wanted.st_uid, wanted.st_gid) == 0;
+}

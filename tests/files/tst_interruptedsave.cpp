@@ -9,6 +9,8 @@
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 class TestInterruptedSave : public QObject
 {
@@ -19,11 +21,19 @@ private slots:
     void aFileTooLargeLeavesTheOldOne();
     void aFullFileSystemKeepsTheOldFile();
     void aSaveThatIsKilledLeavesTheOldFile();
+    void aFileThatIsOverwrittenIsNeverAMixture();
 };
 
 namespace {
 
 constexpr int hugeSize = 16 * 1024 * 1024;
+
+/// Who the child process saves as.
+uid_t writerId()
+{
+    const OrdinaryUser user;
+    return geteuid();
+}
 
 /// For its lifetime, writing past a file size fails as on a full disk.
 class FileSizeLimit
@@ -98,8 +108,11 @@ void TestInterruptedSave::aFullFileSystemKeepsTheOldFile()
 void TestInterruptedSave::aSaveThatIsKilledLeavesTheOldFile()
 {
     const QTemporaryDir dir;
+    QCOMPARE(chmod(qUtf8Printable(dir.path()), 0777), 0);
     const QString path = dir.filePath(QStringLiteral("list.txt"));
     writeFile(path, "before");
+    QCOMPARE(chmod(qUtf8Printable(path), 0666), 0);
+    QCOMPARE(chown(qUtf8Printable(path), writerId(), writerId()), 0);
     QProcess child;
     child.start(QCoreApplication::applicationFilePath(), {"--be-killed", path});
     QVERIFY(child.waitForFinished());
@@ -109,6 +122,18 @@ void TestInterruptedSave::aSaveThatIsKilledLeavesTheOldFile()
     QCOMPARE(contentOf(path), QByteArray("before"));
     QVERIFY(saveFile(path, "after"));
     QCOMPARE(contentOf(path), QByteArray("after"));
+}
+
+void TestInterruptedSave::aFileThatIsOverwrittenIsNeverAMixture()
+{
+    const ClosedFolder folder(QByteArray(hugeSize, 'b'));
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {"--be-killed", folder.filePath()});
+    QVERIFY(child.waitForFinished());
+    QCOMPARE(child.exitCode(), SIGKILL);
+    const QByteArray left = contentOf(folder.filePath());
+    QCOMPARE(left.size(), hugeSize / 2);
+    QCOMPARE(left.count('a'), left.size());
 }
 
 namespace {
@@ -135,6 +160,7 @@ const char *saveToFullFileSystem(const QByteArray &folder)
 /// Saves a large file and is killed when half of it is written.
 bool saveAndBeKilled(const QString &path)
 {
+    const OrdinaryUser user;
     const FileSizeLimit limit(hugeSize / 2);
     std::signal(SIGXFSZ, [](int) { raise(SIGKILL); });
     return saveFile(path, QByteArray(hugeSize, 'a'));
