@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QSettings>
 #include <QString>
 
 /// What the program remembers from run to run. The three switches are kept as the numbers they are
@@ -21,17 +20,22 @@ struct Settings
     int isEditorFun = 0;
 };
 
-/// The settings file: INI format, UTF-8, group "set". A file that can't be read gives the defaults,
-/// and one that can't be written is left as it is; neither is an error.
+/// The settings file: INI format, UTF-8, group "set", as QSettings reads and writes it. What else
+/// is in the file stays as it is. A file that can't be read gives the defaults, and one that can't
+/// be written is left as it is; neither is an error. Anything but a regular file of at most 1 MiB
+/// is neither read nor written.
+///
+/// The values are read as text and never as QSettings would decode them: some would ask for more
+/// memory than there is.
 class SettingsFile
 {
 public:
-    explicit SettingsFile(const QString &path);
+    explicit SettingsFile(QString path);
 
     /// Any link mode but 0 is read as 1.
     Settings load() const;
-    void save(const Settings &settings);
+    void save(const Settings &settings) const;
 
 private:
-    QSettings m_file;
+    QString m_path;
 };

@@ -29,13 +29,13 @@ enum class Outcome { Saved, Failed, NotAllowed };
 Outcome replaceFile(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    // A buffer would take what the disk then doesn't.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         return Outcome::NotAllowed;
     }
     if (QFileInfo::exists(path) && !giveToOwnerOf(path, file)) {
         return Outcome::NotAllowed;
     }
-    // On a full disk it may well take a part of the bytes, and call that no error.
     if (file.write(bytes) != bytes.size()) {
         return Outcome::Failed;
     }

@@ -24,6 +24,9 @@ private slots:
     void foldersSurvive();
     void fileIsUtf8();
     void foreignKeysAndGroupsSurvive();
+    void otherLinesStayAsTheyAre();
+    void theLastOneCounts();
+    void aMarkOfUtf8InFrontIsNoMatter();
     void aFolderInItsPlaceIsNoError();
     void rubbishGivesDefaults_data();
     void rubbishGivesDefaults();
@@ -186,6 +189,40 @@ void TestSettings::foreignKeysAndGroupsSurvive()
                                          "mine=kept", "noAppendHeader=0", "noAppendLength=0"}));
     QVERIFY(content().indexOf("mine=") > content().indexOf("[set]"));
     QVERIFY(content().indexOf("key=") < content().indexOf("[set]"));
+}
+
+void TestSettings::otherLinesStayAsTheyAre()
+{
+    const QByteArray before = "; mine\r\n[other]\nkey = @Variant(x)\n\n[ set ] ; here\nmine\n=a\n";
+    write(before + "isEditorFun=1");
+    SettingsFile file(path());
+    file.save(file.load());
+    QFile written(path());
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QByteArray left = written.readAll();
+    left.remove(left.indexOf("LastLoadPath"),
+                left.indexOf("mine\n=a") - left.indexOf("LastLoadPath"));
+    QCOMPARE(left, before);
+    QCOMPARE(file.load().isEditorFun, 1);
+}
+
+void TestSettings::theLastOneCounts()
+{
+    write("[set]\nisEditorFun=1\n[other]\nisEditorFun=2\n[set]\nisEditorFun=3\n");
+    SettingsFile file(path());
+    QCOMPARE(file.load().isEditorFun, 3);
+    file.save(file.load());
+    QCOMPARE(file.load().isEditorFun, 3);
+    QCOMPARE(content().count("isEditorFun"), 2);
+}
+
+void TestSettings::aMarkOfUtf8InFrontIsNoMatter()
+{
+    write("\xEF\xBB\xBF[set]\nisEditorFun=1\n");
+    SettingsFile file(path());
+    QCOMPARE(file.load().isEditorFun, 1);
+    file.save(file.load());
+    QCOMPARE(content().count("isEditorFun"), 1);
 }
 
 void TestSettings::aFolderInItsPlaceIsNoError()

@@ -66,15 +66,23 @@ private:
 void TestInterruptedSave::aFileTooLargeLeavesTheOldOne_data()
 {
     QTest::addColumn<bool>("inPlace");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("most");
 
-    QTest::newRow("beside the file") << false;
-    QTest::newRow("straight into it") << true;
+    QTest::newRow("beside the file") << false << 200'000 << 100'000;
+    QTest::newRow("straight into it") << true << 200'000 << 100'000;
+    QTest::newRow("a few bytes too many, beside the file") << false << 100'001 << 100'000;
+    QTest::newRow("a few bytes too many, straight into it") << true << 100'001 << 100'000;
+    QTest::newRow("a little file, beside it") << false << 2000 << 1000;
+    QTest::newRow("a little file, straight into it") << true << 2000 << 1000;
 }
 
 void TestInterruptedSave::aFileTooLargeLeavesTheOldOne()
 {
     QFETCH(bool, inPlace);
-    const QByteArray before(50'000, 'b');
+    QFETCH(int, size);
+    QFETCH(int, most);
+    const QByteArray before(size / 4, 'b');
     const ClosedFolder folder(before);
     if (!inPlace) {
         QVERIFY(folder.reopen());
@@ -83,8 +91,8 @@ void TestInterruptedSave::aFileTooLargeLeavesTheOldOne()
     QVERIFY(user.isInForce());
     bool saved = true;
     {
-        const FileSizeLimit limit(100'000);
-        saved = saveFile(folder.filePath(), QByteArray(200'000, 'a'));
+        const FileSizeLimit limit(static_cast<rlim_t>(most));
+        saved = saveFile(folder.filePath(), QByteArray(size, 'a'));
     }
     QVERIFY(!saved);
     QCOMPARE(contentOf(folder.filePath()), before);

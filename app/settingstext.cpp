@@ -1,0 +1,142 @@
+#include "settingstext.h"
+
+#include "initext.h"
+
+#include <algorithm>
+
+namespace {
+
+const QByteArray groupName = QByteArrayLiteral("set");
+
+// In the order in which they are written.
+const QByteArray lastLoadPathKey = QByteArrayLiteral("LastLoadPath");
+const QByteArray lastSavePathKey = QByteArrayLiteral("LastSavePath");
+const QByteArray linkModeKey = QByteArrayLiteral("debuggerMode");
+const QByteArray isEditorFunKey = QByteArrayLiteral("isEditorFun");
+const QByteArray noAppendHeaderKey = QByteArrayLiteral("noAppendHeader");
+const QByteArray noAppendLengthKey = QByteArrayLiteral("noAppendLength");
+
+/// Walks through the lines of an INI file. A group begins with a line "[name]"; a line "key=value"
+/// belongs to the last one.
+class LineWalk
+{
+public:
+    explicit LineWalk(const QByteArray &content)
+        : m_content(content)
+    {}
+
+    /// Goes on to the next line; false at the end.
+    bool next()
+    {
+        m_begin = m_end;
+        const int lineEnd = m_content.indexOf('\n', m_begin);
+        m_end = lineEnd < 0 ? m_content.size() : lineEnd + 1;
+        takeApart(line().trimmed());
+        return m_begin < m_content.size();
+    }
+
+    /// The line with its end.
+    QByteArray line() const { return m_content.mid(m_begin, m_end - m_begin); }
+    bool beginsOurGroup() const { return m_isHeader && m_isInOurGroup; }
+    /// Empty outside our group.
+    QByteArray key() const { return m_key; }
+    QByteArray value() const { return m_value; }
+
+private:
+    void takeApart(QByteArray text)
+    {
+        if (m_begin == 0 && text.startsWith("\xEF\xBB\xBF")) {
+            text.remove(0, 3);
+        }
+        m_isHeader = text.startsWith('[');
+        if (m_isHeader) {
+            m_isInOurGroup = text.mid(1, text.indexOf(']') - 1).trimmed() == groupName;
+        }
+        const int equals = m_isInOurGroup ? text.indexOf('=') : -1;
+        m_key = text.left(std::max(0, equals)).trimmed();
+        m_value = text.mid(equals + 1);
+    }
+
+    const QByteArray &m_content;
+    int m_begin = 0;
+    int m_end = 0;
+    bool m_isHeader = false;
+    bool m_isInOurGroup = false;
+    QByteArray m_key;
+    QByteArray m_value;
+};
+
+/// Whether the key is one of ours; its value is then taken.
+bool take(Settings &settings, const QByteArray &key, const QByteArray &value)
+{
+    const auto text = [&value] { return iniText(value).value_or(QString()); };
+    if (key == lastLoadPathKey) {
+        settings.lastLoadPath = text();
+    } else if (key == lastSavePathKey) {
+        settings.lastSavePath = text();
+    } else if (key == linkModeKey) {
+        settings.linkMode = text().toInt() != 0 ? 1 : 0;
+    } else if (key == isEditorFunKey) {
+        settings.isEditorFun = text().toInt();
+    } else if (key == noAppendHeaderKey) {
+        settings.noAppendHeader = text().toInt();
+    } else if (key == noAppendLengthKey) {
+        settings.noAppendLength = text().toInt();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+QByteArray linesOf(const Settings &settings)
+{
+    const auto line = [](const QByteArray &key, const QByteArray &value) {
+        return key + '=' + value + '\n';
+    };
+    return line(lastLoadPathKey, iniValue(settings.lastLoadPath)) +
+           line(lastSavePathKey, iniValue(settings.lastSavePath)) +
+           line(linkModeKey, QByteArray::number(settings.linkMode)) +
+           line(isEditorFunKey, QByteArray::number(settings.isEditorFun)) +
+           line(noAppendHeaderKey, QByteArray::number(settings.noAppendHeader)) +
+           line(noAppendLengthKey, QByteArray::number(settings.noAppendLength));
+}
+
+QByteArray withLineEnd(const QByteArray &text)
+{
+    return text.isEmpty() || text.endsWith('\n') ? text : text + '\n';
+}
+
+} // namespace
+
+Settings settingsIn(const QByteArray &content)
+{
+    Settings settings;
+    LineWalk walk(content);
+    while (walk.next()) {
+        take(settings, walk.key(), walk.value());
+    }
+    return settings;
+}
+
+QByteArray withSettings(const QByteArray &content, const Settings &settings)
+{
+    QByteArray written;
+    bool isPlaced = false;
+    Settings former;
+    LineWalk walk(content);
+    while (walk.next()) {
+        if (take(former, walk.key(), walk.value())) {
+            continue;
+        }
+        written += walk.line();
+        if (walk.beginsOurGroup() && !isPlaced) {
+            written = withLineEnd(written) + linesOf(settings);
+            isPlaced = true;
+        }
+    }
+    if (isPlaced) {
+        return written;
+    }
+    const QByteArray before = content.isEmpty() ? QByteArray() : withLineEnd(written) + '\n';
+    return before + '[' + groupName + "]\n" + linesOf(settings);
+}
