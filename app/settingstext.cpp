@@ -2,7 +2,10 @@
 
 #include "initext.h"
 
+#include <QVector>
+
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -88,17 +91,49 @@ bool take(Settings &settings, const QByteArray &key, const QByteArray &value)
     return true;
 }
 
-QByteArray linesOf(const Settings &settings)
+/// A key and its value, as a line.
+struct Entry
 {
-    const auto line = [](const QByteArray &key, const QByteArray &value) {
-        return key + '=' + value + '\n';
-    };
-    return line(lastLoadPathKey, iniValue(settings.lastLoadPath)) +
-           line(lastSavePathKey, iniValue(settings.lastSavePath)) +
-           line(linkModeKey, QByteArray::number(settings.linkMode)) +
-           line(isEditorFunKey, QByteArray::number(settings.isEditorFun)) +
-           line(noAppendHeaderKey, QByteArray::number(settings.noAppendHeader)) +
-           line(noAppendLengthKey, QByteArray::number(settings.noAppendLength));
+    QByteArray key;
+    QByteArray value;
+
+    QByteArray line() const { return key + '=' + value + '\n'; }
+};
+
+QVector<Entry> entriesOf(const Settings &settings)
+{
+    return {{lastLoadPathKey, iniValue(settings.lastLoadPath)},
+            {lastSavePathKey, iniValue(settings.lastSavePath)},
+            {linkModeKey, QByteArray::number(settings.linkMode)},
+            {isEditorFunKey, QByteArray::number(settings.isEditorFun)},
+            {noAppendHeaderKey, QByteArray::number(settings.noAppendHeader)},
+            {noAppendLengthKey, QByteArray::number(settings.noAppendLength)}};
+}
+
+/// Takes the entry of that key out of the entries; its line.
+QByteArray takeLine(QVector<Entry> &entries, const QByteArray &key)
+{
+    const auto entry = std::find_if(entries.begin(), entries.end(),
+                                    [&key](const Entry &each) { return each.key == key; });
+    const QByteArray line = entry == entries.end() ? QByteArray() : entry->line();
+    if (entry != entries.end()) {
+        entries.erase(entry);
+    }
+    return line;
+}
+
+/// The lines of the entries that the content has none of.
+QByteArray missingLines(const QByteArray &content, QVector<Entry> entries)
+{
+    LineWalk walk(content);
+    while (walk.next()) {
+        takeLine(entries, walk.key());
+    }
+    QByteArray lines;
+    for (const Entry &entry : std::as_const(entries)) {
+        lines += entry.line();
+    }
+    return lines;
 }
 
 QByteArray withLineEnd(const QByteArray &text)
@@ -120,23 +155,23 @@ Settings settingsIn(const QByteArray &content)
 
 QByteArray withSettings(const QByteArray &content, const Settings &settings)
 {
+    QVector<Entry> entries = entriesOf(settings);
+    const QByteArray missing = missingLines(content, entries);
     QByteArray written;
-    bool isPlaced = false;
+    bool hasOurGroup = false;
     Settings former;
     LineWalk walk(content);
     while (walk.next()) {
-        if (take(former, walk.key(), walk.value())) {
-            continue;
-        }
-        written += walk.line();
-        if (walk.beginsOurGroup() && !isPlaced) {
-            written = withLineEnd(written) + linesOf(settings);
-            isPlaced = true;
+        const bool isOurs = take(former, walk.key(), walk.value());
+        written += isOurs ? takeLine(entries, walk.key()) : walk.line();
+        if (walk.beginsOurGroup() && !hasOurGroup) {
+            written = withLineEnd(written) + missing;
+            hasOurGroup = true;
         }
     }
-    if (isPlaced) {
+    if (hasOurGroup) {
         return written;
     }
     const QByteArray before = content.isEmpty() ? QByteArray() : withLineEnd(written) + '\n';
-    return before + '[' + groupName + "]\n" + linesOf(settings);
+    return before + '[' + groupName + "]\n" + missing;
 }
