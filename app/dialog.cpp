@@ -60,6 +60,7 @@ Dialog::Dialog(QWidget *parent)
     , m_messageCopy(*m_form->tableWidget_Message, m_log, this)
     , m_devices(m_serialLink, m_hidLink, m_log, this)
     , m_files(this, dataFolder(), fileHooks())
+    , m_recovery(dataFolder(), m_list, [this] { return m_commands.rows(); })
     , m_receivedHeader(*m_form->lineEdit_SBytes, this)
     , m_receiver([this] { return m_receivedHeader.startBytes(); }, this)
     , m_sender(m_frameOptions, this)
@@ -77,6 +78,7 @@ Dialog::Dialog(QWidget *parent)
     m_hidLink.readDeviceTypes();
     setLinkMode(linkMode());
     m_form->tabWidget->setCurrentIndex(m_settings.linkMode);
+    offerLeftBehind();
 }
 
 Dialog::~Dialog()
@@ -86,14 +88,38 @@ Dialog::~Dialog()
 
 void Dialog::closeEvent(QCloseEvent *event)
 {
+    m_loop.stop();
     if (m_list.isModified() && askToSaveCommands()) {
         m_files.saveCommands();
     }
+    saveSettings();
+    // While the question was asked, the program may have been told to end.
+    if (!m_isEnding) {
+        m_recovery.discard();
+    }
+    event->accept();
+}
+
+void Dialog::end()
+{
+    m_isEnding = true;
     m_loop.stop();
+    keepForNextStart();
+    m_serialPanel.close();
+    m_hidPanel.close();
+}
+
+void Dialog::keepForNextStart()
+{
+    m_recovery.keep();
+    saveSettings();
+}
+
+void Dialog::saveSettings()
+{
     m_settings.lastLoadPath = m_files.lastLoadFolder();
     m_settings.lastSavePath = m_files.lastSaveFolder();
     m_settingsFile.save(m_settings);
-    event->accept();
 }
 
 void Dialog::wheelEvent(QWheelEvent * /*event*/)
@@ -159,10 +185,33 @@ FileActionHooks Dialog::fileHooks()
     hooks.showMessage = [this](const QString &text) { showMessage(text); };
     hooks.commands = [this] { return m_commands.rows(); };
     hooks.replaceCommands = [this](const auto &rows) { m_commands.replaceRows(rows); };
-    hooks.commandsStored = [this](const QString &path) { m_list.setStored(path); };
+    hooks.commandsStored = [this](const QString &path) {
+        m_list.setStored(path);
+        m_recovery.discard();
+    };
+    hooks.commandsRecovered = [this](const QString &path) { takeRecovered(path); };
+    hooks.beforeOverwriting = [this] { m_recovery.write(); };
     hooks.tell = [this](const QString &text) { m_status.tell(text); };
     hooks.messages = [this] { return m_log.rows(); };
     return hooks;
+}
+
+/// Its file goes, so the list is in none.
+void Dialog::takeRecovered(const QString &path)
+{
+    m_list.setNew();
+    m_list.setModified();
+    m_recovery.takeOver(path);
+    m_status.withdrawOffer();
+}
+
+void Dialog::offerLeftBehind()
+{
+    const QString path = m_recovery.leftBehind();
+    if (!path.isEmpty()) {
+        m_status.offer(tr("A command list was not saved when the program ended."), tr("Load it..."),
+                       [this, path] { m_files.loadCommandsAt(path); });
+    }
 }
 
 void Dialog::setUpTimers()

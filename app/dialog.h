@@ -13,6 +13,7 @@
 #include "messagelog.h"
 #include "receivedheader.h"
 #include "receiver.h"
+#include "recovery.h"
 #include "rowactions.h"
 #include "roweditor.h"
 #include "rowmenus.h"
@@ -40,6 +41,13 @@ class Dialog : public QDialog
 public:
     explicit Dialog(QWidget *parent = nullptr);
     ~Dialog() override;
+
+    /// The program ends without asking: a modified list stays for the next start, the settings are
+    /// saved, the links are closed.
+    void end();
+
+    /// The desktop's session may end: the same, but the window goes on if it doesn't.
+    void keepForNextStart();
 
     /// Escape leaves the window open.
     void reject() override {}
@@ -90,6 +98,9 @@ private:
     void setUpCommands();
     void setUpTips();
     FileActionHooks fileHooks();
+    void takeRecovered(const QString &path);
+    void offerLeftBehind();
+    void saveSettings();
     void setUpTimers();
     void connectLinks();
     void connectSending();
@@ -125,6 +136,8 @@ private:
     MessageCopy m_messageCopy;
     DeviceWatch m_devices;
     FileActions m_files;
+    Recovery m_recovery;
+    bool m_isEnding = false;
     ReceivedHeader m_receivedHeader;
     Receiver m_receiver;
     Sender m_sender;

@@ -1,6 +1,26 @@
 #include "dialog.h"
+#include "endsignals.h"
 
 #include <QApplication>
+
+namespace {
+
+/// Enough to write what is to be kept; then the system ends the program.
+constexpr int patienceSeconds = 10;
+
+/// Whoever ends the program, or the session, can't wait for answers to questions.
+void endWithoutQuestions(const EndSignals &endSignals, Dialog &dialog)
+{
+    QObject::connect(&endSignals, &EndSignals::arrived, &dialog, [&dialog] {
+        dialog.end();
+        QCoreApplication::exit();
+    });
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &dialog,
+                     [&dialog] { dialog.keepForNextStart(); });
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -12,7 +32,9 @@ int main(int argc, char *argv[])
         qputenv("QT_XCB_GL_INTEGRATION", "none");
     }
     const QApplication application(argc, argv);
+    const EndSignals endSignals(patienceSeconds);
     Dialog dialog;
+    endWithoutQuestions(endSignals, dialog);
     dialog.show();
     return QApplication::exec();
 }

@@ -1,6 +1,7 @@
 #include "commandfile.h"
 
 #include "commandline.h"
+#include "recoverytext.h"
 
 namespace {
 
@@ -19,6 +20,9 @@ QByteArray takeLine(const QByteArray &bytes, int &begin)
 
 std::optional<CommandRow> CommandLineReader::read(const QByteArray &line)
 {
+    if (m_isRecovery) {
+        return recoveredRow(line);
+    }
     const QString text = m_decoder.decode(line);
     if (isIgnoredLine(text)) {
         return std::nullopt;
@@ -34,7 +38,8 @@ std::optional<CommandRow> CommandLineReader::read(const QByteArray &line)
 CommandFile readCommandFile(const QByteArray &bytes)
 {
     CommandFile file;
-    CommandLineReader reader;
+    file.isRecovery = isRecoveryText(bytes);
+    CommandLineReader reader(file.isRecovery);
     int begin = 0;
     while (begin < bytes.size() && !file.hasTooManyRows) {
         const std::optional<CommandRow> row = reader.read(takeLine(bytes, begin));

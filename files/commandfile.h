@@ -22,6 +22,11 @@ inline constexpr int longestCommandLine = 256 * 1024;
 class CommandLineReader
 {
 public:
+    /// Whether the lines are those of a recovery file.
+    explicit CommandLineReader(bool isRecovery = false)
+        : m_isRecovery(isRecovery)
+    {}
+
     /// The row of a line, given with or without its line end. Nothing for an empty line, for a
     /// comment and for an invalid line: one with too few or too many fields, or too long.
     std::optional<CommandRow> read(const QByteArray &line);
@@ -29,6 +34,7 @@ public:
     bool sawInvalidLine() const { return m_sawInvalidLine; }
 
 private:
+    bool m_isRecovery;
     LineDecoder m_decoder;
     bool m_sawInvalidLine = false;
 };
@@ -41,6 +47,8 @@ struct CommandFile
     bool hasInvalidLines = false;
     /// There are more than mostCommandRows; reading stopped there.
     bool hasTooManyRows = false;
+    /// It is a recovery file: its rows are all that they were.
+    bool isRecovery = false;
 };
 
 /// Reads the bytes of a command file; any bytes will do.

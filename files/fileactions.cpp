@@ -5,6 +5,7 @@
 #include "filesaver.h"
 #include "lastfolders.h"
 #include "localtext.h"
+#include "recoverytext.h"
 #include "saveloss.h"
 
 #include <QDir>
@@ -20,6 +21,16 @@ QString startFolder(const QString &lastFolder)
     return lastFolder.isEmpty() ? QCoreApplication::applicationDirPath() : lastFolder;
 }
 
+/// Recovery files may be larger than others.
+FileContent readCommandsFile(const QString &path)
+{
+    FileContent content = readFile(path, largestRecoveryFile);
+    if (content.bytes.size() > largestCommandFile && !isRecoveryText(content.bytes)) {
+        content = {FileContent::Outcome::TooLarge, {}};
+    }
+    return content;
+}
+
 } // namespace
 
 FileActions::FileActions(QWidget *window, QString dataFolder, FileActionHooks hooks)
@@ -30,9 +41,13 @@ FileActions::FileActions(QWidget *window, QString dataFolder, FileActionHooks ho
 
 void FileActions::loadCommands()
 {
-    const QString fileName =
-        QFileDialog::getOpenFileName(m_window, tr("Select command txt files"),
-                                     startFolder(m_lastLoadFolder), QStringLiteral("*.txt"));
+    loadCommandsAt(startFolder(m_lastLoadFolder));
+}
+
+void FileActions::loadCommandsAt(const QString &path)
+{
+    const QString fileName = QFileDialog::getOpenFileName(m_window, tr("Select command txt files"),
+                                                          path, QStringLiteral("*.txt"));
     if (fileName.isEmpty() || !loadCommandsFrom(fileName)) {
         return;
     }
@@ -40,10 +55,11 @@ void FileActions::loadCommands()
     recordLoadFolder(m_dataFolder, m_lastLoadFolder);
 }
 
-/// False when the table was left as it is.
+/// Whether its folder is to be remembered: the table was not left as it is, and the file is one of
+/// the user's own.
 bool FileActions::loadCommandsFrom(const QString &fileName)
 {
-    const FileContent content = readFile(fileName, largestCommandFile);
+    const FileContent content = readCommandsFile(fileName);
     if (content.outcome == FileContent::Outcome::Unreadable) {
         m_hooks.showMessage(QStringLiteral("Read fail,please check the path!"));
         return false;
@@ -58,12 +74,21 @@ bool FileActions::loadCommandsFrom(const QString &fileName)
             QStringLiteral("The file has more than %1 commands!").arg(mostCommandRows));
         return false;
     }
-    m_hooks.replaceCommands(file.rows);
-    m_hooks.commandsStored(fileName);
+    takeCommands(file, fileName);
     if (file.hasInvalidLines) {
         m_hooks.showMessage(QStringLiteral("Input Register:Invalid format!"));
     }
-    return true;
+    return !file.isRecovery;
+}
+
+void FileActions::takeCommands(const CommandFile &file, const QString &fileName)
+{
+    m_hooks.replaceCommands(file.rows);
+    if (file.isRecovery) {
+        m_hooks.commandsRecovered(fileName);
+    } else {
+        m_hooks.commandsStored(fileName);
+    }
 }
 
 void FileActions::saveCommands()
@@ -75,7 +100,7 @@ void FileActions::saveCommands()
         return;
     }
     const QVector<CommandRow> rows = m_hooks.commands();
-    if (!save(fileName, commandFileText(rows))) {
+    if (!save(fileName, commandFileText(rows), m_hooks.beforeOverwriting)) {
         return;
     }
     m_hooks.commandsStored(fileName);
@@ -103,9 +128,10 @@ void FileActions::saveMessages()
     m_lastSaveFolder = folderOf(fileName);
 }
 
-bool FileActions::save(const QString &fileName, const QString &text)
+bool FileActions::save(const QString &fileName, const QString &text,
+                       const std::function<void()> &beforeOverwriting)
 {
-    const bool saved = saveFile(fileName, toLocalText(text));
+    const bool saved = saveFile(fileName, toLocalText(text), beforeOverwriting);
     if (!saved) {
         m_hooks.showMessage(QStringLiteral("Save the file failed"));
     }

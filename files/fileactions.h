@@ -9,6 +9,7 @@
 #include <functional>
 
 class QWidget;
+struct CommandFile;
 
 /// What the file actions need of the window around them.
 struct FileActionHooks
@@ -19,6 +20,10 @@ struct FileActionHooks
     std::function<void(const QVector<CommandRow> &)> replaceCommands;
     /// The commands are now as they are in the file.
     std::function<void(const QString &path)> commandsStored;
+    /// The commands are now those of a recovery file, which are in no other one.
+    std::function<void(const QString &path)> commandsRecovered;
+    /// The commands' file is about to be overwritten: what is in it may be lost on the way.
+    std::function<void()> beforeOverwriting;
     /// What the user is told without being stopped.
     std::function<void(const QString &)> tell;
     std::function<QVector<MessageRow>()> messages;
@@ -35,6 +40,8 @@ public:
     FileActions(QWidget *window, QString dataFolder, FileActionHooks hooks);
 
     void loadCommands();
+    /// The same, with the dialog open at a file.
+    void loadCommandsAt(const QString &path);
     void saveCommands();
     void saveMessages();
 
@@ -47,7 +54,9 @@ public:
 
 private:
     bool loadCommandsFrom(const QString &fileName);
-    bool save(const QString &fileName, const QString &text);
+    void takeCommands(const CommandFile &file, const QString &fileName);
+    bool save(const QString &fileName, const QString &text,
+              const std::function<void()> &beforeOverwriting = {});
 
     QWidget *m_window;
     QString m_dataFolder;

@@ -22,6 +22,9 @@ bool reserveRoom(const QFile &file, qint64 bytes);
 /// Waits until what was written to the open file is safe from a power cut; false if that fails.
 bool syncToDisk(const QFile &file);
 
+/// Gives a file the name of another one, which it replaces at once; false if that fails.
+bool moveOver(const QString &from, const QString &to);
+
 /// Gives an open file of ours to the user and the group that the file `model` belongs to. True if
 /// it belongs to them afterwards; so it does where files have no such owners.
 bool giveToOwnerOf(const QString &model, const QFileDevice &file);

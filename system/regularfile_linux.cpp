@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -35,6 +36,11 @@ bool reserveRoom(const QFile &file, qint64 bytes)
 bool syncToDisk(const QFile &file)
 {
     return fsync(file.handle()) == 0;
+}
+
+bool moveOver(const QString &from, const QString &to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
 bool giveToOwnerOf(const QString &model, const QFileDevice &file)

@@ -1,9 +1,11 @@
 #include "regularfile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <io.h>
+#include <windows.h>
 
 bool openRegularFile(QFile &file, const QString &path, QIODevice::OpenMode mode)
 {
@@ -19,6 +21,13 @@ bool reserveRoom(const QFile & /*file*/, qint64 /*bytes*/)
 bool syncToDisk(const QFile &file)
 {
     return _commit(file.handle()) == 0;
+}
+
+bool moveOver(const QString &from, const QString &to)
+{
+    const std::wstring source = QDir::toNativeSeparators(from).toStdWString();
+    const std::wstring target = QDir::toNativeSeparators(to).toStdWString();
+    return MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE;
 }
 
 bool giveToOwnerOf(const QString & /*model*/, const QFileDevice & /*file*/)

@@ -26,6 +26,8 @@ FileActionHooks FileDesk::hooks()
         events.append(QStringLiteral("%1 rows").arg(loaded.size()));
     };
     hooks.commandsStored = [this](const QString &path) { events.append("stored: " + path); };
+    hooks.commandsRecovered = [this](const QString &path) { events.append("recovered: " + path); };
+    hooks.beforeOverwriting = [this] { events.append(QStringLiteral("about to be overwritten")); };
     hooks.tell = [this](const QString &text) { events.append("told: " + text); };
     hooks.messages = [this] { return messages; };
     return hooks;
