@@ -6,6 +6,7 @@
 #include "commandcolumns.h"
 #include "datadelegate.h"
 #include "hextext.h"
+#include "markedrowdelegate.h"
 #include "tableitems.h"
 #include "tablelook.h"
 
@@ -222,6 +223,7 @@ void CommandTable::installDelegates()
     addrDelegate->installEventFilter(addrDelegate);
     dataDelegate->installEventFilter(dataDelegate);
     auto *cellWidgetDelegate = new CellWidgetDelegate(this);
+    m_table.setItemDelegate(new MarkedRowDelegate(this));
     m_table.setItemDelegateForColumn(Column::Select, cellWidgetDelegate);
     m_table.setItemDelegateForColumn(Column::Send, cellWidgetDelegate);
     m_table.setItemDelegateForColumn(Column::Addr, addrDelegate);

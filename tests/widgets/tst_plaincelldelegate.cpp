@@ -1,7 +1,9 @@
 #include "logitem.h"
+#include "markedrowdelegate.h"
 #include "plaincelldelegate.h"
 #include "tablelook.h"
 
+#include <QSet>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -14,12 +16,32 @@ class TestPlainCellDelegate : public QObject
 private slots:
     void cellsLookAsTheStyleSheetHasThem_data();
     void cellsLookAsTheStyleSheetHasThem();
+    void aSelectedRowIsMarkedInItsFirstCell_data();
+    void aSelectedRowIsMarkedInItsFirstCell();
+    void aColouredTextKeepsItsColourWhenSelected();
 };
 
 namespace {
 
 constexpr int columns = 2;
 constexpr int rows = 3;
+constexpr int barWidth = 4;
+const QColor barColour(0x00, 0x6F, 0xCF);
+const QColor received(0, 130, 255);
+
+void fill(QTableWidget &table, const QString &text, LogItem::Colour colour, Qt::Alignment alignment,
+          int width)
+{
+    styleTable(table, columns, rows);
+    for (int column = 0; column < columns; ++column) {
+        table.setColumnWidth(column, width);
+        for (int row = 0; row < rows; ++row) {
+            table.setItem(row, column, new LogItem(text, alignment, colour));
+        }
+    }
+    table.resize(columns * width + 20, 180);
+    table.show();
+}
 
 QImage picture(QTableWidget &table, qreal ratio)
 {
@@ -75,21 +97,69 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem()
     QFETCH(qreal, ratio);
 
     QTableWidget table;
-    styleTable(table, columns, rows);
-    for (int column = 0; column < columns; ++column) {
-        table.setColumnWidth(column, width);
-        for (int row = 0; row < rows; ++row) {
-            table.setItem(row, column, new LogItem(text, Qt::Alignment(alignment), colour));
-        }
+    fill(table, text, colour, Qt::Alignment(alignment), width);
+    // A selected text with a colour of its own is another matter.
+    if (colour == LogItem::Colour::Plain) {
+        table.selectRow(1);
+        table.setCurrentCell(1, 1, QItemSelectionModel::NoUpdate);
     }
-    table.resize(columns * width + 20, 180);
-    table.show();
-    table.selectRow(1);
 
     const QImage byStyle = picture(table, ratio);
     PlainCellDelegate delegate;
     table.setItemDelegate(&delegate);
-    QCOMPARE(picture(table, ratio), byStyle);
+    const QImage ours = picture(table, ratio);
+    const QRect unmarked = ours.rect().adjusted(int(barWidth * ratio), 0, 0, 0);
+    QCOMPARE(ours.copy(unmarked), byStyle.copy(unmarked));
+}
+
+void TestPlainCellDelegate::aSelectedRowIsMarkedInItsFirstCell_data()
+{
+    QTest::addColumn<bool>("plain");
+
+    QTest::newRow("plain cells") << true;
+    QTest::newRow("cells of the style") << false;
+}
+
+void TestPlainCellDelegate::aSelectedRowIsMarkedInItsFirstCell()
+{
+    QFETCH(bool, plain);
+    QTableWidget table;
+    fill(table, "01", LogItem::Colour::Plain, Qt::AlignCenter, 60);
+    PlainCellDelegate plainDelegate;
+    MarkedRowDelegate markedDelegate;
+    table.setItemDelegate(plain ? static_cast<QAbstractItemDelegate *>(&plainDelegate)
+                                : &markedDelegate);
+    table.selectRow(1);
+    const QImage look = picture(table, 1);
+    for (int row = 0; row < rows; ++row) {
+        const QRect cell = table.visualRect(table.model()->index(row, 0));
+        const QRect bar(cell.topLeft(), QSize(barWidth, cell.height()));
+        QImage expected(bar.size(), look.format());
+        expected.fill(barColour);
+        QCOMPARE(look.copy(bar) == expected, row == 1);
+        const QRect second = table.visualRect(table.model()->index(row, 1));
+        QVERIFY(look.pixelColor(second.left() + 1, second.center().y()) != barColour);
+    }
+}
+
+void TestPlainCellDelegate::aColouredTextKeepsItsColourWhenSelected()
+{
+    QTableWidget table;
+    fill(table, "8888", LogItem::Colour::Received, Qt::AlignCenter, 60);
+    PlainCellDelegate delegate;
+    table.setItemDelegate(&delegate);
+    QFont solid = table.font();
+    solid.setStyleStrategy(QFont::NoAntialias);
+    table.setFont(solid);
+    table.selectRow(1);
+    const QImage look = picture(table, 1).copy(table.visualRect(table.model()->index(1, 1)));
+    QSet<QRgb> colours;
+    for (int y = 4; y < look.height() - 4; ++y) {
+        for (int x = 4; x < look.width() - 4; ++x) {
+            colours.insert(look.pixel(x, y));
+        }
+    }
+    QCOMPARE(colours, QSet<QRgb>({received.rgb(), QColor(0xF5, 0xF5, 0xF5).rgb()}));
 }
 
 QTEST_MAIN(TestPlainCellDelegate)
