@@ -22,9 +22,9 @@ void RowEditor::open(int row)
     m_editor.editType = content.dataType;
     m_editor.loadFromMembers();
     m_editor.setModal(true);
-    m_editor.show();
-    // Only a shown editor has its size.
+    // A window that has just been shown, but not yet framed, is moved without its frame.
     placeBesideRow(m_editor, m_table, m_table.model()->index(row, CommandColumn::Cmd));
+    m_editor.show();
 }
 
 void RowEditor::takeBack(int row)

@@ -27,12 +27,33 @@ constexpr auto editorStyle =
     "QCheckBox::indicator:checked:hover{image:url(:/Image/Checkbox_check_hover.png);}"
     "QLabel{color: #313c61;}";
 
+/// The dialog's own style sheet gives every box one edge, with the focus or without it, and would
+/// win over any rule from further out.
+constexpr auto focusStyle =
+    "QLineEdit:focus,QComboBox:focus,QPushButton:focus{border: 2px solid #006fcf;}";
+
+void showFocus(const QDialog &dialog)
+{
+    for (QWidget *widget : dialog.findChildren<QWidget *>()) {
+        if (widget->focusPolicy() & Qt::TabFocus) {
+            widget->setStyleSheet(QLatin1String(focusStyle));
+        }
+    }
+}
+
 /// A field that cannot be edited is still read: its text must not fade into the background.
 void keepReadable(QLineEdit *field)
 {
     QPalette palette = field->palette();
     palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x66, 0x66, 0x66));
     field->setPalette(palette);
+}
+
+/// What a line edit needs besides the width of its text: its size hint is seventeen "x" and that.
+int widthAroundText(const QLineEdit *field)
+{
+    return field->sizeHint().width() -
+           17 * field->fontMetrics().horizontalAdvance(QLatin1Char('x'));
 }
 
 /// The width of a line edit that shows this many pairs of hex digits whole, whichever they are.
@@ -45,9 +66,16 @@ int widthForPairs(const QLineEdit *field, int pairs)
     }
     const int textWidth =
         2 * pairs * digitWidth + (pairs - 1) * metrics.horizontalAdvance(QLatin1Char(' '));
-    // A line edit's size hint is seventeen "x" and what stands around a text.
-    const int hinted = 17 * metrics.horizontalAdvance(QLatin1Char('x'));
-    return textWidth + field->sizeHint().width() - hinted;
+    return textWidth + widthAroundText(field);
+}
+
+/// A text that is too long for its field is shown from its beginning.
+void goToBeginningOfLong(QLineEdit *field)
+{
+    const int textWidth = field->fontMetrics().horizontalAdvance(field->text());
+    if (textWidth + widthAroundText(field) > field->width()) {
+        field->setCursorPosition(0);
+    }
 }
 
 } // namespace
@@ -60,6 +88,7 @@ DirectEditor::DirectEditor(QWidget *parent)
     m_ui->comboBox_dataType->setCurrentIndex(shortTypeIndex);
     setWindowTitle(tr("edit"));
     setStyleSheet(QLatin1String(editorStyle));
+    showFocus(*this);
     keepReadable(m_ui->lineEdit_Data);
     resize(qMin(widthForValues(), screen()->availableGeometry().width()), height());
 }
@@ -121,8 +150,13 @@ void DirectEditor::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
     if (!event->spontaneous()) {
-        m_ui->lineEdit_Od->setFocus();
-        m_ui->lineEdit_Od->selectAll();
+        // Only now the fields have their widths.
+        goToBeginningOfLong(m_ui->lineEdit_Addr);
+        goToBeginningOfLong(m_ui->lineEdit_originalData);
+        QLineEdit &first = *m_ui->lineEdit_Od;
+        first.setFocus();
+        // From its end, so that its beginning is in view.
+        first.setSelection(first.text().size(), -first.text().size());
     }
 }
 
@@ -137,6 +171,9 @@ void DirectEditor::showValueOfHex()
     m_ui->lineEdit_originalData->setText(isString
                                              ? withoutTerminator(decodeString(hex, encoding()))
                                              : decodeNumbers(hex, static_cast<NumberKind>(type)));
+    if (isVisible()) {
+        goToBeginningOfLong(m_ui->lineEdit_originalData);
+    }
 }
 
 void DirectEditor::selectType(const QString &rowType)

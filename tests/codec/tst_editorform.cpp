@@ -22,6 +22,8 @@ private slots:
 
     void theFirstFieldHasTheFocus();
     void tabGoesFromFieldToFieldAndRound();
+    void theFocusIsSeen_data();
+    void theFocusIsSeen();
 };
 
 namespace {
@@ -212,6 +214,32 @@ void TestEditorForm::tabGoesFromFieldToFieldAndRound()
     QCOMPARE(names, QStringList({"lineEdit_Od", "lineEdit_Addr", "comboBox_dataType",
                                  "comboBox_encode", "lineEdit_originalData", "pushButton_ok",
                                  "pushButton_cancel", "lineEdit_Od"}));
+}
+
+void TestEditorForm::theFocusIsSeen_data()
+{
+    QTest::addColumn<int>("unused");
+
+    for (const char *name : {"lineEdit_Od", "lineEdit_Addr", "comboBox_dataType", "comboBox_encode",
+                             "lineEdit_originalData", "pushButton_ok", "pushButton_cancel"}) {
+        QTest::newRow(name) << 0;
+    }
+}
+
+void TestEditorForm::theFocusIsSeen()
+{
+    EditorDriver driver;
+    driver.load("41420000", "GBK");
+    driver.show();
+    auto *widget = driver.find<QWidget>(QTest::currentDataTag());
+    const auto edge = [&] { return widget->grab().toImage().pixelColor(widget->width() / 2, 0); };
+    const QColor ring(0x00, 0x6F, 0xCF);
+    widget->clearFocus();
+    QTRY_VERIFY(!widget->hasFocus());
+    QVERIFY(edge() != ring);
+    widget->setFocus();
+    QTRY_VERIFY(widget->hasFocus());
+    QCOMPARE(edge(), ring);
 }
 
 QTEST_MAIN(TestEditorForm)

@@ -12,6 +12,7 @@ private slots:
     void loadedRowsAreShownInTheirType();
     void loadedHexIsGroupedFromTheRight();
     void anotherLoadOverwritesTheFirst();
+    void longTextsOpenAtTheirBeginning();
     void unreadableHexIsKeptUntilEdited();
 
     void enterIsOk_data();
@@ -95,6 +96,28 @@ void TestEditorRow::anotherLoadOverwritesTheFirst()
     QCOMPARE(driver.value()->text(), QString("1"));
     driver.load("0002", "");
     QCOMPARE(driver.value()->text(), QString("2"));
+}
+
+void TestEditorRow::longTextsOpenAtTheirBeginning()
+{
+    EditorDriver driver;
+    driver.load(QString("30390001").repeated(200), "ushort");
+    driver.command()->setText(QString("01 02 ").repeated(10));
+    driver.address()->setText(QString("0A10").repeated(10));
+    driver.show();
+    for (const QLineEdit *field :
+         {driver.command(), driver.address(), driver.value(), driver.hex()}) {
+        QCOMPARE(field->cursorPosition(), 0);
+    }
+    QCOMPARE(driver.command()->selectedText(), driver.command()->text());
+    driver.chooseType("uint");
+    QCOMPARE(driver.value()->cursorPosition(), 0);
+    driver.editor().close();
+
+    // What is seen whole is gone on with.
+    driver.load("3039", "ushort");
+    driver.show();
+    QCOMPARE(driver.value()->cursorPosition(), 5);
 }
 
 void TestEditorRow::unreadableHexIsKeptUntilEdited()
