@@ -1,15 +1,18 @@
 #include "hidpanel.h"
 
+#include "datafolder.h"
 #include "hidlink.h"
 #include "openlist.h"
 #include "styles.h"
 #include "ui_dialog.h"
 
+#include <QDir>
 #include <QStandardItemModel>
 
 namespace {
 
 constexpr int hexBase = 16;
+const QString typesFile = QStringLiteral("hidDeviceID.ini");
 
 /// The paths, each with itself as tool tip, so that a long one can be read in full.
 QStandardItemModel *modelOf(const QStringList &paths, QObject *owner)
@@ -31,6 +34,9 @@ HidPanel::HidPanel(Ui::Dialog &form, HidLink &link, QObject *parent)
     , m_link(link)
 {
     showIdle(*m_form.pushButton_ConnectHID, tr("Open HID Device"));
+    // Whether there is a device is not known before the first look.
+    m_form.label_Hid_Hint->hide();
+    m_form.label_Hid_Hint->setToolTip(QDir::toNativeSeparators(dataFile(typesFile)));
 }
 
 void HidPanel::refreshDevices()
@@ -43,6 +49,8 @@ void HidPanel::refreshDevices()
     if (chosen >= 0) {
         box.setCurrentIndex(chosen);
     }
+    box.setPlaceholderText(tr("No device, see %1").arg(typesFile));
+    m_form.label_Hid_Hint->setVisible(paths.isEmpty());
     adjustOpenList(box);
 }
 

@@ -10,6 +10,9 @@ void PathComboBox::paintEvent(QPaintEvent * /*event*/)
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     const QRect room =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    if (currentIndex() < 0) {
+        option.currentText = placeholderText();
+    }
     option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideLeft, room.width());
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

@@ -2,6 +2,7 @@
 #include "hidbench.h"
 #include "hidwindow.h"
 
+#include <QLabel>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -14,6 +15,7 @@ private slots:
     void init();
     void devicesAreListedByTheirPaths();
     void theChosenDeviceStaysChosen();
+    void withoutADeviceTheTabSaysWhatIsMissing();
     void openingShowsTheLink();
     void aDeviceThatCantBeOpened();
     void closedDeviceIsTold();
@@ -89,6 +91,23 @@ void TestHid::theChosenDeviceStaysChosen()
     window.combo("comboBox_Hid_Device")->setCurrentIndex(1);
     window.call("Timer1_Out_Event");
     QCOMPARE(window.combo("comboBox_Hid_Device")->currentText(), QString(smallDevice));
+}
+
+void TestHid::withoutADeviceTheTabSaysWhatIsMissing()
+{
+    FakeHid::instance().reset();
+    HidWindow window;
+    const QComboBox *devices = window.combo("comboBox_Hid_Device");
+    const auto *hint = window.find<QLabel>("label_Hid_Hint");
+    QCOMPARE(devices->currentText(), QString());
+    QVERIFY(devices->placeholderText().contains("hidDeviceID.ini"));
+    QVERIFY(hint->isVisible());
+    QVERIFY(hint->text().contains("hidDeviceID.ini"));
+    QVERIFY(hint->text().contains("\"Uart\""));
+    FakeHid::instance().addDevice(smallDevice, 0xEEEF, 0x1616);
+    window.call("Timer1_Out_Event");
+    QCOMPARE(devices->currentText(), QString(smallDevice));
+    QVERIFY(!hint->isVisible());
 }
 
 void TestHid::openingShowsTheLink()
