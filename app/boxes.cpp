@@ -1,11 +1,16 @@
 #include "boxes.h"
 
+#include "styles.h"
+
 #include <QCoreApplication>
 #include <QMessageBox>
 
 void showOpenFail(const QString &linkName)
 {
-    QMessageBox::information(nullptr, linkName, QStringLiteral("Open fail"), QMessageBox::Ok);
+    QMessageBox box(QMessageBox::Information, linkName, QStringLiteral("Open fail"),
+                    QMessageBox::Ok);
+    box.setStyleSheet(windowStyle());
+    box.exec();
 }
 
 bool askToSaveCommands()
@@ -13,5 +18,6 @@ bool askToSaveCommands()
     QMessageBox question(QMessageBox::Question, QCoreApplication::translate("Dialog", "Message"),
                          QStringLiteral("Do you want to save your command?"),
                          QMessageBox::Yes | QMessageBox::No);
+    question.setStyleSheet(windowStyle());
     return question.exec() == QMessageBox::Yes;
 }

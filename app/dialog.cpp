@@ -4,6 +4,7 @@
 #include "datafolder.h"
 #include "fieldcutter.h"
 #include "headernotice.h"
+#include "lightlook.h"
 #include "styles.h"
 #include "ui_dialog.h"
 #include "version.h"
@@ -32,6 +33,7 @@ static void initImages()
 static std::unique_ptr<Ui::Dialog> makeForm(QDialog *dialog)
 {
     initImages();
+    new LightLook(*dialog);
     auto form = std::make_unique<Ui::Dialog>();
     form->setupUi(dialog);
     // Before anything measures a text.
@@ -144,7 +146,6 @@ void Dialog::setUpWindow()
 {
     setWindowTitle(QLatin1String(windowTitleText));
     setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
-    setWindowIcon(QIcon(QStringLiteral(":/Image/tarnwick.png")));
     m_form->splitter->setStretchFactor(0, commandStretch);
     m_form->splitter->setStretchFactor(1, messageStretch);
 }

@@ -29,8 +29,9 @@ bool MenuUser::eventFilter(QObject *object, QEvent *event)
     return false;
 }
 
-void MenuUser::use(QMenu *menu) const
+void MenuUser::use(QMenu *menu)
 {
+    emit shown(menu);
     for (QAction *action : menu->actions()) {
         if (action->text() == m_entry) {
             QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());

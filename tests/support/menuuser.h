@@ -24,8 +24,12 @@ public:
 
     bool eventFilter(QObject *object, QEvent *event) override;
 
+signals:
+    /// A menu is up and not yet used.
+    void shown(QMenu *menu);
+
 private:
-    void use(QMenu *menu) const;
+    void use(QMenu *menu);
 
     QString m_entry;
     int m_menuCount = 0;
