@@ -5,6 +5,7 @@
 #include "fieldcutter.h"
 #include "headernotice.h"
 #include "lightlook.h"
+#include "scrollablewindow.h"
 #include "styles.h"
 #include "ui_dialog.h"
 #include "version.h"
@@ -36,6 +37,7 @@ static std::unique_ptr<Ui::Dialog> makeForm(QDialog *dialog)
     new LightLook(*dialog);
     auto form = std::make_unique<Ui::Dialog>();
     form->setupUi(dialog);
+    makeScrollable(*dialog);
     // Before anything measures a text.
     dialog->setStyleSheet(windowStyle());
     return form;
@@ -44,6 +46,7 @@ static std::unique_ptr<Ui::Dialog> makeForm(QDialog *dialog)
 Dialog::Dialog(QWidget *parent)
     : QDialog(parent)
     , m_form(makeForm(this))
+    , m_memory(*this, *m_form->splitter, dataFile(QStringLiteral("window.ini")), this)
     , m_settingsFile(dataFile(QStringLiteral("debuggerConfig.ini")))
     , m_settings(m_settingsFile.load())
     , m_maximumInstructionLength(longestInstruction)
@@ -122,6 +125,7 @@ void Dialog::saveSettings()
     m_settings.lastLoadPath = m_files.lastLoadFolder();
     m_settings.lastSavePath = m_files.lastSaveFolder();
     m_settingsFile.save(m_settings);
+    m_memory.save();
 }
 
 void Dialog::wheelEvent(QWheelEvent * /*event*/)
@@ -148,6 +152,7 @@ void Dialog::setUpWindow()
     setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     m_form->splitter->setStretchFactor(0, commandStretch);
     m_form->splitter->setStretchFactor(1, messageStretch);
+    m_memory.restore();
 }
 
 void Dialog::setUpCommands()

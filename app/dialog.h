@@ -22,6 +22,7 @@
 #include "serialpanel.h"
 #include "settings.h"
 #include "statusline.h"
+#include "windowmemory.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -116,6 +117,7 @@ private:
     void logNotice(const QString &hexText);
 
     std::unique_ptr<Ui::Dialog> m_form;
+    WindowMemory m_memory;
     SettingsFile m_settingsFile;
     Settings m_settings;
     int m_maximumInstructionLength;

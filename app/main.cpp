@@ -26,6 +26,9 @@ int main(int argc, char *argv[])
 {
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // A screen that asks for one and a half gets that, not twice the size.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     // Nothing here is drawn with OpenGL; looking for it would load a driver larger than the
     // program.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION")) {

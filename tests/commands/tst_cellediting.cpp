@@ -365,6 +365,7 @@ void TestCellEditing::theTipShowsTheFifthColumn()
 {
     QFETCH(QString, table);
     auto *widget = m_window->find<QTableWidget>(qPrintable(table));
+    m_window->window().resize(1120, 760);
     QToolTip::hideText();
     QTRY_VERIFY(!QToolTip::isVisible());
     {

@@ -133,6 +133,7 @@ void TestWindowLook::picturesStandOutUnderTheMouse()
 {
     WindowDriver window;
     QPushButton *button = window.button(QTest::currentDataTag());
+    window.window().resize(1120, 760);
     window.window().show();
     // A button is entered from somewhere.
     for (const QPoint place : {QPoint(-9, -9), button->rect().center()}) {

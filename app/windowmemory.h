@@ -1,0 +1,35 @@
+#pragma once
+
+#include "windowplace.h"
+
+#include <QObject>
+#include <QString>
+
+class QSplitter;
+class QWidget;
+
+/// Remembers from run to run where the window stood and how its splitter divided it, in a file of
+/// its own. A file that can't be read or written is no error: the window then begins as a new one.
+class WindowMemory : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Window and splitter must outlive the memory.
+    WindowMemory(QWidget &window, QSplitter &splitter, QString path, QObject *parent = nullptr);
+
+    /// Gives the window its place of the last run, brought onto the screens of today, or a first
+    /// size that fits them. To be called before the window is shown.
+    void restore();
+
+    /// Writes down how the window stands.
+    void save();
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    QWidget &m_window;
+    QSplitter &m_splitter;
+    QString m_path;
+    WindowPlace m_place;
+};

@@ -1,0 +1,129 @@
+#include "windowplace.h"
+
+#include <QHash>
+#include <QRegion>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int farthest = 32767;
+constexpr int splitterAreas = 2;
+const QByteArray group = "[window]";
+
+/// A title bar, and the borders at both sides, as wide as desktops make them.
+constexpr QSize frameRoom(16, 40);
+
+using Entries = QHash<QByteArray, QByteArray>;
+
+Entries entriesOf(const QByteArray &text)
+{
+    Entries entries;
+    bool inGroup = false;
+    for (const QByteArray &untrimmed : text.split('\n')) {
+        const QByteArray line = untrimmed.trimmed();
+        const int sign = line.indexOf('=');
+        if (line.startsWith('[')) {
+            inGroup = line == group;
+        } else if (inGroup && sign > 0) {
+            entries.insert(line.left(sign), line.mid(sign + 1));
+        }
+    }
+    return entries;
+}
+
+std::optional<int> numberIn(const QByteArray &text, int least)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (!isNumber || number < least || number > farthest) {
+        return std::nullopt;
+    }
+    return number;
+}
+
+QRect insideOf(const Entries &entries)
+{
+    const auto x = numberIn(entries.value("x"), -farthest);
+    const auto y = numberIn(entries.value("y"), -farthest);
+    const auto width = numberIn(entries.value("width"), 1);
+    const auto height = numberIn(entries.value("height"), 1);
+    return x && y && width && height ? QRect(*x, *y, *width, *height) : QRect();
+}
+
+QList<int> splitterOf(const Entries &entries)
+{
+    QList<int> areas;
+    for (const QByteArray &text : entries.value("splitter").split(',')) {
+        if (const auto area = numberIn(text, 1)) {
+            areas.append(*area);
+        }
+    }
+    return areas.size() == splitterAreas ? areas : QList<int>();
+}
+
+QByteArray entry(const QByteArray &key, int value)
+{
+    return key + '=' + QByteArray::number(value) + '\n';
+}
+
+int areaOf(const QRect &rect)
+{
+    return rect.width() * rect.height();
+}
+
+QRect movedInto(const QRect &screen, const QRect &place)
+{
+    QRect moved(place.topLeft(), place.size().boundedTo(screen.size()));
+    moved.moveRight(std::min(moved.right(), screen.right()));
+    moved.moveBottom(std::min(moved.bottom(), screen.bottom()));
+    moved.moveLeft(std::max(moved.left(), screen.left()));
+    moved.moveTop(std::max(moved.top(), screen.top()));
+    return moved;
+}
+
+} // namespace
+
+WindowPlace parseWindowPlace(const QByteArray &text)
+{
+    const Entries entries = entriesOf(text);
+    WindowPlace place;
+    place.inside = insideOf(entries);
+    place.maximized = entries.value("maximized") == "1";
+    place.splitter = splitterOf(entries);
+    return place;
+}
+
+QByteArray formatWindowPlace(const WindowPlace &place)
+{
+    QByteArray text = group + '\n';
+    if (place.inside.isValid()) {
+        text += entry("x", place.inside.x()) + entry("y", place.inside.y()) +
+                entry("width", place.inside.width()) + entry("height", place.inside.height());
+    }
+    text += entry("maximized", place.maximized ? 1 : 0);
+    if (place.splitter.size() == splitterAreas) {
+        text += "splitter=" + QByteArray::number(place.splitter.at(0)) + ',' +
+                QByteArray::number(place.splitter.at(1)) + '\n';
+    }
+    return text;
+}
+
+QSize firstWindowSize(QSize preferred, QSize screen)
+{
+    return preferred.boundedTo(screen - frameRoom);
+}
+
+QRect broughtOntoScreens(const QRect &place, const QVector<QRect> &screens)
+{
+    QRegion covered;
+    QRect best = screens.value(0);
+    for (const QRect &screen : screens) {
+        covered += screen;
+        if (areaOf(screen & place) > areaOf(best & place)) {
+            best = screen;
+        }
+    }
+    const bool showsAll = (QRegion(place) - covered).isEmpty();
+    return showsAll || best.isNull() ? place : movedInto(best, place);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QRect>
+#include <QVector>
+
+#include <optional>
+
+/// Where a window stands and how its room is divided, in pixels that are scaled as the screen asks.
+struct WindowPlace
+{
+    /// The inside of the window, without its frame, while it is not maximised; null where it is not
+    /// known.
+    QRect inside;
+    bool maximized = false;
+    /// The heights of the splitter's two areas; empty where they are not known.
+    QList<int> splitter;
+};
+
+/// Reads what formatWindowPlace() wrote. What is missing or makes no sense stays unknown.
+WindowPlace parseWindowPlace(const QByteArray &text);
+
+/// The place as an INI file with one group, "window".
+QByteArray formatWindowPlace(const WindowPlace &place);
+
+/// The size to begin with: the preferred one, or as much of it as a screen has room for beside the
+/// frame that the desktop will draw.
+QSize firstWindowSize(QSize preferred, QSize screen);
+
+/// The place itself where the screens show it whole, otherwise moved, and if need be made smaller,
+/// into the screen that shows most of it, or into the first one. A place without any screen stays.
+QRect broughtOntoScreens(const QRect &place, const QVector<QRect> &screens);
