@@ -49,19 +49,23 @@ QString unlessPlaceholder(const QString &text, QLatin1String placeholder)
     return text == placeholder ? QString() : text;
 }
 
-/// The pause stands where other rows have their address; what follows it is not part of it. It
-/// is not filled with blanks, so that a saved "500" is still "500" when it comes back.
+QString addressPart(const QString &frame)
+{
+    return frame.mid(cmdWidth, addressWidth).leftJustified(addressWidth);
+}
+
+/// The pause stands where other rows have their address; what follows it is not part of it.
 void fillDelayRow(CommandRow &row, const QString &frame)
 {
     row.cmd = delayMarker;
-    row.data = frame.mid(cmdWidth, addressWidth);
+    row.data = addressPart(frame);
 }
 
 /// CMD and address have fixed widths: a frame that is too short leaves blanks in their cells.
 void fillCommandRow(CommandRow &row, const QString &frame)
 {
     const QString cmd = frame.left(cmdWidth).leftJustified(cmdWidth);
-    const QString address = frame.mid(cmdWidth, addressWidth).leftJustified(addressWidth);
+    const QString address = addressPart(frame);
     row.cmd = unlessPlaceholder(cmd, emptyCmd);
     row.addr = unlessPlaceholder(address, emptyAddress);
     row.data = groupPairsFromRight(frame.mid(cmdWidth + addressWidth));
@@ -72,6 +76,21 @@ QString addressField(const CommandRow &row)
 {
     const bool mayStayEmpty = row.cmd == delayMarker;
     return row.addr.isEmpty() && !mayStayEmpty ? QString(emptyAddress) : row.addr;
+}
+
+/// A pause that loading has filled up with blanks goes back as it came, "++500".
+bool isFilledUpDelay(const CommandRow &row)
+{
+    return row.cmd == delayMarker && row.addr.isEmpty() && row.data.endsWith(QLatin1Char(' '));
+}
+
+QString frameField(const CommandRow &row)
+{
+    if (isFilledUpDelay(row)) {
+        return row.cmd + row.data.trimmed();
+    }
+    const QString cmd = row.cmd.isEmpty() ? QString(emptyCmd) : row.cmd;
+    return cmd + QLatin1Char(' ') + addressField(row) + QLatin1Char(' ') + row.data;
 }
 
 bool isLineOfEmptyRow(const QString &line)
@@ -107,8 +126,7 @@ std::optional<CommandRow> parseCommandLine(const QString &line)
 QString commandLine(const CommandRow &row)
 {
     const QString selection = row.selected ? selectedWord : unselectedWord;
-    const QString cmd = row.cmd.isEmpty() ? QString(emptyCmd) : row.cmd;
-    const QString line = row.description + QLatin1Char(',') + selection + QLatin1Char(',') + cmd +
-                         QLatin1Char(' ') + addressField(row) + QLatin1Char(' ') + row.data;
+    const QString line =
+        row.description + QLatin1Char(',') + selection + QLatin1Char(',') + frameField(row);
     return isLineOfEmptyRow(line) ? QString() : line;
 }

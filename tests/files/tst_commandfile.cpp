@@ -104,7 +104,8 @@ private:
         CommandRow row = delayRow();
         row.description = description();
         row.selected = below(2) == 0;
-        row.data = QString::number(below(10'000));
+        // As loading fills it up.
+        row.data = QString::number(below(10'000)).leftJustified(4);
         return row;
     }
 

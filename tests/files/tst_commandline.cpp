@@ -1,4 +1,5 @@
 #include "commandline.h"
+#include "delaymarker.h"
 
 #include <QtTest>
 
@@ -23,6 +24,8 @@ private slots:
     void delays();
     void crc_data();
     void crc();
+    void shortDelaysComeBackAsTheyWere_data();
+    void shortDelaysComeBackAsTheyWere();
     void leavesHiddenCellsEmpty();
     void invalid_data();
     void invalid();
@@ -182,9 +185,9 @@ void TestCommandLine::delays_data()
 {
     addParseColumns();
     add("delay", "Daley(ms),unselect,++  1000", "Daley(ms)", false, "++", "", "1000");
-    add("delay of three digits", "d,++500", "d", false, "++", "", "500");
-    add("delay of one digit", "d,select,++  5", "d", true, "++", "", "5");
-    add("delay without a number", "d,++", "d", false, "++", "", "");
+    add("delay of three digits", "d,++500", "d", false, "++", "", "500 ");
+    add("delay of one digit", "d,select,++  5", "d", true, "++", "", "5   ");
+    add("delay without a number", "d,++", "d", false, "++", "", "    ");
     add("delay of five digits", "d,++  12345", "d", false, "++", "", "1234");
     add("delay and data", "d,++ 0100 01 02", "d", false, "++", "", "0100");
 }
@@ -192,6 +195,26 @@ void TestCommandLine::delays_data()
 void TestCommandLine::delays()
 {
     checkParsedRow();
+}
+
+void TestCommandLine::shortDelaysComeBackAsTheyWere_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("milliseconds");
+
+    QTest::newRow("three digits") << QStringLiteral("d,select,++500") << 500;
+    QTest::newRow("one digit") << QStringLiteral("d,select,++7") << 7;
+    QTest::newRow("four digits") << QStringLiteral("d,select,++  1000") << 1000;
+    QTest::newRow("no digit") << QStringLiteral("d,select,++") << 0;
+}
+
+void TestCommandLine::shortDelaysComeBackAsTheyWere()
+{
+    QFETCH(QString, line);
+    const std::optional<CommandRow> row = parseCommandLine(line);
+    QVERIFY(row.has_value());
+    QTEST(delayMilliseconds(frameText(*row)), "milliseconds");
+    QCOMPARE(commandLine(*row), line);
 }
 
 void TestCommandLine::crc_data()
@@ -263,6 +286,9 @@ void TestCommandLine::written_data()
         " a ,unselect,5A 0010  1  2 ");
     add("a comma", rowOf("a,b", false, "5A", "0010", ""), "a,b,unselect,5A 0010 ");
     add("delay", delayRow(), "Daley(ms),unselect,++  1000");
+    add("delay filled up with blanks", rowOf("d", false, "++", "", "500 "), "d,unselect,++500");
+    add("delay of blanks", rowOf("d", false, "++", "", "    "), "d,unselect,++");
+    add("delay as typed", rowOf("d", false, "++", "", "500"), "d,unselect,++  500");
     add("delay with an address", rowOf("d", false, "++", "0010", "5"), "d,unselect,++ 0010 5");
     add("CMD that begins like a delay", rowOf("d", false, "++1", "", "5"), "d,unselect,++1 %%%% 5");
     add("description of any script", rowOf(QStringLiteral("读 é"), false, "5A", "0010", ""),

@@ -124,7 +124,7 @@ void TestWorkbench::savedCommandsAreLoadedAgain()
     QVERIFY(!text(0, CommandColumn::Crc).isEmpty());
     QCOMPARE(text(0, CommandColumn::DataType), QString());
     QCOMPARE(text(1, CommandColumn::Cmd), QString("++"));
-    QCOMPARE(text(1, CommandColumn::Data), QString("500"));
+    QCOMPARE(text(1, CommandColumn::Data), QString("500 "));
     QCOMPARE(text(2, CommandColumn::DataType), QString("short"));
     window.window().close();
     QCOMPARE(boxes.texts(), QStringList());
