@@ -116,6 +116,7 @@ void CommandTable::replaceRows(const QVector<CommandRow> &rows)
     for (int row = 0; row < m_table.rowCount(); ++row) {
         writeRow(row, row < rows.size() ? rows.at(row) : emptyRow());
     }
+    m_table.scrollToTop();
     m_cellsInView.takeUpAll();
     m_table.setUpdatesEnabled(true);
     m_table.blockSignals(false);

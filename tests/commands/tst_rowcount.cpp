@@ -1,7 +1,10 @@
+#include "filedialoguser.h"
 #include "rowbench.h"
+#include "testfiles.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace Column = CommandColumn;
@@ -15,6 +18,8 @@ private slots:
     void theWheelBesideTheTableAppendsNothing();
     void theWheelStopsAppendingAtTheLimit();
     void clearingLeavesNineEmptyRows();
+    void aNewListStandsAtItsTop_data();
+    void aNewListStandsAtItsTop();
 };
 
 void TestRowCount::theWheelAppendsAtTheEnd()
@@ -69,6 +74,36 @@ void TestRowCount::clearingLeavesNineEmptyRows()
     QCOMPARE(bench.order(), QString("---------"));
     QCOMPARE(bench.table()->item(8, Column::DataType)->text(), QString("short"));
     QCOMPARE(bench.boxes.texts(), QStringList());
+}
+
+void TestRowCount::aNewListStandsAtItsTop_data()
+{
+    QTest::addColumn<QString>("button");
+
+    QTest::newRow("loaded") << "pushButton_LoadCommand";
+    QTest::newRow("cleared") << "pushButton_ClearCommand";
+}
+
+void TestRowCount::aNewListStandsAtItsTop()
+{
+    QFETCH(QString, button);
+    QTemporaryDir folder;
+    const QString path = folder.filePath("commands.txt");
+    writeFile(path, QByteArray("a,select,5A 0010 01\n").repeated(60));
+    const FileDialogUser user(path);
+    RowBench bench;
+    bench.window.window().resize(1024, 600);
+    bench.window.click("pushButton_LoadCommand");
+    bench.table()->setCurrentCell(59, Column::Data);
+    bench.table()->scrollToBottom();
+    const QScrollBar *bar = bench.table()->verticalScrollBar();
+    QVERIFY(bar->value() > 0);
+    bench.window.click(qPrintable(button));
+    QCOMPARE(bar->value(), 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(bar->value(), 0);
+    QVERIFY(bench.table()->currentRow() <= 0);
+    QVERIFY(bench.table()->cellWidget(0, Column::Send)->isVisible());
 }
 
 QTEST_MAIN(TestRowCount)
