@@ -94,6 +94,7 @@ Dialog::~Dialog()
 void Dialog::closeEvent(QCloseEvent *event)
 {
     m_loop.stop();
+    m_commands.takeInEdit();
     if (m_list.isModified() && askToSaveCommands()) {
         m_files.saveCommands();
     }

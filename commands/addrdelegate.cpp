@@ -1,5 +1,7 @@
 #include "addrdelegate.h"
 
+#include "hextext.h"
+
 #include <QLineEdit>
 #include <QRegExpValidator>
 
@@ -22,11 +24,24 @@ void AddrDelegate::finishByEnter(QLineEdit *editor)
 
 void AddrDelegate::finishByFocusOut(QLineEdit *editor)
 {
-    emit AfterCommitData();
+    announceLeaving(*editor);
     emit closeEditor(editor, NoHint);
 }
 
-void AddrDelegate::leaveByKey()
+void AddrDelegate::announceTab(const QLineEdit *editor)
 {
+    announceLeaving(*editor);
+}
+
+QString AddrDelegate::editedText(const QModelIndex &index) const
+{
+    const QString text = CellEditorDelegate::editedText(index);
+    return isBlank(text) ? QString() : text;
+}
+
+void AddrDelegate::announceLeaving(const QLineEdit &editor)
+{
+    m_leavesUntouched = isUntouched(editor);
     emit AfterCommitData();
+    m_leavesUntouched = false;
 }

@@ -10,9 +10,9 @@ bool isEnter(int key)
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-bool leavesCell(int key)
+bool isTab(int key)
 {
-    return key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_Escape;
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab;
 }
 
 } // namespace
@@ -21,7 +21,7 @@ bool CellEditorDelegate::eventFilter(QObject *object, QEvent *event)
 {
     auto *editor = qobject_cast<QLineEdit *>(object);
     if (editor == nullptr) {
-        return QStyledItemDelegate::eventFilter(object, event);
+        return TextDelegate::eventFilter(object, event);
     }
     editor->setProperty("cursorPos", editor->cursorPosition());
     emit commitData(editor);
@@ -32,14 +32,31 @@ bool CellEditorDelegate::eventFilter(QObject *object, QEvent *event)
     }
     if (event->type() == QEvent::KeyPress) {
         emit commitData(editor);
-        const int key = static_cast<const QKeyEvent *>(event)->key();
-        if (isEnter(key)) {
-            finishByEnter(editor);
+        if (endByKey(editor, static_cast<const QKeyEvent *>(event)->key())) {
             return true;
         }
-        if (leavesCell(key)) {
-            leaveByKey();
-        }
     }
-    return QStyledItemDelegate::eventFilter(object, event);
+    return TextDelegate::eventFilter(object, event);
+}
+
+bool CellEditorDelegate::endByKey(QLineEdit *editor, int key)
+{
+    if (isEnter(key)) {
+        finishByEnter(editor);
+        return true;
+    }
+    if (isTab(key)) {
+        // Qt's own way lets nobody out whose text a validator finds unfinished.
+        announceTab(editor);
+        emit commitData(editor);
+        emit closeEditor(editor, key == Qt::Key_Tab ? EditNextItem : EditPreviousItem);
+        return true;
+    }
+    return false;
+}
+
+void CellEditorDelegate::takeIn(QLineEdit *editor)
+{
+    emit commitData(editor);
+    finishByFocusOut(editor);
 }

@@ -48,7 +48,7 @@ QString crcCellText(const QString &frameText)
 
 QString normalisedAddress(const QString &typed)
 {
-    return typed.isEmpty() ? QString() : paddedHex(typed.toUInt(nullptr, hexBase), addressDigits);
+    return isBlank(typed) ? typed : paddedHex(typed.toUInt(nullptr, hexBase), addressDigits);
 }
 
 QString nextAddress(const QString &address)

@@ -35,7 +35,7 @@ QString frameText(const CommandRow &row);
 QString crcCellText(const QString &frameText);
 
 /// An address as typed, in at least four upper-case hex digits; "0000" when it is no hex number. An
-/// empty address stays empty.
+/// empty or blank address stays as it is.
 QString normalisedAddress(const QString &typed);
 
 /// The address after the given one, in the same form ("00FF" gives "0100", "FFFF" gives "10000").

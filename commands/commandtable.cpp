@@ -6,10 +6,11 @@
 #include "commandcolumns.h"
 #include "datadelegate.h"
 #include "hextext.h"
-#include "markedrowdelegate.h"
+#include "oneline.h"
 #include "tableitems.h"
 #include "tablelook.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
 
@@ -183,9 +184,13 @@ void CommandTable::recomputeCurrentRow()
 void CommandTable::normaliseCurrentAddress()
 {
     const int row = m_table.currentRow();
-    if (row >= 0 && m_table.currentColumn() == Column::Addr) {
-        setCentredItem(m_table, row, Column::Addr,
-                       normalisedAddress(cellText(m_table, row, Column::Addr)));
+    if (row < 0 || m_table.currentColumn() != Column::Addr) {
+        return;
+    }
+    const QString typed = cellText(m_table, row, Column::Addr);
+    const QString normalised = normalisedAddress(typed);
+    if (normalised != typed) {
+        setCentredItem(m_table, row, Column::Addr, normalised);
     }
 }
 
@@ -200,10 +205,20 @@ void CommandTable::goOnFromCurrentCell()
         return;
     }
     const QString above = cellText(m_table, row - 1, Column::Addr);
-    if (cellText(m_table, row, Column::Addr).isEmpty() && !above.isEmpty()) {
+    if (isBlank(cellText(m_table, row, Column::Addr)) && !isBlank(above)) {
         setCentredItem(m_table, row, Column::Addr, nextAddress(above));
     }
     edit(row, Column::Data);
+}
+
+void CommandTable::takeInEdit()
+{
+    const QModelIndex cell = m_table.currentIndex();
+    auto *delegate = qobject_cast<TextDelegate *>(m_table.itemDelegate(cell));
+    auto *editor = qobject_cast<QLineEdit *>(m_table.indexWidget(cell));
+    if (delegate != nullptr && editor != nullptr) {
+        delegate->takeIn(editor);
+    }
 }
 
 void CommandTable::takeEdited(int row, const CommandRow &edited)
@@ -211,8 +226,8 @@ void CommandTable::takeEdited(int row, const CommandRow &edited)
     if (row < 0 || row >= m_table.rowCount()) {
         return;
     }
-    setCentredItem(m_table, row, Column::Cmd, edited.cmd);
-    setCentredItem(m_table, row, Column::Addr, edited.addr);
+    setCentredItem(m_table, row, Column::Cmd, onOneLine(edited.cmd));
+    setCentredItem(m_table, row, Column::Addr, onOneLine(edited.addr));
     setLeftItem(m_table, row, Column::Data, groupPairsFromRight(edited.data));
     setCentredItem(m_table, row, Column::DataType, edited.dataType);
 }
@@ -224,12 +239,16 @@ void CommandTable::installDelegates()
     addrDelegate->installEventFilter(addrDelegate);
     dataDelegate->installEventFilter(dataDelegate);
     auto *cellWidgetDelegate = new CellWidgetDelegate(this);
-    m_table.setItemDelegate(new MarkedRowDelegate(this));
+    m_table.setItemDelegate(new TextDelegate(this));
     m_table.setItemDelegateForColumn(Column::Select, cellWidgetDelegate);
     m_table.setItemDelegateForColumn(Column::Send, cellWidgetDelegate);
     m_table.setItemDelegateForColumn(Column::Addr, addrDelegate);
     m_table.setItemDelegateForColumn(Column::Data, dataDelegate);
-    connect(addrDelegate, &AddrDelegate::AfterCommitData, this, &CommandTable::addressCommitted);
+    connect(addrDelegate, &AddrDelegate::AfterCommitData, this, [this, addrDelegate] {
+        if (!addrDelegate->leavesUntouched()) {
+            emit addressCommitted();
+        }
+    });
     connect(addrDelegate, &AddrDelegate::enterdata, this, &CommandTable::enterPressed);
     connect(dataDelegate, &DataDelegate::enterdata, this, &CommandTable::enterPressed);
 }

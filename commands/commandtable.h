@@ -65,6 +65,9 @@ public:
     /// where there is none, and from Data to the next row's Addr.
     void goOnFromCurrentCell();
 
+    /// Takes in the text of an editor that is open in a cell, and closes it.
+    void takeInEdit();
+
     /// Writes what the direct editor hands back; a row outside the table is left alone.
     void takeEdited(int row, const CommandRow &edited);
 
@@ -72,7 +75,8 @@ signals:
     /// A row's send button was clicked.
     void sendRequested();
 
-    /// The address in the current cell was edited. Edited data are not announced like this.
+    /// The address in the current cell was edited or confirmed. Edited data are not announced like
+    /// this.
     void addressCommitted();
 
     /// Enter ended the editing of the current cell.

@@ -47,6 +47,11 @@ QString withoutBlanks(const QString &text)
     return QString(text).remove(QLatin1Char(' '));
 }
 
+bool isBlank(const QString &text)
+{
+    return withoutBlanks(text).isEmpty();
+}
+
 QString groupPairsFromRight(const QString &digits)
 {
     QString grouped;

@@ -23,5 +23,8 @@ QString paddedHex(quint64 value, int digits);
 /// The text without its blanks; other white space stays.
 QString withoutBlanks(const QString &text);
 
+/// Whether a text has nothing but blanks, or nothing at all.
+bool isBlank(const QString &text);
+
 /// Puts a blank before every second character counted from the right end: "01020" gives "0 10 20".
 QString groupPairsFromRight(const QString &digits);

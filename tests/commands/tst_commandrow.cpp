@@ -90,6 +90,8 @@ void TestCommandRow::addressIsNormalised_data()
 
     QTest::newRow("empty stays empty") << ""
                                        << "";
+    QTest::newRow("blanks stay blanks") << "    "
+                                        << "    ";
     QTest::newRow("lower case, short") << "a"
                                        << "000A";
     QTest::newRow("two digits") << "12"

@@ -102,7 +102,7 @@ void TestDelegates::addressSignalsComeInOrder_data()
                              << QStringList{"commit", "commit", "after", "commit", "close 2"}
                              << true;
     QTest::newRow("Escape") << keyPress(Qt::Key_Escape)
-                            << QStringList{"commit", "commit", "after", "close 4"} << true;
+                            << QStringList{"commit", "commit", "close 4"} << true;
     QTest::newRow("key up") << EventPointer(new QKeyEvent(QEvent::KeyRelease, Qt::Key_Return,
                                                           Qt::NoModifier))
                             << QStringList{"commit"} << false;

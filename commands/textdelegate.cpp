@@ -1,0 +1,63 @@
+#include "textdelegate.h"
+
+#include "oneline.h"
+
+#include <QLineEdit>
+
+namespace {
+
+const char *const openedWith = "openedWith";
+
+} // namespace
+
+QWidget *TextDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                    const QModelIndex &index) const
+{
+    QWidget *widget = MarkedRowDelegate::createEditor(parent, option, index);
+    if (auto *editor = qobject_cast<QLineEdit *>(widget)) {
+        keepOnOneLine(*editor);
+    }
+    return widget;
+}
+
+/// The view calls this after each commit, too: setting a text anew would move the cursor.
+void TextDelegate::setEditorData(QWidget *widget, const QModelIndex &index) const
+{
+    auto *editor = qobject_cast<QLineEdit *>(widget);
+    if (editor == nullptr) {
+        MarkedRowDelegate::setEditorData(widget, index);
+        return;
+    }
+    const QString text = editedText(index);
+    if (!editor->property(openedWith).isValid()) {
+        editor->setProperty(openedWith, text);
+    }
+    if (editor->text() != text) {
+        editor->setText(text);
+    }
+}
+
+void TextDelegate::setModelData(QWidget *widget, QAbstractItemModel *model,
+                                const QModelIndex &index) const
+{
+    const auto *editor = qobject_cast<const QLineEdit *>(widget);
+    if (editor == nullptr || editor->text() != editedText(index)) {
+        MarkedRowDelegate::setModelData(widget, model, index);
+    }
+}
+
+void TextDelegate::takeIn(QLineEdit *editor)
+{
+    emit commitData(editor);
+    emit closeEditor(editor, NoHint);
+}
+
+QString TextDelegate::editedText(const QModelIndex &index) const
+{
+    return index.data(Qt::EditRole).toString();
+}
+
+bool TextDelegate::isUntouched(const QLineEdit &editor)
+{
+    return !editor.isModified() && editor.property(openedWith) == editor.text();
+}

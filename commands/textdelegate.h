@@ -1,0 +1,31 @@
+#pragma once
+
+#include "markedrowdelegate.h"
+
+class QLineEdit;
+
+/// Edits a cell of the command table in a line edit. What is there already is not written again, so
+/// that a cell which was only looked at counts as unchanged.
+class TextDelegate : public MarkedRowDelegate
+{
+    Q_OBJECT
+
+public:
+    using MarkedRowDelegate::MarkedRowDelegate;
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+    void setModelData(QWidget *editor, QAbstractItemModel *model,
+                      const QModelIndex &index) const override;
+
+    /// Ends the editing as if the user had gone elsewhere: writes the text and closes the editor.
+    virtual void takeIn(QLineEdit *editor);
+
+protected:
+    /// What an editor shows of a cell.
+    virtual QString editedText(const QModelIndex &index) const;
+
+    /// Whether an editor still holds what it was opened with, and nothing was typed.
+    static bool isUntouched(const QLineEdit &editor);
+};
