@@ -9,6 +9,7 @@
 #include "styles.h"
 #include "ui_dialog.h"
 #include "version.h"
+#include "windowkeys.h"
 
 #include <QCloseEvent>
 #include <QMessageBox>
@@ -60,6 +61,7 @@ Dialog::Dialog(QWidget *parent)
     , m_commands(*m_form->tableWidget_Register, this, this)
     , m_menus(this, m_settings.isEditorFun != 0)
     , m_rowActions(*m_form->tableWidget_Register, m_commands, m_menus, this)
+    , m_tableKeys(*m_form->tableWidget_Register, m_commands, m_rowActions, m_menus, this)
     , m_rowEditor(*m_form->tableWidget_Register, m_commands, this)
     , m_log(*m_form->tableWidget_Message, this)
     , m_messageCopy(*m_form->tableWidget_Message, m_log, this)
@@ -151,6 +153,7 @@ void Dialog::setUpWindow()
 {
     setWindowTitle(QLatin1String(windowTitleText));
     setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+    addWindowKeys(*m_form);
     m_form->splitter->setStretchFactor(0, commandStretch);
     m_form->splitter->setStretchFactor(1, messageStretch);
     m_memory.restore();
@@ -172,6 +175,7 @@ void Dialog::setUpCommands()
     connect(&m_rowEditor.editor(), &DirectEditor::unencodableTyped, this, &Dialog::showMessage,
             Qt::QueuedConnection);
     connect(&m_commands, &CommandTable::sendRequested, this, &Dialog::SendOne);
+    connect(&m_commands, &CommandTable::insertionRefused, &m_status, &StatusLine::tell);
 
     connect(&m_commands, &CommandTable::addressCommitted, this, &Dialog::on_DataEdited);
     connect(&m_commands, &CommandTable::enterPressed, this, &Dialog::on_DataEnter);
@@ -383,6 +387,7 @@ void Dialog::on_pushButton_LoadCommand_clicked()
 
 void Dialog::on_pushButton_SaveCommand_clicked()
 {
+    m_commands.takeInEdit();
     m_files.saveCommands();
 }
 
@@ -395,7 +400,7 @@ void Dialog::on_pushButton_ClearCommand_clicked()
 void Dialog::tableRegisterContexMenuRequested(const QPoint &pos)
 {
     if (QMenu *menu = m_rowActions.menuAt(pos)) {
-        menu->exec(QCursor::pos());
+        menu->exec(m_rowActions.menuPosition());
     }
 }
 

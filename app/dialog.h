@@ -22,6 +22,7 @@
 #include "serialpanel.h"
 #include "settings.h"
 #include "statusline.h"
+#include "tablekeys.h"
 #include "windowmemory.h"
 
 #include <QDialog>
@@ -133,6 +134,7 @@ private:
     CommandTable m_commands;
     RowMenus m_menus;
     RowActions m_rowActions;
+    TableKeys m_tableKeys;
     RowEditor m_rowEditor;
     MessageLog m_log;
     MessageCopy m_messageCopy;

@@ -11,6 +11,7 @@ QWidget *AddrDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     auto *editor = new QLineEdit(parent);
     const QRegExp fourDigits(QStringLiteral("[A-Fa-f0-9]{4}"), Qt::CaseSensitive);
     editor->setValidator(new QRegExpValidator(fourDigits, editor));
+    prepare(editor);
     return editor;
 }
 

@@ -70,12 +70,17 @@ void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObje
     table.setCellWidget(row, column, container);
 }
 
-bool isSelectCellChecked(const QTableWidget &table, int row, int column)
+QCheckBox *selectBox(const QTableWidget &table, int row, int column)
 {
     const QWidget *container = table.cellWidget(row, column);
     QLayout *layout = container != nullptr ? container->layout() : nullptr;
     QLayoutItem *first = layout != nullptr ? layout->itemAt(0) : nullptr;
-    const auto *box = first != nullptr ? qobject_cast<QCheckBox *>(first->widget()) : nullptr;
+    return first != nullptr ? qobject_cast<QCheckBox *>(first->widget()) : nullptr;
+}
+
+bool isSelectCellChecked(const QTableWidget &table, int row, int column)
+{
+    const QCheckBox *box = selectBox(table, row, column);
     return box != nullptr && box->isChecked();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+class QCheckBox;
 class QIcon;
 class QObject;
 class QPushButton;
@@ -9,6 +10,9 @@ class QTableWidget;
 
 /// Puts a new check box into the cell, centred in a container that `filter` watches.
 void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter);
+
+/// The cell's check box; null where there is none.
+QCheckBox *selectBox(const QTableWidget &table, int row, int column);
 
 /// Whether the cell's check box is checked; false where there is none.
 bool isSelectCellChecked(const QTableWidget &table, int row, int column);

@@ -56,6 +56,8 @@ bool CommandTable::insertEmptyRow(int row)
 {
     m_table.blockSignals(true);
     if (row > lastInsertableRow) {
+        emit insertionRefused(tr("The command table is full: rows can be inserted up to row %1.")
+                                  .arg(lastInsertableRow + 1));
         return false;
     }
     const bool inserted = row >= 0 && row <= m_table.rowCount();
@@ -64,6 +66,11 @@ bool CommandTable::insertEmptyRow(int row)
     }
     m_table.blockSignals(false);
     return inserted;
+}
+
+void CommandTable::restoreSignals()
+{
+    m_table.blockSignals(false);
 }
 
 void CommandTable::insertDelayRow(int row)
@@ -239,7 +246,8 @@ void CommandTable::installDelegates()
     addrDelegate->installEventFilter(addrDelegate);
     dataDelegate->installEventFilter(dataDelegate);
     auto *cellWidgetDelegate = new CellWidgetDelegate(this);
-    m_table.setItemDelegate(new TextDelegate(this));
+    auto *textDelegate = new TextDelegate(this);
+    m_table.setItemDelegate(textDelegate);
     m_table.setItemDelegateForColumn(Column::Select, cellWidgetDelegate);
     m_table.setItemDelegateForColumn(Column::Send, cellWidgetDelegate);
     m_table.setItemDelegateForColumn(Column::Addr, addrDelegate);
@@ -249,6 +257,10 @@ void CommandTable::installDelegates()
             emit addressCommitted();
         }
     });
+    for (const TextDelegate *delegate : {textDelegate, static_cast<TextDelegate *>(addrDelegate),
+                                         static_cast<TextDelegate *>(dataDelegate)}) {
+        connect(delegate, &TextDelegate::editorOpens, this, &CommandTable::restoreSignals);
+    }
     connect(addrDelegate, &AddrDelegate::enterdata, this, &CommandTable::enterPressed);
     connect(dataDelegate, &DataDelegate::enterdata, this, &CommandTable::enterPressed);
 }

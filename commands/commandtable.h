@@ -22,8 +22,12 @@ public:
     CommandTable(QTableWidget &table, QObject *window, QObject *parent = nullptr);
 
     /// Inserts an empty row and returns whether it did. Beyond index 512 nothing is inserted, and
-    /// the table's signals stay blocked until somebody unblocks them.
+    /// the table's signals stay blocked until the user does something in the table: opens an
+    /// editor, asks for a menu, or inserts a row within the limit.
     bool insertEmptyRow(int row);
+
+    /// Ends the blocking of the table's signals that a refused insertion has left behind.
+    void restoreSignals();
 
     /// Inserts a row that pauses a sequence for 1000 ms.
     void insertDelayRow(int row);
@@ -72,6 +76,9 @@ public:
     void takeEdited(int row, const CommandRow &edited);
 
 signals:
+    /// A row was not inserted, since it would stand beyond the last index that is allowed.
+    void insertionRefused(const QString &reason);
+
     /// A row's send button was clicked.
     void sendRequested();
 

@@ -4,8 +4,11 @@
 #include "commandtable.h"
 #include "delaymarker.h"
 
+#include <QContextMenuEvent>
 #include <QScrollBar>
 #include <QTableWidget>
+
+#include <utility>
 
 namespace Column = CommandColumn;
 
@@ -15,13 +18,17 @@ RowActions::RowActions(QTableWidget &table, CommandTable &rows, const RowMenus &
     , m_table(table)
     , m_rows(rows)
     , m_menus(menus)
-{}
+{
+    m_table.installEventFilter(this);
+    m_table.viewport()->installEventFilter(this);
+}
 
 QMenu *RowActions::menuAt(const QPoint &position)
 {
     const QModelIndex cell = m_table.indexAt(position);
     const QTableWidgetItem *item = m_table.itemAt(position);
     m_contextCell = item != nullptr ? cell : QModelIndex();
+    m_menuPosition = std::exchange(m_askedByKey, false) ? placeBelow(cell) : QCursor::pos();
     if (cell.column() == Column::Cmd) {
         const bool noMenu = item == nullptr || item->text() == delayMarker;
         return noMenu ? nullptr : &m_menus.cmdMenu();
@@ -31,6 +38,42 @@ QMenu *RowActions::menuAt(const QPoint &position)
         return hasBox ? &m_menus.selectMenu() : nullptr;
     }
     return item != nullptr ? &m_menus.rowMenu() : nullptr;
+}
+
+void RowActions::askForMenu()
+{
+    const QModelIndex cell = m_table.currentIndex();
+    if (cell.isValid()) {
+        m_table.scrollTo(cell);
+        m_askedByKey = true;
+        m_rows.restoreSignals();
+        emit m_table.customContextMenuRequested(m_table.visualRect(cell).center());
+    }
+}
+
+void RowActions::setContextRow(int row)
+{
+    m_contextCell = m_table.model()->index(row, Column::Description);
+}
+
+bool RowActions::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() == QEvent::ContextMenu) {
+        m_rows.restoreSignals();
+        m_askedByKey =
+            static_cast<const QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard;
+        if (m_askedByKey && object == &m_table) {
+            askForMenu();
+            return true;
+        }
+    }
+    return QObject::eventFilter(object, event);
+}
+
+QPoint RowActions::placeBelow(const QModelIndex &cell) const
+{
+    const QRect seen = m_table.visualRect(cell) & m_table.viewport()->rect();
+    return m_table.viewport()->mapToGlobal(seen.bottomLeft());
 }
 
 void RowActions::run(RowAction action)
@@ -126,6 +169,8 @@ void RowActions::moveDown(int row)
 
 void RowActions::selectAfterChange(int row)
 {
+    // With Ctrl held down it would be added to the selection, or taken out of it.
+    m_table.clearSelection();
     m_table.selectRow(row);
     emit modified();
 }

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QPersistentModelIndex>
+#include <QPoint>
 
 class CommandTable;
 class QTableWidget;
@@ -23,8 +24,17 @@ public:
     /// there; nothing where none does.
     QMenu *menuAt(const QPoint &position);
 
+    /// Where that menu opens on the screen: at the cursor, or, asked for by key, below its cell.
+    QPoint menuPosition() const { return m_menuPosition; }
+
+    /// Asks for the menu of the current cell, as a key does.
+    void askForMenu();
+
     /// The row of the cell that the last menu was opened on; -1 when it has left the table.
     int contextRow() const { return m_contextCell.row(); }
+
+    /// Makes a row the one that the entries act on, as if the row menu had been opened on it.
+    void setContextRow(int row);
 
     /// Acts on the context row.
     void run(RowAction action);
@@ -53,7 +63,12 @@ signals:
     /// An action can't be carried out, for the reason given.
     void refused(const QString &reason);
 
+protected:
+    /// Notices a menu that is asked for by key.
+    bool eventFilter(QObject *object, QEvent *event) override;
+
 private:
+    QPoint placeBelow(const QModelIndex &cell) const;
     void removeRow(int row);
     void moveUp(int row);
     void moveDown(int row);
@@ -63,4 +78,6 @@ private:
     CommandTable &m_rows;
     const RowMenus &m_menus;
     QPersistentModelIndex m_contextCell;
+    bool m_askedByKey = false;
+    QPoint m_menuPosition;
 };

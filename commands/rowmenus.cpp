@@ -10,9 +10,10 @@ QString translated(const char *text)
     return QCoreApplication::translate("RowMenus", text);
 }
 
-QAction *addAction(QMenu &menu, const QString &text)
+QAction *addAction(QMenu &menu, const QString &text, const QKeySequence &key = {})
 {
     auto *action = new QAction(text, menu.parent());
+    action->setShortcut(key);
     menu.addAction(action);
     return action;
 }
@@ -34,11 +35,17 @@ RowMenus::RowMenus(QWidget *parent, bool withEdit)
     if (withEdit) {
         m_rowActions.insert(addAction(*m_rowMenu, translated("edit")), RowAction::Edit);
     }
-    m_rowActions.insert(addAction(*m_rowMenu, translated("insert")), RowAction::Insert);
-    m_rowActions.insert(addAction(*m_rowMenu, translated("clone")), RowAction::Clone);
-    m_rowActions.insert(addAction(*m_rowMenu, translated("delete")), RowAction::Delete);
-    m_rowActions.insert(addAction(*m_rowMenu, translated("up")), RowAction::Up);
-    m_rowActions.insert(addAction(*m_rowMenu, translated("down")), RowAction::Down);
+    m_rowActions.insert(addAction(*m_rowMenu, translated("insert"), Qt::Key_Insert),
+                        RowAction::Insert);
+    m_rowActions.insert(addAction(*m_rowMenu, translated("clone"), int(Qt::CTRL) + int(Qt::Key_D)),
+                        RowAction::Clone);
+    m_rowActions.insert(
+        addAction(*m_rowMenu, translated("delete"), int(Qt::CTRL) + int(Qt::Key_Delete)),
+        RowAction::Delete);
+    m_rowActions.insert(addAction(*m_rowMenu, translated("up"), int(Qt::ALT) + int(Qt::Key_Up)),
+                        RowAction::Up);
+    m_rowActions.insert(addAction(*m_rowMenu, translated("down"), int(Qt::ALT) + int(Qt::Key_Down)),
+                        RowAction::Down);
     m_rowActions.insert(addAction(*m_rowMenu, translated("delay")), RowAction::Delay);
 
     m_selections.insert(addAction(*m_selectMenu, translated("select all")), true);

@@ -9,7 +9,7 @@
 enum class RowAction { Edit, Insert, Clone, Delete, Up, Down, Delay };
 
 /// The three context menus of the command table. Their actions are told apart by pointer, never by
-/// their texts.
+/// their texts. They show their keys, which only the table makes work.
 class RowMenus
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "oneline.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 
 namespace {
@@ -15,9 +16,15 @@ QWidget *TextDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
 {
     QWidget *widget = MarkedRowDelegate::createEditor(parent, option, index);
     if (auto *editor = qobject_cast<QLineEdit *>(widget)) {
-        keepOnOneLine(*editor);
+        prepare(editor);
     }
     return widget;
+}
+
+void TextDelegate::prepare(QLineEdit *editor) const
+{
+    keepOnOneLine(*editor);
+    emit editorOpens();
 }
 
 /// The view calls this after each commit, too: setting a text anew would move the cursor.
@@ -44,6 +51,17 @@ void TextDelegate::setModelData(QWidget *widget, QAbstractItemModel *model,
     if (editor == nullptr || editor->text() != editedText(index)) {
         MarkedRowDelegate::setModelData(widget, model, index);
     }
+}
+
+bool TextDelegate::eventFilter(QObject *object, QEvent *event)
+{
+    // Elsewhere in the table this key deletes a row.
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<const QKeyEvent *>(event)->matches(QKeySequence::DeleteEndOfWord)) {
+        event->accept();
+        return true;
+    }
+    return QStyledItemDelegate::eventFilter(object, event);
 }
 
 void TextDelegate::takeIn(QLineEdit *editor)

@@ -19,10 +19,19 @@ public:
     void setModelData(QWidget *editor, QAbstractItemModel *model,
                       const QModelIndex &index) const override;
 
+    bool eventFilter(QObject *object, QEvent *event) override;
+
     /// Ends the editing as if the user had gone elsewhere: writes the text and closes the editor.
     virtual void takeIn(QLineEdit *editor);
 
+signals:
+    /// A cell is about to be edited.
+    void editorOpens() const;
+
 protected:
+    /// To be called for each new editor.
+    void prepare(QLineEdit *editor) const;
+
     /// What an editor shows of a cell.
     virtual QString editedText(const QModelIndex &index) const;
 
