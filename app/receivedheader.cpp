@@ -13,9 +13,11 @@ ReceivedHeader::ReceivedHeader(const QLineEdit &field, QObject *parent)
     : QObject(parent)
     , m_field(field)
 {
-    m_typing.setSingleShot(true);
+    for (QTimer *timer : {&m_typing, &m_notice}) {
+        timer->setSingleShot(true);
+        timer->setTimerType(Qt::PreciseTimer);
+    }
     m_typing.setInterval(typingMs);
-    m_notice.setSingleShot(true);
     connect(&m_field, &QLineEdit::textChanged, this, &ReceivedHeader::onChanged);
     connect(&m_field, &QLineEdit::textEdited, &m_typing, qOverload<>(&QTimer::start));
     connect(&m_notice, &QTimer::timeout, this, &ReceivedHeader::unreadable);
