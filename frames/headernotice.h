@@ -5,7 +5,7 @@
 #include <optional>
 
 /// What the user is told about a header field that can't be read.
-inline constexpr QLatin1String badHeaderMessage("Startbytes Length error");
+inline constexpr QLatin1String badHeaderMessage("Startbytes Length error", 23);
 
 /// Remembers which bad header the user knows of, so that many frames tell of it once.
 class HeaderNotice
