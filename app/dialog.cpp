@@ -275,6 +275,7 @@ void Dialog::connectSending()
         m_log.appendSent(hexText, m_frameOptions.withCrc());
     });
     connect(&m_loop, &LoopControl::message, this, &Dialog::showMessage);
+    m_log.setHold([this] { return m_loop.isFrameNear(); });
 }
 
 void Dialog::on_tabWidget_currentChanged(int index)

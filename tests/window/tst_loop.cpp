@@ -2,6 +2,7 @@
 #include "windowdriver.h"
 
 #include <QElapsedTimer>
+#include <QScrollBar>
 #include <QtTest>
 
 class TestLoop : public QObject
@@ -23,6 +24,7 @@ private slots:
     void aLostPortEndsTheLoop();
     void aLoopThatOutrunsTheWireWaits_data();
     void aLoopThatOutrunsTheWireWaits();
+    void theLogMovesOnBehindTheFrames();
     void stopWorksWhileNothingIsTaken();
     void nothingIsLostWhenTheFarEndReadsAgain();
     void closingTheWindowEndsTheLoop();
@@ -344,6 +346,24 @@ void TestLoop::aLoopThatOutrunsTheWireWaits()
     const int before = window.port.received().size();
     QTRY_VERIFY(window.port.received().size() > before + waiting);
     window.click("pushButton_Start_Loop");
+}
+
+void TestLoop::theLogMovesOnBehindTheFrames()
+{
+    LoopWindow window("2", "0", "1");
+    window.checkRow(1, false);
+    QElapsedTimer elapsed;
+    QVector<qint64> moves;
+    connect(window.messages()->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            [&] { moves.append(elapsed.elapsed()); });
+    elapsed.start();
+    window.click("pushButton_Start_Loop");
+    QTRY_VERIFY(moves.size() >= 5);
+    window.click("pushButton_Start_Loop");
+    // A frame is always near, so that each move has been put off for as long as may be.
+    for (int i = 1; i < moves.size(); ++i) {
+        QVERIFY2(moves.at(i) - moves.at(i - 1) >= 50, qPrintable(QString::number(moves.at(i))));
+    }
 }
 
 void TestLoop::stopWorksWhileNothingIsTaken()
