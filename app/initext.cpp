@@ -79,7 +79,7 @@ private:
     {
         const int known = escapeLetters.indexOf(letter);
         if (known >= 0) {
-            return QString(QLatin1Char(escapedBytes.at(known)));
+            return {QLatin1Char(escapedBytes.at(known))};
         }
         const int begin = m_position;
         while (letter == 'x' && !atEnd() && isHexDigit(m_raw.at(m_position))) {
