@@ -119,6 +119,7 @@ void Dialog::end()
 
 void Dialog::keepForNextStart()
 {
+    m_commands.takeInEdit();
     m_recovery.keep();
     saveSettings();
 }

@@ -32,10 +32,10 @@ bool writeSwiftly(const QString &path, const QByteArray &bytes)
 
 } // namespace
 
-Recovery::Recovery(const QString &dataFolder, const ListState &list,
+Recovery::Recovery(QString dataFolder, const ListState &list,
                    std::function<QVector<CommandRow>()> rows, RecoveryPace pace, QObject *parent)
     : QObject(parent)
-    , m_folder(dataFolder)
+    , m_folder(std::move(dataFolder))
     , m_list(list)
     , m_rows(std::move(rows))
     , m_pace(pace)

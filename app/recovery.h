@@ -31,9 +31,8 @@ class Recovery : public QObject
 
 public:
     /// The list's state must outlive this; its rows are asked for when they are to be written.
-    Recovery(const QString &dataFolder, const ListState &list,
-             std::function<QVector<CommandRow>()> rows, RecoveryPace pace = {},
-             QObject *parent = nullptr);
+    Recovery(QString dataFolder, const ListState &list, std::function<QVector<CommandRow>()> rows,
+             RecoveryPace pace = {}, QObject *parent = nullptr);
     /// Removes the file, unless it is to be kept.
     ~Recovery() override;
 

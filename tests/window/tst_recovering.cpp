@@ -20,6 +20,7 @@ private slots:
     void whatWasLeftBehindIsOfferedAndLoadedWhenAsked();
     void declinedItIsOfferedAgain();
     void theProgramEndsWithoutAQuestion();
+    void anEditThatIsStillOpenIsKept();
     void theProgramMayEndDuringTheQuestion();
     void aSessionThatEndsIsNoReasonToClose();
     void theLoopEndsBeforeTheQuestion();
@@ -173,6 +174,19 @@ void TestRecovering::theProgramEndsWithoutAQuestion()
     QCOMPARE(boxes.texts(), QStringList());
     QCOMPARE(recoveryFiles(), QStringList("recovery-1.txt"));
     QCOMPARE(keptIn("recovery-1.txt"), QString("edited"));
+}
+
+void TestRecovering::anEditThatIsStillOpenIsKept()
+{
+    {
+        WindowDriver window;
+        QTableWidget *table = window.commands();
+        table->setCurrentCell(0, CommandColumn::Description);
+        table->editItem(table->currentItem());
+        QTest::keyClicks(table->viewport()->findChild<QLineEdit *>(), "typed");
+        window.window().end();
+    }
+    QCOMPARE(keptIn("recovery-1.txt"), QString("typed"));
 }
 
 void TestRecovering::theProgramMayEndDuringTheQuestion()
