@@ -24,6 +24,7 @@ private slots:
     void aBadFileIsNoHarm_data();
     void aBadFileIsNoHarm();
     void aFolderInItsPlaceIsNoHarm();
+    void aLinkToADeviceIsNoHarm();
     void theWindowCanBeSmallerThanItsContent();
 };
 
@@ -147,6 +148,14 @@ void TestWindowMemory::aFolderInItsPlaceIsNoHarm()
     WindowDriver window;
     QVERIFY(window.window().close());
     QVERIFY(QDir(filePath() + "/inside").exists());
+}
+
+void TestWindowMemory::aLinkToADeviceIsNoHarm()
+{
+    QVERIFY(QFile::link("/dev/zero", filePath()));
+    WindowDriver window;
+    QVERIFY(window.window().isVisible());
+    QVERIFY(window.window().close());
 }
 
 void TestWindowMemory::theWindowCanBeSmallerThanItsContent()
