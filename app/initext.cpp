@@ -1,5 +1,7 @@
 #include "initext.h"
 
+#include <QTextCodec>
+
 #include <algorithm>
 #include <cstring>
 
@@ -20,6 +22,13 @@ bool isHexDigit(char byte)
 bool isBlank(char byte)
 {
     return byte == ' ' || byte == '\t' || byte == '\r';
+}
+
+/// A byte-order mark at the beginning is a character like any other.
+QString fromUtf8(const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
 }
 
 /// Takes a value apart, from its first byte to its last one.
@@ -49,7 +58,7 @@ public:
         while (!m_isQuoted && !m_plain.isEmpty() && isBlank(m_plain.at(m_plain.size() - 1))) {
             m_plain.chop(1);
         }
-        return m_text + QString::fromUtf8(m_plain);
+        return m_text + fromUtf8(m_plain);
     }
 
 private:
@@ -70,7 +79,7 @@ private:
     /// What is before it belongs to the value with all its blanks.
     void append(const QString &text)
     {
-        m_text += QString::fromUtf8(m_plain) + text;
+        m_text += fromUtf8(m_plain) + text;
         m_plain.clear();
     }
 

@@ -18,6 +18,7 @@ private slots:
     void isWhatQSettingsReadsAndWrites_data();
     void isWhatQSettingsReadsAndWrites();
     void charactersBeyond16BitsSurvive();
+    void byteOrderMarksSurvive();
 };
 
 namespace {
@@ -130,6 +131,12 @@ void TestIniText::charactersBeyond16BitsSurvive()
     const QString text = QString::fromUtf8("\xF0\x9F\x94\x8C");
     QCOMPARE(iniText(iniValue(text)).value_or("none"), text);
     QCOMPARE(readByQSettings(iniValue(text)), text);
+}
+
+void TestIniText::byteOrderMarksSurvive()
+{
+    const QString text = QStringLiteral("\uFEFFa\n\uFEFFb");
+    QCOMPARE(iniText(iniValue(text)).value_or("none"), text);
 }
 
 QTEST_GUILESS_MAIN(TestIniText)
