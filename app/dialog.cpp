@@ -158,6 +158,10 @@ void Dialog::setUpWindow()
     m_form->splitter->setStretchFactor(0, commandStretch);
     m_form->splitter->setStretchFactor(1, messageStretch);
     m_memory.restore();
+    for (QComboBox *box : m_form->tabWidget->findChildren<QComboBox *>()) {
+        m_wheelGuard.guard(box);
+    }
+    m_wheelGuard.guard(m_form->tabWidget->tabBar());
 }
 
 void Dialog::setUpCommands()

@@ -24,6 +24,7 @@
 #include "statusline.h"
 #include "tablekeys.h"
 #include "windowmemory.h"
+#include "wheelguard.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -119,6 +120,7 @@ private:
 
     std::unique_ptr<Ui::Dialog> m_form;
     WindowMemory m_memory;
+    WheelGuard m_wheelGuard;
     SettingsFile m_settingsFile;
     Settings m_settings;
     int m_maximumInstructionLength;

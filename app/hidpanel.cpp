@@ -78,6 +78,7 @@ void HidPanel::showOpen(bool open)
 {
     if (open) {
         showBusy(*m_form.pushButton_ConnectHID, tr("Linking..."));
+        m_form.pushButton_ConnectHID->setFocus();
     } else {
         showIdle(*m_form.pushButton_ConnectHID, tr("Open HID Device"));
     }

@@ -1,9 +1,8 @@
 #include "looppanel.h"
 
+#include "countvalidator.h"
 #include "styles.h"
 #include "ui_dialog.h"
-
-#include <QIntValidator>
 
 namespace {
 
@@ -59,7 +58,7 @@ int LoopPanel::cycleDelayMs() const
 
 void LoopPanel::prepareTimingFields()
 {
-    auto *milliseconds = new QIntValidator(0, longestMs, this);
+    auto *milliseconds = new CountValidator(longestMs, this);
     for (UnitLineEdit *edit : {m_form.lineEdit_StepValue, m_form.lineEdit_CycleTime}) {
         edit->setUnit(tr("ms"));
         edit->setValidator(milliseconds);

@@ -1,5 +1,6 @@
 #include "serialpanel.h"
 
+#include "countvalidator.h"
 #include "openlist.h"
 #include "portlist.h"
 #include "seriallink.h"
@@ -7,7 +8,6 @@
 #include "styles.h"
 #include "ui_dialog.h"
 
-#include <QIntValidator>
 #include <QSignalBlocker>
 
 SerialPanel::SerialPanel(Ui::Dialog &form, SerialLink &link, QObject *parent)
@@ -77,7 +77,7 @@ void SerialPanel::prepareBaudRate(int index)
     constexpr int editWidth = 70;
     constexpr int editPoints = 11;
     QLineEdit &edit = *box.lineEdit();
-    edit.setValidator(new QIntValidator(0, SerialOptions::highestBaudRate, &edit));
+    edit.setValidator(new CountValidator(SerialOptions::highestBaudRate, &edit));
     edit.setStyleSheet(customBaudRateStyle());
     edit.setMaximumWidth(editWidth);
     edit.setFont(QFont(QStringLiteral("Arial"), editPoints));
@@ -116,6 +116,8 @@ void SerialPanel::showOpen(bool open)
 {
     if (open) {
         showBusy(*m_form.pushButton_OpenCom, tr("Linking..."));
+        // A box that is disabled hands its focus on to the next field.
+        m_form.pushButton_OpenCom->setFocus();
     } else {
         showIdle(*m_form.pushButton_OpenCom, tr("Open Com Port"));
     }

@@ -85,6 +85,7 @@ DirectEditor::DirectEditor(QWidget *parent)
     , m_ui(std::make_unique<Ui::DirectEditor>())
 {
     m_ui->setupUi(this);
+    connectFields();
     m_ui->comboBox_dataType->setCurrentIndex(shortTypeIndex);
     setWindowTitle(tr("edit"));
     setStyleSheet(QLatin1String(editorStyle));
@@ -158,6 +159,22 @@ void DirectEditor::showEvent(QShowEvent *event)
         // From its end, so that its beginning is in view.
         first.setSelection(first.text().size(), -first.text().size());
     }
+}
+
+/// By hand: by their names, Qt would not know which of a box's two signals is meant.
+void DirectEditor::connectFields()
+{
+    const auto typeChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
+    connect(m_ui->lineEdit_originalData, &QLineEdit::textChanged, this,
+            &DirectEditor::on_lineEdit_originalData_textChanged);
+    connect(m_ui->comboBox_dataType, typeChanged, this,
+            &DirectEditor::on_comboBox_dataType_currentIndexChanged);
+    connect(m_ui->comboBox_encode, typeChanged, this,
+            &DirectEditor::on_comboBox_encode_currentIndexChanged);
+    connect(m_ui->pushButton_ok, &QPushButton::clicked, this,
+            &DirectEditor::on_pushButton_ok_clicked);
+    connect(m_ui->pushButton_cancel, &QPushButton::clicked, this,
+            &DirectEditor::on_pushButton_cancel_clicked);
 }
 
 /// Reads the hex in the chosen type. The hex itself stays: only typing a value changes it.

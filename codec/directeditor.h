@@ -56,6 +56,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void connectFields();
     void showValueOfHex();
     void selectType(const QString &rowType);
     EncodedText encodedValue() const;
