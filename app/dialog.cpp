@@ -6,6 +6,7 @@
 #include "headernotice.h"
 #include "lightlook.h"
 #include "scrollablewindow.h"
+#include "linktexts.h"
 #include "styles.h"
 #include "ui_dialog.h"
 #include "version.h"
@@ -66,6 +67,7 @@ Dialog::Dialog(QWidget *parent)
     , m_log(*m_form->tableWidget_Message, this)
     , m_messageCopy(*m_form->tableWidget_Message, m_log, this)
     , m_devices(m_serialLink, m_hidLink, m_log, this)
+    , m_linkStatus(m_status, m_devices, this)
     , m_files(this, dataFolder(), fileHooks())
     , m_recovery(dataFolder(), m_list, [this] { return m_commands.rows(); })
     , m_receivedHeader(*m_form->lineEdit_SBytes, this)
@@ -74,6 +76,8 @@ Dialog::Dialog(QWidget *parent)
     , m_loop(*m_form, m_sender, this)
 {
     setUpWindow();
+    m_linkStatus.follow(m_serialPanel, m_serialLink);
+    m_linkStatus.follow(m_hidPanel, m_hidLink);
     connectLinks();
     connectSending();
     setUpCommands();
@@ -244,7 +248,7 @@ void Dialog::connectLinks()
         const QString port = m_serialLink.openPortName();
         endSerialLink();
         m_timer1.start(refreshAfterEventMs);
-        showMessage(tr("The connection to %1 is lost: %2").arg(port, reason));
+        showMessage(whyLost(port, reason));
     });
     connect(&m_hidLink, &HidLink::arrived, &m_receiver, &Receiver::take);
     connect(&m_hidLink, &HidLink::dropped, &m_log, [this](qint64 bytes) {
@@ -285,6 +289,7 @@ void Dialog::connectSending()
 
 void Dialog::on_tabWidget_currentChanged(int index)
 {
+    m_status.tell({});
     if (index == int(LinkMode::Uart)) {
         setLinkMode(LinkMode::Uart);
         m_hidPanel.close();

@@ -7,6 +7,7 @@
 #include "headlines.h"
 #include "hidlink.h"
 #include "hidpanel.h"
+#include "linkstatus.h"
 #include "liststate.h"
 #include "loopcontrol.h"
 #include "messagecopy.h"
@@ -141,6 +142,7 @@ private:
     MessageLog m_log;
     MessageCopy m_messageCopy;
     DeviceWatch m_devices;
+    LinkStatus m_linkStatus;
     FileActions m_files;
     Recovery m_recovery;
     bool m_isEnding = false;

@@ -2,6 +2,7 @@
 
 #include "datafolder.h"
 #include "hidlink.h"
+#include "linktexts.h"
 #include "openlist.h"
 #include "styles.h"
 #include "ui_dialog.h"
@@ -58,11 +59,14 @@ bool HidPanel::open()
 {
     const auto reportId =
         static_cast<quint8>(m_form.lineEdit_RpID->text().toUInt(nullptr, hexBase));
+    const QString path = m_form.comboBox_Hid_Device->currentText();
     close();
-    if (!m_link.open(m_form.comboBox_Hid_Device->currentText(), reportId)) {
+    if (!m_link.open(path, reportId)) {
+        emit failed(whyHidFailed(path, m_link.idsOf(path), m_link.failure()));
         return false;
     }
     showOpen(true);
+    emit linkChanged(describeLink({path, m_link.ids(), m_link.packetSize(), reportId}));
     return true;
 }
 
@@ -71,6 +75,7 @@ void HidPanel::close()
     if (m_link.isOpen()) {
         m_link.close();
         showOpen(false);
+        emit linkChanged({});
     }
 }
 

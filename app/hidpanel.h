@@ -25,6 +25,13 @@ public:
     /// Closes the device, if one is open.
     void close();
 
+signals:
+    /// What is open from now on, and what its reports are like; empty for nothing.
+    void linkChanged(const QString &description);
+
+    /// The device did not open, for this reason.
+    void failed(const QString &reason);
+
 private:
     void showOpen(bool open);
 

@@ -1,6 +1,7 @@
 #include "serialpanel.h"
 
 #include "countvalidator.h"
+#include "linktexts.h"
 #include "openlist.h"
 #include "portlist.h"
 #include "seriallink.h"
@@ -40,17 +41,14 @@ void SerialPanel::refreshPorts(const QString &linksFolder)
 bool SerialPanel::open()
 {
     close();
-    m_chosenPortName = m_form.comboBox_Comm->currentText();
-    SerialSettings settings;
-    settings.portName = m_chosenPortName;
-    settings.baudRate = baudRate();
-    settings.dataBits = SerialOptions::dataBitsAt(m_form.comboBox_DataBit->currentIndex());
-    settings.parity = SerialOptions::parityAt(m_form.comboBox_Parity->currentIndex());
-    settings.stopBits = SerialOptions::stopBitsAt(m_form.comboBox_StopBit->currentIndex());
+    const SerialSettings settings = chosenSettings();
+    m_chosenPortName = settings.portName;
     if (!m_link.open(settings)) {
+        emit failed(whyPortFailed(settings.portName, m_link.failure()));
         return false;
     }
     showOpen(true);
+    emit linkChanged(describeLink(settings));
     return true;
 }
 
@@ -59,6 +57,7 @@ void SerialPanel::close()
     if (m_link.isOpen()) {
         m_link.close();
         showOpen(false);
+        emit linkChanged({});
     }
 }
 
@@ -94,6 +93,17 @@ void SerialPanel::fillOptions()
     m_form.comboBox_Parity->addItems(SerialOptions::parities());
     m_form.comboBox_StopBit->addItems(SerialOptions::stopBits());
     m_form.comboBox_StopBit->setEditable(false);
+}
+
+SerialSettings SerialPanel::chosenSettings() const
+{
+    SerialSettings settings;
+    settings.portName = m_form.comboBox_Comm->currentText();
+    settings.baudRate = baudRate();
+    settings.dataBits = SerialOptions::dataBitsAt(m_form.comboBox_DataBit->currentIndex());
+    settings.parity = SerialOptions::parityAt(m_form.comboBox_Parity->currentIndex());
+    settings.stopBits = SerialOptions::stopBitsAt(m_form.comboBox_StopBit->currentIndex());
+    return settings;
 }
 
 qint32 SerialPanel::baudRate() const

@@ -6,6 +6,7 @@ namespace Ui {
 class Dialog;
 }
 class SerialLink;
+struct SerialSettings;
 
 /// The "Uart" tab: its option lists, and the port opened and closed as they say.
 class SerialPanel : public QObject
@@ -28,8 +29,16 @@ public:
     /// Makes the baud rate box ready for the rate that was picked: "custom" is typed by hand.
     void prepareBaudRate(int index);
 
+signals:
+    /// What is open from now on, with its settings; empty for nothing.
+    void linkChanged(const QString &description);
+
+    /// The port did not open, for this reason.
+    void failed(const QString &reason);
+
 private:
     void fillOptions();
+    SerialSettings chosenSettings() const;
     qint32 baudRate() const;
     void selectPort(int index);
     void showOpen(bool open);

@@ -33,7 +33,10 @@ StatusLine::StatusLine(QList<QLabel *> labels, QObject *parent)
 void StatusLine::showLink(const QString &text)
 {
     m_link = text;
-    tell({});
+    if (!text.isEmpty()) {
+        m_told.clear();
+    }
+    show();
 }
 
 void StatusLine::tell(const QString &text)

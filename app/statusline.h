@@ -18,8 +18,8 @@ public:
     /// The labels must outlive this.
     explicit StatusLine(QList<QLabel *> labels, QObject *parent = nullptr);
 
-    /// Shows the open link until the next call; nothing is open where the text is empty. What was
-    /// told before goes.
+    /// Shows the open link until the next call; nothing is open where the text is empty. With an
+    /// open link, what was told before it goes.
     void showLink(const QString &text);
 
     /// Shows the text in place of the one told before; an empty one clears it.

@@ -1,6 +1,7 @@
 #include "hidlink.h"
 
 #include "hiddevices.h"
+#include "nodeaccess.h"
 #include "reports.h"
 
 #include <QCoreApplication>
@@ -59,6 +60,7 @@ bool HidLink::open(const QString &path, quint8 reportId)
 {
     close();
     if (!m_thread.openByPath(path)) {
+        m_failure = examineDevice(path);
         return false;
     }
     const DeviceIds ids = idsOf(path);

@@ -3,6 +3,7 @@
 #include "exacttiming.h"
 #include "hidthread.h"
 #include "link.h"
+#include "openfailure.h"
 #include "reportinbox.h"
 
 #include <QHash>
@@ -28,6 +29,8 @@ public:
 
     /// Opens the device at a path, after closing the one that is open. Returns whether it is open.
     bool open(const QString &path, quint8 reportId);
+    /// Why the last attempt to open a device failed, if it did.
+    const OpenFailure &failure() const { return m_failure; }
     /// Stops the worker and closes the device. What has arrived is signalled before, and nothing
     /// that the device had sent is after.
     void close();
@@ -45,6 +48,8 @@ public:
     int packetSize() const { return m_thread.packetSize(); }
     /// The path of the device opened last.
     QString openPath() const { return m_openPath; }
+    /// IDs of a device by its path; zeros where neither the path nor the listing tells them.
+    DeviceIds idsOf(const QString &path) const;
     /// IDs of the device opened last.
     DeviceIds ids() const { return {m_thread.vendorId(), m_thread.productId()}; }
 
@@ -59,13 +64,13 @@ signals:
 
 private:
     void shutDown();
-    DeviceIds idsOf(const QString &path) const;
 
     QString m_deviceIdFile;
     /// What the system said about the paths listed last, since not every path tells its IDs.
     QHash<QString, DeviceIds> m_listedIds;
     QString m_openPath;
     quint8 m_reportId = 0;
+    OpenFailure m_failure;
     /// Held while a device is open.
     std::optional<ExactTiming> m_timing;
     HidThread m_thread;

@@ -1,5 +1,6 @@
 #include "seriallink.h"
 
+#include "nodeaccess.h"
 #include "portstate.h"
 
 #include <utility>
@@ -40,6 +41,7 @@ bool SerialLink::open(const SerialSettings &settings)
     m_failed = false;
     m_vainReads = 0;
     if (!m_port.open(QIODevice::ReadWrite)) {
+        m_failure = failureToOpen();
         return false;
     }
     enlargeIncomingBuffer(qintptr(m_port.handle()));
@@ -156,6 +158,18 @@ void SerialLink::onError(QSerialPort::SerialPortError error)
 void SerialLink::resumeReading()
 {
     m_port.setReadBufferSize(m_port.readBufferSize());
+}
+
+OpenFailure SerialLink::failureToOpen() const
+{
+    const OpenFailure access = examineDevice(m_port.portName());
+    if (!access.words.isEmpty()) {
+        return access;
+    }
+    // The user may use the port, so what forbids it is another one who does.
+    const bool isBusy = m_port.error() == QSerialPort::PermissionError;
+    return {
+        isBusy ? OpenFailure::Cause::Busy : OpenFailure::Cause::Other, m_port.errorString(), {}};
 }
 
 void SerialLink::reportLoss(const QString &reason)

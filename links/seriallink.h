@@ -3,6 +3,7 @@
 #include "arrivalwait.h"
 #include "exacttiming.h"
 #include "link.h"
+#include "openfailure.h"
 
 #include <QObject>
 #include <QSerialPort>
@@ -34,6 +35,9 @@ public:
     /// open.
     bool open(const SerialSettings &settings);
 
+    /// Why the last attempt to open a port failed, if it did.
+    const OpenFailure &failure() const { return m_failure; }
+
     /// Hands up what has been announced, drops what is still to be sent or read, and closes the
     /// port.
     void close();
@@ -64,10 +68,12 @@ private:
     void onReadyRead();
     void onError(QSerialPort::SerialPortError error);
     void resumeReading();
+    OpenFailure failureToOpen() const;
     void reportLoss(const QString &reason);
 
     QSerialPort m_port;
     QString m_openPortName;
+    OpenFailure m_failure;
     /// Held while the port is open.
     std::optional<ExactTiming> m_timing;
     ArrivalWait m_wait;

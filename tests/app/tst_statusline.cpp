@@ -79,6 +79,8 @@ void TestStatusLine::whatIsOpenStaysWhatWasToldGoes()
     m_status->tell("two");
     QCOMPARE(shown(), QString("ttyUSB0 115200 8N1\ntwo"));
     m_status->showLink({});
+    QCOMPARE(shown(), QString("two"));
+    m_status->tell({});
     QCOMPARE(shown(), QString());
 }
 

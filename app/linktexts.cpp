@@ -1,0 +1,109 @@
+#include "linktexts.h"
+
+#include "hextext.h"
+#include "seriallink.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+constexpr int longestPath = 48;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("LinkTexts", text);
+}
+
+QString parityLetter(QSerialPort::Parity parity)
+{
+    switch (parity) {
+    case QSerialPort::EvenParity:
+        return QStringLiteral("E");
+    case QSerialPort::OddParity:
+        return QStringLiteral("O");
+    default:
+        return QStringLiteral("N");
+    }
+}
+
+QString stopBitsText(QSerialPort::StopBits bits)
+{
+    switch (bits) {
+    case QSerialPort::TwoStop:
+        return QStringLiteral("2");
+    case QSerialPort::OneAndHalfStop:
+        return QStringLiteral("1.5");
+    default:
+        return QStringLiteral("1");
+    }
+}
+
+QString shortened(const QString &path)
+{
+    constexpr int half = (longestPath - 1) / 2;
+    return path.size() <= longestPath ? path : path.left(half) + QChar(0x2026) + path.right(half);
+}
+
+/// The device's name and the system's words about it.
+QString plainReason(const QString &name, const OpenFailure &failure)
+{
+    const QString words = failure.words.isEmpty() ? tr("cannot be opened") : failure.words;
+    return QStringLiteral("%1: %2.").arg(name, words);
+}
+
+} // namespace
+
+QString describeLink(const SerialSettings &settings)
+{
+    return QStringLiteral("%1 %2 %3%4%5")
+        .arg(settings.portName, QString::number(settings.baudRate),
+             QString::number(settings.dataBits), parityLetter(settings.parity),
+             stopBitsText(settings.stopBits));
+}
+
+QString describeLink(const HidDescription &device)
+{
+    QString name = shortened(device.path);
+    if (parseDeviceIds(device.path) != device.ids) {
+        name += QLatin1Char(' ') + deviceIdsText(device.ids);
+    }
+    constexpr int idDigits = 2;
+    return tr("%1, %2 bytes, report ID 0x%3")
+        .arg(name, QString::number(device.packetSize), paddedHex(device.reportId, idDigits));
+}
+
+QString whyPortFailed(const QString &portName, const OpenFailure &failure)
+{
+    if (portName.isEmpty()) {
+        return tr("No port is chosen.");
+    }
+    if (failure.cause == OpenFailure::Cause::Busy) {
+        return tr("%1 is in use by another program (%2).").arg(portName, failure.words);
+    }
+    const QString reason = plainReason(portName, failure);
+    if (failure.group.isEmpty()) {
+        return reason;
+    }
+    return tr("%1 It belongs to the group %2. To join it: sudo adduser \"$USER\" %2, then log in "
+              "again.")
+        .arg(reason, failure.group);
+}
+
+QString whyLost(const QString &name, const QString &reason)
+{
+    return tr("The connection to %1 is lost: %2").arg(name, reason);
+}
+
+QString whyHidFailed(const QString &path, DeviceIds ids, const OpenFailure &failure)
+{
+    if (path.isEmpty()) {
+        return tr("No device is chosen.");
+    }
+    const QString reason = plainReason(shortened(path), failure);
+    if (failure.cause != OpenFailure::Cause::NoPermission) {
+        return reason;
+    }
+    return tr("%1 A udev rule helps: copy 70-tarnwick.rules to /etc/udev/rules.d, with a line for "
+              "%2, and plug the device in again.")
+        .arg(reason, deviceIdsText(ids));
+}
