@@ -9,7 +9,7 @@
 namespace {
 
 /// Characters that fit into a line of the side panel.
-constexpr int lineLength = 32;
+constexpr int lineLength = 30;
 
 QString toHtml(const QString &text)
 {
@@ -74,7 +74,7 @@ QString StatusLine::plainText() const
 {
     QStringList lines{m_link, m_told};
     lines.removeAll(QString());
-    return withLineBreaks(lines.join(QLatin1Char('\n')), lineLength);
+    return withLineBreaks(lines.join(QLatin1String("\n\n")), lineLength);
 }
 
 QString StatusLine::htmlText() const
@@ -83,7 +83,7 @@ QString StatusLine::htmlText() const
                       toHtml(m_offer) +
                           QStringLiteral(" <a href=\"#\">%1</a>").arg(toHtml(m_linkText))};
     lines.removeAll(QString());
-    return lines.join(QLatin1String("<br>"));
+    return lines.join(QLatin1String("<br><br>"));
 }
 
 /// Runs when the label is done with the click, since the action may take the link away.

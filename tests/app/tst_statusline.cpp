@@ -77,7 +77,7 @@ void TestStatusLine::whatIsOpenStaysWhatWasToldGoes()
     QCOMPARE(shown(), QString("ttyUSB0 115200 8N1"));
     m_status->tell("one");
     m_status->tell("two");
-    QCOMPARE(shown(), QString("ttyUSB0 115200 8N1\ntwo"));
+    QCOMPARE(shown(), QString("ttyUSB0 115200 8N1\n\ntwo"));
     m_status->showLink({});
     QCOMPARE(shown(), QString("two"));
     m_status->tell({});
@@ -100,7 +100,7 @@ void TestStatusLine::textsArePlain()
     m_status->tell(text);
     QCOMPARE(shown(), text);
     m_status->offer(text, text, [] {});
-    QCOMPARE(shown(), text + "\n" + text + " " + text);
+    QCOMPARE(shown(), text + "\n\n" + text + " " + text);
 }
 
 void TestStatusLine::anOfferIsTakenUpByMouse()
@@ -134,7 +134,7 @@ void TestStatusLine::anOfferOutlivesWhatIsTold()
     m_status->offer("A list was not saved.", "Open", [] {});
     m_status->tell("told");
     m_status->showLink("COM3");
-    QCOMPARE(shown(), QString("COM3\nA list was not saved. Open"));
+    QCOMPARE(shown(), QString("COM3\n\nA list was not saved. Open"));
     QVERIFY(hasLink());
 }
 
