@@ -76,6 +76,7 @@ Dialog::Dialog(QWidget *parent)
     , m_loop(*m_form, m_sender, this)
 {
     setUpWindow();
+    m_headlines.follow(m_log);
     m_linkStatus.follow(m_serialPanel, m_serialLink);
     m_linkStatus.follow(m_hidPanel, m_hidLink);
     connectLinks();

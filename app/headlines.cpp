@@ -1,6 +1,7 @@
 #include "headlines.h"
 
 #include "liststate.h"
+#include "messagelog.h"
 #include "ui_dialog.h"
 
 #include <QDir>
@@ -13,8 +14,19 @@ Headlines::Headlines(Ui::Dialog &form, const ListState &list, QObject *parent)
     connect(&m_list, &ListState::changed, this, &Headlines::showList);
 }
 
+void Headlines::follow(const MessageLog &log)
+{
+    connect(&log, &MessageLog::countChanged, this, &Headlines::showMessageCount);
+    showMessageCount(log.count());
+}
+
 void Headlines::showList()
 {
     m_form.label_ListName->setText(m_list.title());
     m_form.label_ListName->setToolTip(QDir::toNativeSeparators(m_list.path()));
+}
+
+void Headlines::showMessageCount(int count)
+{
+    m_form.label_MessageCount->setText(tr("%1 of %2").arg(count).arg(MessageLog::mostRows));
 }

@@ -15,7 +15,6 @@ namespace {
 constexpr int columnCount = 8;
 constexpr int filledColumns = 7;
 constexpr int initialRows = 9;
-constexpr int fullCount = 1024;
 constexpr int rowsAtOncePerFrame = 64;
 constexpr int numberColumn = 0;
 constexpr int dataColumn = 5;
@@ -130,7 +129,7 @@ void MessageLog::append(Entry entry, Direction direction)
 
 void MessageLog::makeRoom()
 {
-    if (m_count > fullCount) {
+    if (m_count >= mostRows) {
         forgetAll();
     }
 }

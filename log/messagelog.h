@@ -24,6 +24,9 @@ class MessageLog : public QObject
     Q_OBJECT
 
 public:
+    /// Rows that it is filled with before it empties itself.
+    static constexpr int mostRows = 1025;
+
     /// Which way a row's bytes went; an event has none.
     enum class Direction { None, Sent, Received };
 

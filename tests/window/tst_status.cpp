@@ -35,6 +35,7 @@ private slots:
     void savingTellsWhere();
     void theListHasItsFilesName();
     void theListIsMarkedWhileModified();
+    void theLogTellsHowFullItIs();
 
 private:
     QTemporaryDir m_folder;
@@ -266,6 +267,24 @@ void TestStatus::theListIsMarkedWhileModified()
     QCOMPARE(listTitle(window), QString("valve.txt"));
     window.setRow(1, "01", "0300", "02");
     QCOMPARE(listTitle(window), QString("valve.txt*"));
+}
+
+void TestStatus::theLogTellsHowFullItIs()
+{
+    WindowDriver window;
+    const auto *count = window.find<QLabel>("label_MessageCount");
+    QCOMPARE(count->text(), QString("0 of 1025"));
+    auto *log = window.window().findChild<MessageLog *>();
+    log->appendNotice("one");
+    QTRY_COMPARE(count->text(), QString("1 of 1025"));
+    for (int i = 1; i < 1025; ++i) {
+        log->appendNotice("more");
+    }
+    QTRY_COMPARE(count->text(), QString("1025 of 1025"));
+    log->appendNotice("one too many");
+    QTRY_COMPARE(count->text(), QString("1 of 1025"));
+    window.click("pushButton_ClearMessage");
+    QTRY_COMPARE(count->text(), QString("0 of 1025"));
 }
 
 QTEST_MAIN(TestStatus)
