@@ -5,8 +5,8 @@
 #include "fieldcutter.h"
 #include "headernotice.h"
 #include "lightlook.h"
-#include "scrollablewindow.h"
 #include "linktexts.h"
+#include "scrollablewindow.h"
 #include "styles.h"
 #include "ui_dialog.h"
 #include "version.h"
@@ -49,6 +49,7 @@ Dialog::Dialog(QWidget *parent)
     : QDialog(parent)
     , m_form(makeForm(this))
     , m_memory(*this, *m_form->splitter, dataFile(QStringLiteral("window.ini")), this)
+    , m_wheelGuard(*m_form->tabWidget)
     , m_settingsFile(dataFile(QStringLiteral("debuggerConfig.ini")))
     , m_settings(m_settingsFile.load())
     , m_maximumInstructionLength(longestInstruction)
@@ -163,10 +164,6 @@ void Dialog::setUpWindow()
     m_form->splitter->setStretchFactor(0, commandStretch);
     m_form->splitter->setStretchFactor(1, messageStretch);
     m_memory.restore();
-    for (QComboBox *box : m_form->tabWidget->findChildren<QComboBox *>()) {
-        m_wheelGuard.guard(box);
-    }
-    m_wheelGuard.guard(m_form->tabWidget->tabBar());
 }
 
 void Dialog::setUpCommands()

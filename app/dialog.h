@@ -24,8 +24,8 @@
 #include "settings.h"
 #include "statusline.h"
 #include "tablekeys.h"
-#include "windowmemory.h"
 #include "wheelguard.h"
+#include "windowmemory.h"
 
 #include <QDialog>
 #include <QTimer>

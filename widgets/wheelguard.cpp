@@ -1,6 +1,18 @@
 #include "wheelguard.h"
 
+#include <QComboBox>
 #include <QEvent>
+#include <QTabBar>
+#include <QTabWidget>
+
+WheelGuard::WheelGuard(const QTabWidget &tabs, QObject *parent)
+    : QObject(parent)
+{
+    for (QComboBox *box : tabs.findChildren<QComboBox *>()) {
+        box->installEventFilter(this);
+    }
+    tabs.tabBar()->installEventFilter(this);
+}
 
 bool WheelGuard::eventFilter(QObject * /*object*/, QEvent *event)
 {

@@ -2,17 +2,18 @@
 
 #include <QObject>
 
-/// Keeps the wheel from choosing in widgets that it merely passes. The wheel then does nothing
-/// there; keys, the mouse and an open list work as ever.
+class QTabWidget;
+
+/// Keeps the wheel from choosing in the boxes that it merely passes on a tab widget's pages, and
+/// from changing the page. The wheel then does nothing there; keys, the mouse and an open list work
+/// as ever.
 class WheelGuard : public QObject
 {
     Q_OBJECT
 
 public:
-    using QObject::QObject;
-
-    /// Guards a widget that must not outlive this.
-    void guard(QObject *widget) { widget->installEventFilter(this); }
+    /// Guards the boxes that the tabs have by now.
+    explicit WheelGuard(const QTabWidget &tabs, QObject *parent = nullptr);
 
     bool eventFilter(QObject *object, QEvent *event) override;
 };
