@@ -8,6 +8,23 @@
 #include <QShortcut>
 #include <QTableWidget>
 
+namespace {
+
+QString directionMark(MessageLog::Direction direction)
+{
+    switch (direction) {
+    case MessageLog::Direction::Sent:
+        return QStringLiteral("TX ");
+    case MessageLog::Direction::Received:
+        return QStringLiteral("RX ");
+    case MessageLog::Direction::None:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
 MessageCopy::MessageCopy(QTableWidget &table, MessageLog &log, QObject *parent)
     : QObject(parent)
     , m_table(table)
@@ -22,11 +39,12 @@ void MessageCopy::copySelectedRows()
 {
     const QVector<MessageRow> rows = m_log.rows();
     const QItemSelectionModel &selection = *m_table.selectionModel();
-    QVector<MessageRow> selected;
+    QString text;
     for (int row = 0; row < rows.size(); ++row) {
-        if (selection.isRowSelected(row, {})) {
-            selected.append(rows.at(row));
+        const QString line = messageLine(rows.at(row));
+        if (selection.isRowSelected(row, {}) && !line.isEmpty()) {
+            text += directionMark(m_log.direction(row)) + line + QLatin1Char('\n');
         }
     }
-    QApplication::clipboard()->setText(messageFileText(selected));
+    QApplication::clipboard()->setText(text);
 }

@@ -5,8 +5,8 @@
 class MessageLog;
 class QTableWidget;
 
-/// The copy key in the message log: puts the selected rows on the clipboard, as a saved log would
-/// show them.
+/// The copy key in the message log: puts the selected rows on the clipboard, each as a saved log
+/// would show it, with "TX" or "RX" in front of what was sent or received.
 class MessageCopy : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,18 @@ void LogTable::growTo(int rows)
 
 void LogTable::showEnd()
 {
+    QScrollBar &bar = *verticalScrollBar();
+    if (bar.maximum() > 0) {
+        // All rows are of one height. A layout that finds the range too short would move the rows
+        // without moving what is painted of them.
+        bar.setMaximum(bar.maximum() + rowCount() - m_rowsLaidOut);
+        bar.setValue(bar.maximum());
+    }
+    const int offset = verticalHeader()->offset();
     updateGeometries();
+    if (verticalHeader()->offset() != offset) {
+        viewport()->update();
+    }
     scrollToBottom();
 }
 
@@ -31,6 +42,7 @@ void LogTable::doItemsLayout()
 void LogTable::updateGeometries()
 {
     QTableWidget::updateGeometries();
+    m_rowsLaidOut = rowCount();
     const bool covered =
         verticalScrollBar()->maximum() > 0 && horizontalHeader()->length() >= viewport()->width();
     if (covered != viewport()->testAttribute(Qt::WA_OpaquePaintEvent)) {

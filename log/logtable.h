@@ -24,4 +24,5 @@ protected:
 
 private:
     bool m_growing = false;
+    int m_rowsLaidOut = 0;
 };

@@ -1,7 +1,10 @@
 #include "messagelog.h"
 #include "windowdriver.h"
 
+#include <QHeaderView>
+#include <QPaintEvent>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QtTest>
 
 class TestSteadyLog : public QObject
@@ -13,6 +16,8 @@ private slots:
     void rowsThatAreInStayOnTheScreen();
     void aLoopAtWorkStaysOnTheScreen_data();
     void aLoopAtWorkStaysOnTheScreen();
+    void aNewRowIsAllThatIsPainted();
+    void whatWasMovedLooksAsPaintedAnew();
 };
 
 namespace {
@@ -74,6 +79,38 @@ int flashesUntil(WindowDriver &window, int rows)
     return log.count() >= rows ? flashes : -1;
 }
 
+/// What is painted of a widget, and how often.
+class PaintedRegion : public QObject
+{
+public:
+    explicit PaintedRegion(QWidget &widget) { widget.installEventFilter(this); }
+
+    int paints() const { return m_paints; }
+    QRegion region() const { return m_region; }
+
+    bool eventFilter(QObject * /*object*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            ++m_paints;
+            m_region += static_cast<QPaintEvent *>(event)->region();
+        }
+        return false;
+    }
+
+private:
+    int m_paints = 0;
+    QRegion m_region;
+};
+
+/// Appends a row and waits until it is painted.
+void appendAndSee(MessageLog &log)
+{
+    QSignalSpy movedOn(&log, &MessageLog::countChanged);
+    log.appendReceived(hexText, false);
+    QVERIFY(!movedOn.isEmpty() || movedOn.wait());
+    QCoreApplication::processEvents();
+}
+
 /// Fills what is in view of the log.
 void fillView(WindowDriver &window)
 {
@@ -84,6 +121,7 @@ void fillView(WindowDriver &window)
         log.appendReceived(hexText, false);
     }
     QTRY_COMPARE(blankRows(window), 0);
+    appendAndSee(log);
 }
 
 } // namespace
@@ -153,6 +191,44 @@ void TestSteadyLog::aLoopAtWorkStaysOnTheScreen()
     constexpr int frames = 80;
     const int before = window.window().findChild<MessageLog *>()->count();
     QCOMPARE(flashesUntil(window, before + frames), 0);
+}
+
+void TestSteadyLog::aNewRowIsAllThatIsPainted()
+{
+    constexpr int rows = 20;
+    WindowDriver window;
+    QVERIFY(QTest::qWaitForWindowExposed(&window.window()));
+    fillView(window);
+    auto &log = *window.window().findChild<MessageLog *>();
+    const PaintedRegion cells(*window.messages()->viewport());
+    const PaintedRegion header(*window.messages()->horizontalHeader()->viewport());
+    for (int row = 1; row <= rows; ++row) {
+        appendAndSee(log);
+        QCOMPARE(cells.paints(), row);
+    }
+    QVERIFY2(cells.region().boundingRect().height() <= 2 * rowHeight,
+             qPrintable(QString::number(cells.region().boundingRect().height())));
+    QCOMPARE(header.paints(), 0);
+}
+
+void TestSteadyLog::whatWasMovedLooksAsPaintedAnew()
+{
+    constexpr int more = 7;
+    WindowDriver window;
+    QVERIFY(QTest::qWaitForWindowExposed(&window.window()));
+    fillView(window);
+    auto &log = *window.window().findChild<MessageLog *>();
+    window.messages()->selectRow(log.count() - 2);
+    for (int row = 0; row < more; ++row) {
+        log.appendSent(hexText, false);
+        appendAndSee(log);
+    }
+    const QImage moved = shownLog(window);
+    QWidget &viewport = *window.messages()->viewport();
+    const PaintedRegion painted(viewport);
+    viewport.update();
+    QTRY_COMPARE(painted.region().boundingRect(), viewport.rect());
+    QCOMPARE(moved, shownLog(window));
 }
 
 QTEST_MAIN(TestSteadyLog)

@@ -162,14 +162,25 @@ void TestWorkbench::selectedLogRowsAreCopied()
     TestPort port;
     window.open(port);
     window.setRow(0, "01", "0300", "000001");
+    auto &log = *window.window().findChild<MessageLog *>();
     window.call("SendOne");
     window.call("SendOne");
+    log.appendReceived("5A A5 06 01 03 00 00 00 02 ", false);
+    log.appendNotice("00 ");
+    log.appendEvent("HID", "Insert x");
+    log.appendEvent("Uart", "Insert y");
     window.window().activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window.window()));
-    window.messages()->selectRow(1);
     window.messages()->setFocus();
+    window.messages()->selectAll();
+    window.messages()->selectionModel()->select(window.messages()->model()->index(0, 0),
+                                                QItemSelectionModel::Deselect |
+                                                    QItemSelectionModel::Rows);
     QTest::keySequence(window.messages(), QKeySequence::Copy);
-    QCOMPARE(QApplication::clipboard()->text(), QString("2, 5A A5  06  01 0300  00 00 01  \n"));
+    QCOMPARE(QApplication::clipboard()->text(), QString("TX 2, 5A A5  06  01 0300  00 00 01  \n"
+                                                        "RX 3, 5A A5  06  01 0300  00 00 02  \n"
+                                                        "RX 4,     00  \n"
+                                                        "HID,     Insert x \n"));
 }
 
 void TestWorkbench::theEditorWritesIntoItsRow()
