@@ -1,7 +1,15 @@
 #include "logtable.h"
 
+#include "stillscrollbar.h"
+
 #include <QHeaderView>
-#include <QScrollBar>
+
+LogTable::LogTable(QWidget *parent)
+    : QTableWidget(parent)
+    , m_bar(new StillScrollBar(Qt::Vertical, this))
+{
+    setVerticalScrollBar(m_bar);
+}
 
 void LogTable::growTo(int rows)
 {
@@ -15,12 +23,11 @@ void LogTable::growTo(int rows)
 
 void LogTable::showEnd()
 {
-    QScrollBar &bar = *verticalScrollBar();
-    if (bar.maximum() > 0) {
+    executeDelayedItemsLayout();
+    if (m_bar->maximum() > 0) {
         // All rows are of one height. A layout that finds the range too short would move the rows
         // without moving what is painted of them.
-        bar.setMaximum(bar.maximum() + rowCount() - m_rowsLaidOut);
-        bar.setValue(bar.maximum());
+        m_bar->goToEnd(m_bar->maximum() + rowCount() - m_rowsLaidOut);
     }
     const int offset = verticalHeader()->offset();
     updateGeometries();
@@ -44,7 +51,7 @@ void LogTable::updateGeometries()
     QTableWidget::updateGeometries();
     m_rowsLaidOut = rowCount();
     const bool covered =
-        verticalScrollBar()->maximum() > 0 && horizontalHeader()->length() >= viewport()->width();
+        m_bar->maximum() > 0 && horizontalHeader()->length() >= viewport()->width();
     if (covered != viewport()->testAttribute(Qt::WA_OpaquePaintEvent)) {
         viewport()->setAttribute(Qt::WA_OpaquePaintEvent, covered);
     }

@@ -2,6 +2,8 @@
 
 #include <QTableWidget>
 
+class StillScrollBar;
+
 /// The table of the message log, which grows at its end many times a second.
 ///
 /// A table that gets a row lays itself out and paints itself as a whole. This one moves what is
@@ -9,7 +11,7 @@
 class LogTable : public QTableWidget
 {
 public:
-    using QTableWidget::QTableWidget;
+    explicit LogTable(QWidget *parent = nullptr);
 
     /// Appends rows; what was in view stays there.
     void growTo(int rows);
@@ -23,6 +25,7 @@ protected:
     void updateGeometries() override;
 
 private:
+    StillScrollBar *m_bar;
     bool m_growing = false;
     int m_rowsLaidOut = 0;
 };

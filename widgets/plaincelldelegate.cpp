@@ -12,19 +12,40 @@ const QColor selectedBackground(0xF5, 0xF5, 0xF5);
 const QColor selectedText(0x33, 0x33, 0x33);
 const QColor line(0xF3, 0xF3, 0xF3);
 
-/// The line's height is rounded as the style does it; a painter that centres by itself may come out
-/// a pixel lower.
-void paintText(QPainter &painter, const QStyleOptionViewItem &cell)
+bool isSelected(const QStyleOptionViewItem &option)
 {
-    const int margin = cell.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
-    const QRect room = cell.rect.adjusted(margin, 0, -margin, -1);
-    const QRect place = QStyle::alignedRect(cell.direction, cell.displayAlignment,
-                                            {room.width(), cell.fontMetrics.height()}, room);
-    const Qt::Alignment sideways = cell.displayAlignment & Qt::AlignHorizontal_Mask;
-    painter.setPen(cell.palette.color(QPalette::Text));
-    painter.setFont(cell.font);
-    painter.drawText(place, int(sideways) | Qt::TextSingleLine | Qt::TextDontClip,
-                     cell.fontMetrics.elidedText(cell.text, cell.textElideMode, place.width()));
+    return option.state & QStyle::State_Selected;
+}
+
+QFont fontOf(const QModelIndex &index, const QStyleOptionViewItem &option)
+{
+    const QVariant font = index.data(Qt::FontRole);
+    return font.isValid() ? font.value<QFont>().resolve(option.font) : option.font;
+}
+
+Qt::Alignment alignmentOf(const QModelIndex &index, const QStyleOptionViewItem &option)
+{
+    const QVariant alignment = index.data(Qt::TextAlignmentRole);
+    return alignment.isValid() ? Qt::Alignment(alignment.toInt()) : option.displayAlignment;
+}
+
+/// A text with a colour of its own keeps it when selected, which no style sheet grants it.
+QColor colourOf(const QModelIndex &index, const QStyleOptionViewItem &option)
+{
+    const QVariant colour = index.data(Qt::ForegroundRole);
+    if (colour.isValid()) {
+        return colour.value<QBrush>().color();
+    }
+    return isSelected(option) ? selectedText : option.palette.color(QPalette::Text);
+}
+
+/// How far from the left a text begins that leaves so much of its place free.
+qreal shiftOf(Qt::Alignment alignment, qreal spare)
+{
+    if (alignment & Qt::AlignHCenter) {
+        return spare / 2;
+    }
+    return alignment & Qt::AlignRight ? spare : 0;
 }
 
 void paintFocus(QPainter &painter, const QStyleOptionViewItem &cell)
@@ -42,20 +63,55 @@ void paintFocus(QPainter &painter, const QStyleOptionViewItem &cell)
 void PlainCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const
 {
-    QStyleOptionViewItem cell = option;
-    initStyleOption(&cell, index);
-    const bool isSelected = cell.state & QStyle::State_Selected;
-    // A text with a colour of its own keeps it, which no style sheet grants it.
-    if (isSelected && !index.data(Qt::ForegroundRole).isValid()) {
-        cell.palette.setColor(QPalette::Text, selectedText);
-    }
-    painter->fillRect(cell.rect, isSelected ? selectedBackground : background);
-    painter->fillRect(QRect(cell.rect.bottomLeft(), QSize(cell.rect.width(), 1)), line);
-    if (!cell.text.isEmpty()) {
-        paintText(*painter, cell);
-    }
-    if (cell.state & QStyle::State_HasFocus) {
+    painter->fillRect(option.rect, isSelected(option) ? selectedBackground : background);
+    painter->fillRect(QRect(option.rect.bottomLeft(), QSize(option.rect.width(), 1)), line);
+    paintText(*painter, option, index);
+    if (option.state & QStyle::State_HasFocus) {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
         paintFocus(*painter, cell);
     }
-    paintSelectionBar(*painter, cell, index);
+    paintSelectionBar(*painter, option, index);
+}
+
+/// The line's height is rounded as the style does it; a painter that centres by itself may come out
+/// a pixel lower.
+void PlainCellDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &option,
+                                  const QModelIndex &index) const
+{
+    const QString text = index.data().toString();
+    if (text.isEmpty()) {
+        return;
+    }
+    const QFont font = fontOf(index, option);
+    const QFontMetrics metrics(font);
+    const Qt::Alignment alignment = alignmentOf(index, option);
+    const int margin = option.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    const QRect room = option.rect.adjusted(margin, 0, -margin, -1);
+    const QRect place =
+        QStyle::alignedRect(option.direction, alignment, {room.width(), metrics.height()}, room);
+    const QStaticText *laid = &laidOut(text, font);
+    if (laid->size().width() > place.width()) {
+        laid = &laidOut(metrics.elidedText(text, option.textElideMode, place.width()), font);
+    }
+    const qreal shift = shiftOf(alignment, place.width() - laid->size().width());
+    painter.setPen(colourOf(index, option));
+    painter.setFont(font);
+    painter.drawStaticText(QPointF(place.left() + shift, place.top()), *laid);
+}
+
+const QStaticText &PlainCellDelegate::laidOut(const QString &text, const QFont &font) const
+{
+    if (font != m_font) {
+        m_texts.clear();
+        m_font = font;
+    }
+    if (const QStaticText *known = m_texts.object(text)) {
+        return *known;
+    }
+    auto *made = new QStaticText(text);
+    made->setTextFormat(Qt::PlainText);
+    made->prepare({}, font);
+    m_texts.insert(text, made);
+    return *made;
 }

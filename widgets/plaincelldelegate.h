@@ -1,12 +1,15 @@
 #pragma once
 
+#include <QCache>
+#include <QStaticText>
 #include <QStyledItemDelegate>
 
 /// Paints cells of a table in the look of styleTable() that hold nothing but one line of text.
 ///
 /// What comes out is what the style sheet makes of such a cell, at a fraction of the cost: the
-/// style works its rules out, and lays the text out, several times a cell. Beyond that, a selected
-/// row is marked in its first cell, and a text with a colour of its own keeps it when selected.
+/// style works its rules out, and lays the text out, several times a cell. Texts that come again
+/// are laid out once. Beyond that, a selected row is marked in its first cell, and a text with a
+/// colour of its own keeps it when selected.
 class PlainCellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -16,4 +19,13 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
+
+private:
+    void paintText(QPainter &painter, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) const;
+    const QStaticText &laidOut(const QString &text, const QFont &font) const;
+
+    /// Painting changes nothing else, and happens in one thread.
+    mutable QCache<QString, QStaticText> m_texts{400};
+    mutable QFont m_font;
 };

@@ -19,6 +19,9 @@ private slots:
     void aSelectedRowIsMarkedInItsFirstCell_data();
     void aSelectedRowIsMarkedInItsFirstCell();
     void aColouredTextKeepsItsColourWhenSelected();
+    void whatIsSetOnACellIsShown_data();
+    void whatIsSetOnACellIsShown();
+    void aNewFontIsTakenUp();
 };
 
 namespace {
@@ -160,6 +163,53 @@ void TestPlainCellDelegate::aColouredTextKeepsItsColourWhenSelected()
         }
     }
     QCOMPARE(colours, QSet<QRgb>({received.rgb(), QColor(0xF5, 0xF5, 0xF5).rgb()}));
+}
+
+void TestPlainCellDelegate::whatIsSetOnACellIsShown_data()
+{
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QVariant>("value");
+
+    QTest::newRow("text") << int(Qt::DisplayRole) << QVariant("01 02");
+    QTest::newRow("colour") << int(Qt::ForegroundRole) << QVariant(QBrush(Qt::red));
+    QTest::newRow("font") << int(Qt::FontRole) << QVariant(QFont("Sans", 20));
+    QTest::newRow("right") << int(Qt::TextAlignmentRole)
+                           << QVariant(int(Qt::AlignRight | Qt::AlignVCenter));
+}
+
+void TestPlainCellDelegate::whatIsSetOnACellIsShown()
+{
+    QFETCH(int, role);
+    QFETCH(QVariant, value);
+
+    QTableWidget table;
+    styleTable(table, 1, 1);
+    table.setItem(0, 0, new LogItem("5A A5", Qt::AlignLeft, LogItem::Colour::Plain));
+    PlainCellDelegate delegate;
+    table.setItemDelegate(&delegate);
+    table.show();
+    const QImage before = picture(table, 1);
+    table.item(0, 0)->setData(role, value);
+    const QImage byUs = picture(table, 1);
+    QVERIFY(byUs != before);
+    table.setItemDelegate(new QStyledItemDelegate(&table));
+    QCOMPARE(byUs, picture(table, 1));
+}
+
+void TestPlainCellDelegate::aNewFontIsTakenUp()
+{
+    QTableWidget table;
+    styleTable(table, 1, 1);
+    table.setItem(0, 0, new LogItem("5A A5", Qt::AlignHCenter, LogItem::Colour::Plain));
+    PlainCellDelegate delegate;
+    table.setItemDelegate(&delegate);
+    table.show();
+    const QImage before = picture(table, 1);
+    table.setFont(QFont("Sans", 20));
+    const QImage byUs = picture(table, 1);
+    QVERIFY(byUs != before);
+    table.setItemDelegate(new QStyledItemDelegate(&table));
+    QCOMPARE(byUs, picture(table, 1));
 }
 
 QTEST_MAIN(TestPlainCellDelegate)
