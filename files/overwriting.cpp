@@ -19,7 +19,7 @@ bool replaceContent(QFile &file, const QByteArray &bytes)
 bool overwriteFile(const QString &path, const QByteArray &bytes,
                    const std::function<void()> &beforehand)
 {
-    constexpr qint64 mostThatComesBack = 64 * 1024 * 1024;
+    constexpr int mostThatComesBack = 64 * 1024 * 1024;
     QFile file;
     if (!openRegularFile(file, path, QIODevice::ReadWrite | QIODevice::Unbuffered)) {
         return false;
