@@ -1,6 +1,7 @@
 #include "windowplace.h"
 
 #include <QHash>
+#include <QMargins>
 #include <QRegion>
 
 #include <algorithm>
@@ -11,8 +12,8 @@ constexpr int farthest = 32767;
 constexpr int splitterAreas = 2;
 const QByteArray group = "[window]";
 
-/// A title bar, and the borders at both sides, as wide as desktops make them.
-constexpr QSize frameRoom(16, 40);
+/// A title bar and the borders at the other sides, as wide as desktops make them.
+constexpr QMargins frame(8, 32, 8, 8);
 
 using Entries = QHash<QByteArray, QByteArray>;
 
@@ -111,7 +112,7 @@ QByteArray formatWindowPlace(const WindowPlace &place)
 
 QSize firstWindowSize(QSize preferred, QSize screen)
 {
-    return preferred.boundedTo(screen - frameRoom);
+    return preferred.boundedTo(QRect(QPoint(), screen).marginsRemoved(frame).size());
 }
 
 QRect broughtOntoScreens(const QRect &place, const QVector<QRect> &screens)
@@ -125,5 +126,5 @@ QRect broughtOntoScreens(const QRect &place, const QVector<QRect> &screens)
         }
     }
     const bool showsAll = (QRegion(place) - covered).isEmpty();
-    return showsAll || best.isNull() ? place : movedInto(best, place);
+    return showsAll || best.isNull() ? place : movedInto(best.marginsRemoved(frame), place);
 }

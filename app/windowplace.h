@@ -29,5 +29,6 @@ QByteArray formatWindowPlace(const WindowPlace &place);
 QSize firstWindowSize(QSize preferred, QSize screen);
 
 /// The place itself where the screens show it whole, otherwise moved, and if need be made smaller,
-/// into the screen that shows most of it, or into the first one. A place without any screen stays.
+/// into the screen that shows most of it, or into the first one, with room for a frame around it. A
+/// place without any screen stays.
 QRect broughtOntoScreens(const QRect &place, const QVector<QRect> &screens);

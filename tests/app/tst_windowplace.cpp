@@ -131,15 +131,15 @@ void TestWindowPlace::aPlaceIsBroughtOntoTheScreens_data()
     QTest::newRow("in the second") << inside.translated(1000, 0) << inside.translated(1000, 0);
     QTest::newRow("over both") << inside.translated(750, 0) << inside.translated(750, 0);
     QTest::newRow("as large as the first") << QRect(0, 0, 1000, 800) << QRect(0, 0, 1000, 800);
-    QTest::newRow("off to the left") << inside.translated(-900, 0) << QRect(0, 100, 300, 200);
-    QTest::newRow("off at the top") << inside.translated(0, -900) << QRect(100, 0, 300, 200);
-    QTest::newRow("off at the bottom") << inside.translated(0, 900) << QRect(100, 600, 300, 200);
-    QTest::newRow("off to the right") << inside.translated(4000, 0) << QRect(700, 100, 300, 200);
-    QTest::newRow("half off the first") << inside.translated(-250, 0) << QRect(0, 100, 300, 200);
+    QTest::newRow("off to the left") << inside.translated(-900, 0) << QRect(8, 100, 300, 200);
+    QTest::newRow("off at the top") << inside.translated(0, -900) << QRect(100, 32, 300, 200);
+    QTest::newRow("off at the bottom") << inside.translated(0, 900) << QRect(100, 592, 300, 200);
+    QTest::newRow("off to the right") << inside.translated(4000, 0) << QRect(692, 100, 300, 200);
+    QTest::newRow("half off the first") << inside.translated(-250, 0) << QRect(8, 100, 300, 200);
     QTest::newRow("half off the second")
-        << inside.translated(1250, 0) << QRect(1200, 100, 300, 200);
-    QTest::newRow("below the second") << inside.translated(1000, 250) << QRect(1100, 200, 300, 200);
-    QTest::newRow("too large") << QRect(-50, -50, 3000, 3000) << QRect(0, 0, 1000, 800);
+        << inside.translated(1250, 0) << QRect(1192, 100, 300, 200);
+    QTest::newRow("below the second") << inside.translated(1000, 250) << QRect(1100, 192, 300, 200);
+    QTest::newRow("too large") << QRect(-50, -50, 3000, 3000) << QRect(8, 32, 984, 760);
 }
 
 void TestWindowPlace::aPlaceIsBroughtOntoTheScreens()
