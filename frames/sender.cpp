@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 mostUnsentBytes = 1024 * 1024;
+constexpr qint64 mostUnsentBytes = 1048576;
 
 } // namespace
 

@@ -366,7 +366,7 @@ void TestSender::aBlockIsHandedOverAndTold()
 
 void TestSender::whatWaitsIsBounded_data()
 {
-    constexpr qint64 most = 1024 * 1024;
+    constexpr qint64 most = 1048576;
     QTest::addColumn<qint64>("unsent");
     QTest::addColumn<bool>("isTaken");
 
