@@ -1,6 +1,7 @@
 #include "dialog.h"
 
 #include "boxes.h"
+#include "celltips.h"
 #include "datafolder.h"
 #include "fieldcutter.h"
 #include "headernotice.h"
@@ -14,7 +15,6 @@
 
 #include <QCloseEvent>
 #include <QMessageBox>
-#include <QToolTip>
 
 namespace {
 
@@ -194,6 +194,7 @@ void Dialog::setUpTips()
                                                                      m_form->tableWidget_Message}) {
         table->setMouseTracking(true);
         connect(table, &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
+        new CellTips(*table, tipColumn, this);
     }
 }
 
@@ -459,7 +460,7 @@ void Dialog::editor_dataIn()
 void Dialog::doMouseTrackTip(const QModelIndex &index)
 {
     if (index.column() == tipColumn) {
-        QToolTip::showText(QCursor::pos(), index.data().toString());
+        showCellText(index.data().toString());
     }
 }
 

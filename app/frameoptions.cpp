@@ -2,12 +2,24 @@
 
 #include "ui_dialog.h"
 
+static QString headerFault(const QString &text)
+{
+    if (parseStartBytes(text)) {
+        return {};
+    }
+    return QCoreApplication::translate(
+        "FrameOptions",
+        "No start bytes: write two, as in 0x5A,0xA5. Until then frames begin with A5 5A.");
+}
+
 FrameOptions::FrameOptions(const Ui::Dialog &form, const Settings &settings,
                            int maximumInstructionLength)
     : m_form(form)
     , m_settings(settings)
     , m_maximumInstructionLength(maximumInstructionLength)
-{}
+{
+    m_form.lineEdit_SBytes->setCheck(headerFault);
+}
 
 void FrameOptions::takeCrcFlag(LinkMode mode)
 {

@@ -1,5 +1,7 @@
 #include "textdelegate.h"
 
+#include "cellfault.h"
+#include "commandcolumns.h"
 #include "oneline.h"
 
 #include <QKeyEvent>
@@ -14,7 +16,7 @@ const char *const openedWith = "openedWith";
 QWidget *TextDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                     const QModelIndex &index) const
 {
-    QWidget *widget = MarkedRowDelegate::createEditor(parent, option, index);
+    QWidget *widget = PlainCellDelegate::createEditor(parent, option, index);
     if (auto *editor = qobject_cast<QLineEdit *>(widget)) {
         prepare(editor);
     }
@@ -32,7 +34,7 @@ void TextDelegate::setEditorData(QWidget *widget, const QModelIndex &index) cons
 {
     auto *editor = qobject_cast<QLineEdit *>(widget);
     if (editor == nullptr) {
-        MarkedRowDelegate::setEditorData(widget, index);
+        PlainCellDelegate::setEditorData(widget, index);
         return;
     }
     const QString text = editedText(index);
@@ -49,7 +51,7 @@ void TextDelegate::setModelData(QWidget *widget, QAbstractItemModel *model,
 {
     const auto *editor = qobject_cast<const QLineEdit *>(widget);
     if (editor == nullptr || editor->text() != editedText(index)) {
-        MarkedRowDelegate::setModelData(widget, model, index);
+        PlainCellDelegate::setModelData(widget, model, index);
     }
 }
 
@@ -62,6 +64,18 @@ bool TextDelegate::eventFilter(QObject *object, QEvent *event)
         return true;
     }
     return QStyledItemDelegate::eventFilter(object, event);
+}
+
+QString TextDelegate::fault(const QModelIndex &index) const
+{
+    const auto text = [&index](int column) {
+        return index.siblingAtColumn(column).data().toString();
+    };
+    CommandRow row;
+    row.cmd = text(CommandColumn::Cmd);
+    row.addr = text(CommandColumn::Addr);
+    row.data = text(CommandColumn::Data);
+    return cellFault(row, index.column());
 }
 
 void TextDelegate::takeIn(QLineEdit *editor)

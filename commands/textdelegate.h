@@ -1,17 +1,17 @@
 #pragma once
 
-#include "markedrowdelegate.h"
+#include "plaincelldelegate.h"
 
 class QLineEdit;
 
 /// Edits a cell of the command table in a line edit. What is there already is not written again, so
 /// that a cell which was only looked at counts as unchanged.
-class TextDelegate : public MarkedRowDelegate
+class TextDelegate : public PlainCellDelegate
 {
     Q_OBJECT
 
 public:
-    using MarkedRowDelegate::MarkedRowDelegate;
+    using PlainCellDelegate::PlainCellDelegate;
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
@@ -20,6 +20,8 @@ public:
                       const QModelIndex &index) const override;
 
     bool eventFilter(QObject *object, QEvent *event) override;
+
+    QString fault(const QModelIndex &index) const override;
 
     /// Ends the editing as if the user had gone elsewhere: writes the text and closes the editor.
     virtual void takeIn(QLineEdit *editor);

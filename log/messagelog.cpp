@@ -1,9 +1,9 @@
 #include "messagelog.h"
 
 #include "fieldcutter.h"
+#include "logcelldelegate.h"
 #include "logitem.h"
 #include "logtable.h"
-#include "plaincelldelegate.h"
 #include "tableitems.h"
 #include "tablelook.h"
 
@@ -39,7 +39,7 @@ MessageLog::MessageLog(LogTable &table, QObject *parent)
                          {tr("Data"), 90, QHeaderView::Stretch, true},
                          {tr("CRC"), 63},
                          {QString(), 63}});
-    m_table.setItemDelegate(new PlainCellDelegate(this));
+    m_table.setItemDelegate(new LogCellDelegate(this));
     showBlankTable();
     connect(&m_pace, &DisplayPace::due, this, &MessageLog::moveOn);
 }

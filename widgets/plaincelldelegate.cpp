@@ -1,9 +1,12 @@
 #include "plaincelldelegate.h"
 
+#include "faultline.h"
 #include "selectionbar.h"
 
 #include <QPainter>
 #include <QStyle>
+
+#include <algorithm>
 
 namespace {
 
@@ -58,6 +61,15 @@ void paintFocus(QPainter &painter, const QStyleOptionViewItem &cell)
     style.drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, cell.widget);
 }
 
+void underline(QPainter &painter, const QStyleOptionViewItem &cell)
+{
+    const int margin = cell.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    const QRect room = cell.rect.adjusted(margin, 0, -margin, -1);
+    const int width = std::min(cell.fontMetrics.horizontalAdvance(cell.text), room.width());
+    paintFaultLine(painter, QStyle::alignedRect(cell.direction, cell.displayAlignment,
+                                                {width, cell.fontMetrics.height()}, room));
+}
+
 } // namespace
 
 void PlainCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -66,6 +78,11 @@ void PlainCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     painter->fillRect(option.rect, isSelected(option) ? selectedBackground : background);
     painter->fillRect(QRect(option.rect.bottomLeft(), QSize(option.rect.width(), 1)), line);
     paintText(*painter, option, index);
+    if (!fault(index).isEmpty()) {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        underline(*painter, cell);
+    }
     if (option.state & QStyle::State_HasFocus) {
         QStyleOptionViewItem cell = option;
         initStyleOption(&cell, index);

@@ -20,6 +20,10 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
 
+    /// What is wrong with a cell's text, as a sentence for the user: such a text is underlined.
+    /// Empty where nothing is.
+    virtual QString fault(const QModelIndex & /*index*/) const { return {}; }
+
 private:
     void paintText(QPainter &painter, const QStyleOptionViewItem &option,
                    const QModelIndex &index) const;

@@ -1,5 +1,4 @@
 #include "logitem.h"
-#include "markedrowdelegate.h"
 #include "plaincelldelegate.h"
 #include "tablelook.h"
 
@@ -16,7 +15,6 @@ class TestPlainCellDelegate : public QObject
 private slots:
     void cellsLookAsTheStyleSheetHasThem_data();
     void cellsLookAsTheStyleSheetHasThem();
-    void aSelectedRowIsMarkedInItsFirstCell_data();
     void aSelectedRowIsMarkedInItsFirstCell();
     void aColouredTextKeepsItsColourWhenSelected();
     void whatIsSetOnACellIsShown_data();
@@ -115,23 +113,12 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem()
     QCOMPARE(ours.copy(unmarked), byStyle.copy(unmarked));
 }
 
-void TestPlainCellDelegate::aSelectedRowIsMarkedInItsFirstCell_data()
-{
-    QTest::addColumn<bool>("plain");
-
-    QTest::newRow("plain cells") << true;
-    QTest::newRow("cells of the style") << false;
-}
-
 void TestPlainCellDelegate::aSelectedRowIsMarkedInItsFirstCell()
 {
-    QFETCH(bool, plain);
     QTableWidget table;
     fill(table, "01", LogItem::Colour::Plain, Qt::AlignCenter, 60);
     PlainCellDelegate plainDelegate;
-    MarkedRowDelegate markedDelegate;
-    table.setItemDelegate(plain ? static_cast<QAbstractItemDelegate *>(&plainDelegate)
-                                : &markedDelegate);
+    table.setItemDelegate(&plainDelegate);
     table.selectRow(1);
     const QImage look = picture(table, 1);
     for (int row = 0; row < rows; ++row) {

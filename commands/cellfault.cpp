@@ -1,0 +1,58 @@
+#include "cellfault.h"
+
+#include "commandcolumns.h"
+#include "delaymarker.h"
+#include "hexfault.h"
+#include "hextext.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("CellFault", text);
+}
+
+QString hexFaultText(const QString &text)
+{
+    switch (hexFaultOf(text)) {
+    case HexFault::OddDigits:
+        return translated("A digit is missing: each byte has two.");
+    case HexFault::NoHexDigit:
+        return translated("Not a hexadecimal number.");
+    case HexFault::None:
+        break;
+    }
+    return {};
+}
+
+QString delayFaultText(const QString &text)
+{
+    const QString digits = withoutBlanks(text);
+    const bool isNumber = std::all_of(digits.cbegin(), digits.cend(), [](QChar character) {
+        return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+    });
+    return isNumber ? QString() : translated("Not a number of milliseconds.");
+}
+
+} // namespace
+
+QString cellFault(const CommandRow &row, int column)
+{
+    if (isDelay(row.cmd)) {
+        return column == CommandColumn::Data ? delayFaultText(row.data) : QString();
+    }
+    switch (column) {
+    case CommandColumn::Cmd:
+        return hexFaultText(row.cmd);
+    case CommandColumn::Addr:
+        return hexFaultText(row.addr);
+    case CommandColumn::Data:
+        return hexFaultText(row.data);
+    default:
+        return {};
+    }
+}
