@@ -16,6 +16,10 @@ Headlines::Headlines(Ui::Dialog &form, const ListState &list, QObject *parent)
 
 void Headlines::follow(const MessageLog &log)
 {
+    // A label of a fixed size changes its text without a new layout of the whole window.
+    showMessageCount(MessageLog::mostRows);
+    m_form.label_MessageCount->ensurePolished();
+    m_form.label_MessageCount->setFixedSize(m_form.label_MessageCount->sizeHint());
     connect(&log, &MessageLog::countChanged, this, &Headlines::showMessageCount);
     showMessageCount(log.count());
 }

@@ -51,7 +51,7 @@ void measure(ChildProcess &writer, WindowDriver &window, const TestPort &port, c
     QElapsedTimer timer;
     timer.start();
     writer.start();
-    while (received < frames && timer.elapsed() < seconds * 1000 + patienceMs) {
+    while (received < frames && timer.elapsed() < qint64(seconds) * 1000 + patienceMs) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     const double elapsed = static_cast<double>(timer.nsecsElapsed()) / 1e9;

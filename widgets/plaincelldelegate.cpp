@@ -107,17 +107,17 @@ void PlainCellDelegate::paintText(QPainter &painter, const QStyleOptionViewItem 
     const QRect room = option.rect.adjusted(margin, 0, -margin, -1);
     const QRect place =
         QStyle::alignedRect(option.direction, alignment, {room.width(), metrics.height()}, room);
-    const QStaticText *laid = &laidOut(text, font);
-    if (laid->size().width() > place.width()) {
-        laid = &laidOut(metrics.elidedText(text, option.textElideMode, place.width()), font);
+    QStaticText laid = laidOut(text, font);
+    if (laid.size().width() > place.width()) {
+        laid = laidOut(metrics.elidedText(text, option.textElideMode, place.width()), font);
     }
-    const qreal shift = shiftOf(alignment, place.width() - laid->size().width());
+    const qreal shift = shiftOf(alignment, place.width() - laid.size().width());
     painter.setPen(colourOf(index, option));
     painter.setFont(font);
-    painter.drawStaticText(QPointF(place.left() + shift, place.top()), *laid);
+    painter.drawStaticText(QPointF(place.left() + shift, place.top()), laid);
 }
 
-const QStaticText &PlainCellDelegate::laidOut(const QString &text, const QFont &font) const
+QStaticText PlainCellDelegate::laidOut(const QString &text, const QFont &font) const
 {
     if (font != m_font) {
         m_texts.clear();
@@ -126,9 +126,9 @@ const QStaticText &PlainCellDelegate::laidOut(const QString &text, const QFont &
     if (const QStaticText *known = m_texts.object(text)) {
         return *known;
     }
-    auto *made = new QStaticText(text);
-    made->setTextFormat(Qt::PlainText);
-    made->prepare({}, font);
-    m_texts.insert(text, made);
-    return *made;
+    QStaticText made(text);
+    made.setTextFormat(Qt::PlainText);
+    made.prepare({}, font);
+    m_texts.insert(text, new QStaticText(made));
+    return made;
 }

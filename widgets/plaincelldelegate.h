@@ -27,7 +27,7 @@ public:
 private:
     void paintText(QPainter &painter, const QStyleOptionViewItem &option,
                    const QModelIndex &index) const;
-    const QStaticText &laidOut(const QString &text, const QFont &font) const;
+    QStaticText laidOut(const QString &text, const QFont &font) const;
 
     /// Painting changes nothing else, and happens in one thread.
     mutable QCache<QString, QStaticText> m_texts{400};
