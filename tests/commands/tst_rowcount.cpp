@@ -15,6 +15,7 @@ class TestRowCount : public QObject
 
 private slots:
     void theWheelAppendsAtTheEnd();
+    void theWheelAppendsInAWindowThatIsScrolled();
     void theWheelBesideTheTableAppendsNothing();
     void theWheelStopsAppendingAtTheLimit();
     void clearingLeavesNineEmptyRows();
@@ -37,6 +38,17 @@ void TestRowCount::theWheelAppendsAtTheEnd()
     QCOMPARE(bench.order(), QString("012345678-"));
     QCOMPARE(bench.table()->item(9, Column::DataType)->text(), QString("short"));
     QCOMPARE(changes.count(), 0);
+}
+
+void TestRowCount::theWheelAppendsInAWindowThatIsScrolled()
+{
+    RowBench bench;
+    bench.window.window().resize(700, 420);
+    QCoreApplication::processEvents();
+    QCursor::setPos(bench.window.window().mapToGlobal(bench.table()->geometry().center()));
+    bench.table()->scrollToBottom();
+    bench.turnWheel();
+    QCOMPARE(bench.order(), QString("012345678-"));
 }
 
 void TestRowCount::theWheelBesideTheTableAppendsNothing()

@@ -116,6 +116,9 @@ void appendAndSee(MessageLog &log)
 void fillView(WindowDriver &window)
 {
     constexpr int more = 3;
+    // On a small screen the log would be partly out of view.
+    window.window().resize(1120, 760);
+    QCoreApplication::processEvents();
     auto &log = *window.window().findChild<MessageLog *>();
     const int rows = window.messages()->viewport()->height() / rowHeight + more;
     for (int row = 0; row < rows; ++row) {
