@@ -1,5 +1,6 @@
 #include "commandfile.h"
 #include "commandtable.h"
+#include "commandview.h"
 #include "figures.h"
 #include "styles.h"
 
@@ -7,7 +8,6 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QScrollBar>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 // What it takes to load a command file until its rows can be seen, and to scroll through them.
@@ -40,7 +40,7 @@ class ShownTable
 {
 public:
     ShownTable()
-        : m_table(new QTableWidget(&m_window))
+        : m_table(new CommandView(&m_window))
         , m_commands(*m_table, &m_window)
     {
         m_window.setStyleSheet(windowStyle());
@@ -79,7 +79,7 @@ public:
 
 private:
     QDialog m_window;
-    QTableWidget *m_table;
+    CommandView *m_table;
     CommandTable m_commands;
 };
 

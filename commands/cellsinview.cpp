@@ -58,7 +58,7 @@ bool CellsInView::eventFilter(QObject *object, QEvent *event)
 
 void CellsInView::update()
 {
-    QVector<QPointer<QWidget>> inView = widgetsInView();
+    QVector<QPointer<QWidget>> inView = placedInView();
     for (QWidget *widget : std::as_const(m_shown)) {
         if (widget == nullptr || inView.contains(widget)) {
             continue;
@@ -76,7 +76,7 @@ void CellsInView::update()
     m_shown = inView;
 }
 
-QVector<QPointer<QWidget>> CellsInView::widgetsInView() const
+QVector<QPointer<QWidget>> CellsInView::placedInView() const
 {
     QVector<QPointer<QWidget>> widgets;
     const int height = m_table.viewport()->height();
@@ -85,8 +85,19 @@ QVector<QPointer<QWidget>> CellsInView::widgetsInView() const
             break;
         }
         appendWidgets(widgets, row);
+        place(row);
     }
     return widgets;
+}
+
+/// A widget that was out of view has not been moved along with the rows.
+void CellsInView::place(int row) const
+{
+    for (const int column : m_columns) {
+        if (QWidget *widget = m_table.cellWidget(row, column)) {
+            widget->setGeometry(m_table.visualRect(m_table.model()->index(row, column)));
+        }
+    }
 }
 
 void CellsInView::appendWidgets(QVector<QPointer<QWidget>> &widgets, int row) const

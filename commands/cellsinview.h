@@ -84,7 +84,8 @@ protected:
 
 private:
     void update();
-    QVector<QPointer<QWidget>> widgetsInView() const;
+    QVector<QPointer<QWidget>> placedInView() const;
+    void place(int row) const;
     void appendWidgets(QVector<QPointer<QWidget>> &widgets, int row) const;
 
     QTableWidget &m_table;

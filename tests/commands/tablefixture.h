@@ -2,10 +2,10 @@
 
 #include "commandcolumns.h"
 #include "commandtable.h"
+#include "commandview.h"
 
 #include <QCheckBox>
 #include <QLayout>
-#include <QTableWidget>
 
 /// A row whose texts and Select box tell which one it is.
 inline CommandRow numberedRow(int number)
@@ -55,7 +55,7 @@ struct TableFixture
         return qobject_cast<QCheckBox *>(container->layout()->itemAt(0)->widget());
     }
 
-    QTableWidget table;
+    CommandView table;
     QObject filter;
     CommandTable rows{table, &filter};
 };

@@ -1,5 +1,6 @@
 #include "tablefixture.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QtTest>
@@ -18,6 +19,9 @@ private slots:
     void aRestingBoxIsReadAndChecked();
     void aWokenBoxTakesClicks();
     void insertedRowsShowAtOnce();
+    void whatIsShownStandsInItsCell_data();
+    void whatIsShownStandsInItsCell();
+    void anOpenEditorMovesAlong();
 };
 
 namespace {
@@ -134,6 +138,44 @@ void TestCellsInView::insertedRowsShowAtOnce()
     QVERIFY(shown.isShown(2));
     shown.rows.setSelected(3, true);
     QVERIFY(shown.isShown(3));
+}
+
+void TestCellsInView::whatIsShownStandsInItsCell_data()
+{
+    QTest::addColumn<QVector<int>>("places");
+
+    QTest::newRow("a row further") << QVector<int>{1};
+    QTest::newRow("there and back") << QVector<int>{50, 0};
+    QTest::newRow("to the end") << QVector<int>{3, manyRows};
+    QTest::newRow("back from the end") << QVector<int>{manyRows, manyRows / 2};
+}
+
+void TestCellsInView::whatIsShownStandsInItsCell()
+{
+    QFETCH(QVector<int>, places);
+    ShownTable shown;
+    for (const int place : places) {
+        shown.table.verticalScrollBar()->setValue(place);
+    }
+    QVERIFY(shown.table.rowAt(0) >= 0);
+    for (int row = shown.table.rowAt(0); row <= shown.lastRowInView() && row >= 0; ++row) {
+        const QModelIndex cell = shown.table.model()->index(row, CommandColumn::Send);
+        QVERIFY(shown.isShown(row));
+        QCOMPARE(shown.button(row)->geometry(), shown.table.visualRect(cell));
+    }
+}
+
+void TestCellsInView::anOpenEditorMovesAlong()
+{
+    ShownTable shown;
+    QTableWidgetItem *item = shown.table.item(5, CommandColumn::Description);
+    shown.table.editItem(item);
+    const auto *editor = shown.table.viewport()->findChild<QLineEdit *>();
+    QVERIFY(editor != nullptr);
+    const int top = editor->y();
+    shown.table.verticalScrollBar()->setValue(2);
+    QCOMPARE(editor->y() - top, -2 * shown.table.rowHeight(0));
+    QCOMPARE(editor->y(), shown.table.visualItemRect(item).y());
 }
 
 QTEST_MAIN(TestCellsInView)
