@@ -102,7 +102,7 @@ void TestRecoveryText::brokenLinesAreSkipped_data()
     QTest::addColumn<QByteArray>("line");
 
     QTest::newRow("nothing") << QByteArray("//row ");
-    QTest::newRow("cut off") << QByteArray("//row [\"a\",true,\"03\"");
+    QTest::newRow("cut off") << QByteArray(R"(//row ["a",true,"03")");
     QTest::newRow("too few cells") << QByteArray("//row [\"a\"]");
     QTest::newRow("no list") << QByteArray("//row {}");
     QTest::newRow("deep") << "//row " + QByteArray(100'000, '[');

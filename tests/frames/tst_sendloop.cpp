@@ -131,10 +131,13 @@ void TestSendLoop::aBadHeaderIsToldOnceForEachText()
 {
     LoopBench bench;
     bench.start({"01", "02"}, {1, 0});
-    const auto runWith = [&](const std::optional<QString> &unreadable) {
-        bench.settings.unreadable = unreadable;
+    const auto run = [&bench] {
         bench.loop.runPass();
         bench.clock.advance(10);
+    };
+    const auto runWith = [&](const QString &unreadable) {
+        bench.settings.unreadable = unreadable;
+        run();
     };
     runWith(QString("5A"));
     QCOMPARE(bench.messages.size(), 1);
@@ -143,7 +146,8 @@ void TestSendLoop::aBadHeaderIsToldOnceForEachText()
     QCOMPARE(bench.messages.size(), 1);
     runWith(QString("A5"));
     QCOMPARE(bench.messages.size(), 2);
-    runWith(std::nullopt);
+    bench.settings.unreadable.reset();
+    run();
     runWith(QString("A5"));
     QCOMPARE(bench.messages.size(), 3);
     QCOMPARE(bench.link.blocks.size(), 10);

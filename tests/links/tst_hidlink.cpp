@@ -244,7 +244,7 @@ void TestHidLink::reportsThatWaitAreUnsent()
     link.write(QByteArray(reports * 64, 'x'));
     const qint64 unsent = link.unsentBytes();
     QVERIFY(unsent > 0);
-    QVERIFY(unsent <= reports * 64);
+    QVERIFY(unsent <= qint64(reports) * 64);
     QCOMPARE(unsent % 64, 0);
     m_fake.readWithoutWaiting();
     QTRY_COMPARE(link.unsentBytes(), 0);
