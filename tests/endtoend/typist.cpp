@@ -83,10 +83,10 @@ class TypistPlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "typist.json")
 
 public:
-    /// The specification is "text" or "text|button".
-    QObject *create(const QString & /*name*/, const QString &specification) override
+    /// What to press is given as "text" or "text|button".
+    QObject *create(const QString & /*name*/, const QString &wanted) override
     {
-        const QStringList parts = specification.split('|');
+        const QStringList parts = wanted.split('|');
         return new Typist(parts.value(0), parts.value(1).toLatin1());
     }
 };
