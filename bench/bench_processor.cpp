@@ -24,7 +24,7 @@ struct Trial
     const char *aim;
 };
 
-constexpr Trial trials[] = {{10, "< 1"}, {100, "< 5.3"}, {1000, "< 12.9"}};
+constexpr Trial trials[] = {{10, "< 3.5"}, {100, "< 7.2"}, {1000, "< 16.5"}};
 
 QByteArray pushSteadily(const TestPort &port, int framesPerSecond)
 {

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int frameMs = 16;
+constexpr int frameMs = 33;
 constexpr int askAgainMs = 2;
 constexpr int longestHoldMs = 50;
 

@@ -7,7 +7,7 @@
 #include <functional>
 
 /// Says when what has changed is to be shown: at once after a quiet time, then once in a display
-/// frame, however often it changes.
+/// frame of 33 ms, however often it changes. Nobody reads faster, and each showing costs.
 class DisplayPace : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ namespace {
 constexpr int columnCount = 8;
 constexpr int filledColumns = 7;
 constexpr int initialRows = 9;
-constexpr int rowsAtOncePerFrame = 64;
+constexpr int rowsAtOncePerFrame = 128;
 constexpr int numberColumn = 0;
 constexpr int dataColumn = 5;
 
