@@ -1,0 +1,70 @@
+#include "recordlog.h"
+
+#include <utility>
+
+RecordLog::RecordLog(QObject *parent)
+    : RecordLog(recordTimeNow, parent)
+{}
+
+RecordLog::RecordLog(Clock clock, QObject *parent)
+    : QObject(parent)
+    , m_clock(std::move(clock))
+{}
+
+void RecordLog::appendSent(const QByteArray &frame, bool withCrc)
+{
+    appendNumbered({LogRecord::Kind::Sent, 0, 0, 0, frame, withCrc, {}, {}});
+}
+
+void RecordLog::appendReceived(const QByteArray &frame, bool withCrc)
+{
+    appendNumbered({LogRecord::Kind::Received, 0, 0, 0, frame, withCrc, {}, {}});
+}
+
+void RecordLog::appendStray(const QByteArray &bytes)
+{
+    appendNumbered({LogRecord::Kind::Stray, 0, 0, 0, bytes, false, {}, {}});
+}
+
+void RecordLog::appendEvent(const QString &source, const QString &text)
+{
+    startOverIfFull();
+    append({LogRecord::Kind::Event, 0, 0, 0, {}, false, source, text});
+}
+
+void RecordLog::clear()
+{
+    forgetAll();
+    emit cleared();
+}
+
+void RecordLog::appendNumbered(LogRecord record)
+{
+    startOverIfFull();
+    record.number = m_nextNumber++;
+    append(std::move(record));
+}
+
+void RecordLog::append(LogRecord record)
+{
+    const RecordTime time = m_clock();
+    record.utcUs = time.utcUs;
+    record.monotonicNs = time.monotonicNs;
+    m_records.append(record);
+    // Not the one in the log: a listener may empty that.
+    emit appended(record);
+}
+
+void RecordLog::startOverIfFull()
+{
+    if (m_records.size() >= mostRecords) {
+        forgetAll();
+        emit startedOver();
+    }
+}
+
+void RecordLog::forgetAll()
+{
+    m_records.clear();
+    m_nextNumber = 1;
+}

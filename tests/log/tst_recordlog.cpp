@@ -1,0 +1,188 @@
+#include "recordlog.h"
+
+#include <QtTest>
+
+#include <algorithm>
+
+class TestRecordLog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void recordsHoldWhatHappened();
+    void eventsTakeNoNumber();
+    void aFullLogStartsOver();
+    void anEventStartsAFullLogOver();
+    void clearing();
+    void recordsCarryTheTime();
+    void theSystemsClocks();
+    void listenersHearOfEachRecordInOrder();
+    void aListenerMayClearTheLog();
+};
+
+namespace {
+
+using Kind = LogRecord::Kind;
+
+const QByteArray frame = QByteArray::fromHex("5AA503010203");
+
+void fill(RecordLog &log, int records)
+{
+    for (int i = 0; i < records; ++i) {
+        log.appendSent(frame, true);
+    }
+}
+
+/// What a log tells, in order: a record's number, "cleared" or "started over".
+class Heard : public QObject
+{
+public:
+    explicit Heard(RecordLog &log)
+    {
+        connect(&log, &RecordLog::appended, this,
+                [this](const LogRecord &record) { told << QString::number(record.number); });
+        connect(&log, &RecordLog::cleared, this, [this] { told << "cleared"; });
+        connect(&log, &RecordLog::startedOver, this, [this] { told << "started over"; });
+    }
+
+    QStringList told;
+};
+
+} // namespace
+
+void TestRecordLog::recordsHoldWhatHappened()
+{
+    RecordLog log;
+    log.appendSent(frame, true);
+    log.appendReceived(frame, false);
+    log.appendStray("x");
+    log.appendEvent("HID", "Insert y");
+    QCOMPARE(log.count(), 4);
+
+    const LogRecord sent = log.records().at(0);
+    QCOMPARE(sent.kind, Kind::Sent);
+    QCOMPARE(sent.bytes, frame);
+    QVERIFY(sent.withCrc);
+
+    const LogRecord received = log.records().at(1);
+    QCOMPARE(received.kind, Kind::Received);
+    QCOMPARE(received.bytes, frame);
+    QVERIFY(!received.withCrc);
+
+    const LogRecord stray = log.records().at(2);
+    QCOMPARE(stray.kind, Kind::Stray);
+    QCOMPARE(stray.bytes, QByteArray("x"));
+
+    const LogRecord event = log.records().at(3);
+    QCOMPARE(event.kind, Kind::Event);
+    QCOMPARE(event.source, QString("HID"));
+    QCOMPARE(event.text, QString("Insert y"));
+    QCOMPARE(event.bytes, QByteArray());
+}
+
+void TestRecordLog::eventsTakeNoNumber()
+{
+    RecordLog log;
+    const Heard heard(log);
+    log.appendSent(frame, true);
+    log.appendEvent("HID", "Insert y");
+    log.appendReceived(frame, true);
+    log.appendStray("x");
+    QCOMPARE(heard.told, QStringList({"1", "0", "2", "3"}));
+}
+
+void TestRecordLog::aFullLogStartsOver()
+{
+    RecordLog log;
+    fill(log, 1025);
+    QCOMPARE(log.count(), 1025);
+    QCOMPARE(log.records().last().number, 1025);
+    const Heard heard(log);
+    log.appendReceived(frame, true);
+    QCOMPARE(heard.told, QStringList({"started over", "1"}));
+    QCOMPARE(log.count(), 1);
+    QCOMPARE(log.records().first().kind, Kind::Received);
+}
+
+void TestRecordLog::anEventStartsAFullLogOver()
+{
+    RecordLog log;
+    fill(log, 1024);
+    log.appendEvent("Uart", "Remove x");
+    QCOMPARE(log.count(), 1025);
+    const Heard heard(log);
+    log.appendEvent("Uart", "Insert x");
+    log.appendSent(frame, true);
+    QCOMPARE(heard.told, QStringList({"started over", "0", "1"}));
+    QCOMPARE(log.count(), 2);
+}
+
+void TestRecordLog::clearing()
+{
+    RecordLog log;
+    fill(log, 3);
+    const Heard heard(log);
+    log.clear();
+    QCOMPARE(log.count(), 0);
+    log.appendSent(frame, true);
+    QCOMPARE(heard.told, QStringList({"cleared", "1"}));
+}
+
+void TestRecordLog::recordsCarryTheTime()
+{
+    RecordTime now{1000, 50};
+    RecordLog log([&now] { return now; });
+    log.appendSent(frame, true);
+    now = {2000, 60};
+    log.appendEvent("HID", "Insert y");
+    QCOMPARE(log.records().at(0).utcUs, qint64(1000));
+    QCOMPARE(log.records().at(0).monotonicNs, qint64(50));
+    QCOMPARE(log.records().at(1).utcUs, qint64(2000));
+    QCOMPARE(log.records().at(1).monotonicNs, qint64(60));
+}
+
+void TestRecordLog::theSystemsClocks()
+{
+    constexpr qint64 usPerMs = 1000;
+    const qint64 before = QDateTime::currentMSecsSinceEpoch();
+    RecordLog log;
+    fill(log, 100);
+    const qint64 after = QDateTime::currentMSecsSinceEpoch();
+    QVERIFY(log.records().first().utcUs / usPerMs >= before);
+    QVERIFY(log.records().last().utcUs / usPerMs <= after);
+    const bool inOrder = std::is_sorted(
+        log.records().begin(), log.records().end(),
+        [](const LogRecord &a, const LogRecord &b) { return a.monotonicNs < b.monotonicNs; });
+    QVERIFY(inOrder);
+    QVERIFY(log.records().first().monotonicNs < log.records().last().monotonicNs);
+}
+
+void TestRecordLog::listenersHearOfEachRecordInOrder()
+{
+    RecordLog log;
+    QVector<LogRecord> heard;
+    connect(&log, &RecordLog::appended, this, [&](const LogRecord &record) {
+        heard.append(record);
+        QCOMPARE(heard.size(), log.count());
+    });
+    log.appendSent(frame, true);
+    log.appendStray("x");
+    QCOMPARE(heard.size(), 2);
+    QCOMPARE(heard.at(0).bytes, frame);
+    QCOMPARE(heard.at(1).bytes, QByteArray("x"));
+}
+
+void TestRecordLog::aListenerMayClearTheLog()
+{
+    RecordLog log;
+    QByteArray heard;
+    connect(&log, &RecordLog::appended, &log, &RecordLog::clear);
+    connect(&log, &RecordLog::appended, this,
+            [&heard](const LogRecord &record) { heard = record.bytes; });
+    log.appendStray(QByteArray(100, 'x'));
+    QCOMPARE(heard, QByteArray(100, 'x'));
+    QCOMPARE(log.count(), 0);
+}
+
+QTEST_APPLESS_MAIN(TestRecordLog)
+#include "tst_recordlog.moc"
