@@ -18,7 +18,6 @@
 
 namespace {
 
-constexpr int longestInstruction = 65535;
 constexpr int firstRefreshMs = 1000;
 constexpr int commandStretch = 10;
 constexpr int messageStretch = 8;
@@ -52,10 +51,9 @@ Dialog::Dialog(QWidget *parent)
     , m_wheelGuard(*m_form->tabWidget)
     , m_settingsFile(dataFile(QStringLiteral("debuggerConfig.ini")))
     , m_settings(m_settingsFile.load())
-    , m_maximumInstructionLength(longestInstruction)
     , m_headlines(*m_form, m_list, this)
     , m_status({m_form->label_Status, m_form->label_Status_2}, this)
-    , m_frameOptions(*m_form, m_settings, m_maximumInstructionLength)
+    , m_headerField(*m_form->lineEdit_SBytes, m_format, m_receivedHeader)
     , m_serialLink(FrameReassembler::capacity - FrameReassembler::longestFrame, this)
     , m_serialPanel(*m_form, m_serialLink, this)
     , m_hidLink(dataFile(QStringLiteral("hidDeviceID.ini")), this)
@@ -71,10 +69,10 @@ Dialog::Dialog(QWidget *parent)
     , m_linkStatus(m_status, m_devices, this)
     , m_files(this, dataFolder(), fileHooks())
     , m_recovery(dataFolder(), m_list, [this] { return m_commands.rows(); })
-    , m_receivedHeader(*m_form->lineEdit_SBytes, this)
     , m_receiver([this] { return m_receivedHeader.startBytes(); }, this)
-    , m_sender(m_frameOptions, this)
-    , m_loop(*m_form, m_sender, this)
+    , m_sender(m_format, this)
+    , m_loop(m_sender, this)
+    , m_loopPanel(*m_form, this)
 {
     setUpWindow();
     m_headlines.follow(m_log);
@@ -236,7 +234,6 @@ void Dialog::offerLeftBehind()
 void Dialog::setUpTimers()
 {
     connect(&m_timer1, &QTimer::timeout, this, &Dialog::Timer1_Out_Event);
-    connect(&m_loop, &LoopControl::passDue, this, &Dialog::Timer2_Out_Event);
     m_timer1.start(firstRefreshMs);
 }
 
@@ -254,9 +251,8 @@ void Dialog::connectLinks()
         m_log.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
     });
     connect(&m_hidLink, &HidLink::deviceDisconnected, this, &Dialog::Close_HidDevice_From_thread);
-    connect(&m_receiver, &Receiver::frameReceived, this, [this](const QString &hexText) {
-        m_log.appendReceived(hexText, m_frameOptions.withCrc());
-    });
+    connect(&m_receiver, &Receiver::frameReceived, this,
+            [this](const QString &hexText) { m_log.appendReceived(hexText, m_format.withCrc()); });
     connect(&m_receiver, &Receiver::noticeReceived, this, &Dialog::logNotice);
     connect(&m_receivedHeader, &ReceivedHeader::unreadable, this,
             [this] { showMessage(badHeaderMessage); });
@@ -279,10 +275,14 @@ void Dialog::watchDevices()
 void Dialog::connectSending()
 {
     connect(&m_sender, &Sender::message, this, &Dialog::showMessage);
-    connect(&m_sender, &Sender::sent, this, [this](const QString &hexText) {
-        m_log.appendSent(hexText, m_frameOptions.withCrc());
-    });
-    connect(&m_loop, &LoopControl::message, this, &Dialog::showMessage);
+    connect(&m_sender, &Sender::sent, this,
+            [this](const QString &hexText) { m_log.appendSent(hexText, m_format.withCrc()); });
+    connect(&m_loop, &LoopControl::notice, this, &Dialog::showMessage);
+    connect(&m_loop, &LoopControl::started, this, [this] { m_loopPanel.showRunning(linkMode()); });
+    connect(&m_loop, &LoopControl::stopped, &m_loopPanel, &LoopPanel::showStopped);
+    connect(&m_loop, &LoopControl::foundNothing, &m_loopPanel, &LoopPanel::showNothingToSend);
+    m_format.setStartBytes(m_settings.noAppendHeader == 0);
+    m_format.setLength(m_settings.noAppendLength == 0);
     m_log.setHold([this] { return m_loop.isFrameNear(); });
 }
 
@@ -343,13 +343,13 @@ void Dialog::Close_HidDevice_From_thread()
 
 void Dialog::SendOne()
 {
-    m_frameOptions.takeCrcFlag(linkMode());
+    takeCrcFlag();
     m_sender.sendOne(m_commands.currentFrameText());
 }
 
 void Dialog::on_pushButton_SendAll_clicked()
 {
-    m_frameOptions.takeCrcFlag(linkMode());
+    takeCrcFlag();
     m_sender.sendAll(m_commands.checkedRows());
 }
 
@@ -364,8 +364,8 @@ void Dialog::on_pushButton_Start_Loop_clicked()
         m_loop.stop();
         return;
     }
-    m_frameOptions.takeCrcFlag(linkMode());
-    m_loop.start(m_commands.checkedRows(), linkMode());
+    takeCrcFlag();
+    m_loop.start(m_commands.checkedRows(), m_loopPanel.timing());
 }
 
 void Dialog::Timer1_Out_Event()
@@ -377,7 +377,7 @@ void Dialog::Timer1_Out_Event()
 
 void Dialog::Timer2_Out_Event()
 {
-    m_loop.tick();
+    m_loop.runPass();
 }
 
 void Dialog::on_pushButton_ClearMessage_clicked()
@@ -468,6 +468,14 @@ void Dialog::setLinkMode(LinkMode mode)
 {
     m_settings.linkMode = int(mode);
     m_sender.setLink(mode == LinkMode::Uart ? static_cast<Link *>(&m_serialLink) : &m_hidLink);
+}
+
+/// The CRC box of the tab that is used counts for what is sent and logged from now on.
+void Dialog::takeCrcFlag()
+{
+    const QCheckBox *box =
+        linkMode() == LinkMode::Uart ? m_form->checkBox_CRC_EN : m_form->checkBox_CRC_EN_2;
+    m_format.setCrc(box->isChecked());
 }
 
 void Dialog::showMessage(const QString &text)

@@ -3,13 +3,15 @@
 #include "commandtable.h"
 #include "devicewatch.h"
 #include "fileactions.h"
-#include "frameoptions.h"
+#include "frameformat.h"
+#include "headerfield.h"
 #include "headlines.h"
 #include "hidlink.h"
 #include "hidpanel.h"
 #include "linkstatus.h"
 #include "liststate.h"
 #include "loopcontrol.h"
+#include "looppanel.h"
 #include "messagecopy.h"
 #include "messagelog.h"
 #include "receivedheader.h"
@@ -112,6 +114,7 @@ private:
 
     LinkMode linkMode() const { return static_cast<LinkMode>(m_settings.linkMode); }
     void setLinkMode(LinkMode mode);
+    void takeCrcFlag();
     void showMessage(const QString &text);
 
     void openSerialPort();
@@ -124,12 +127,13 @@ private:
     WheelGuard m_wheelGuard;
     SettingsFile m_settingsFile;
     Settings m_settings;
-    int m_maximumInstructionLength;
     ListState m_list;
     Headlines m_headlines;
     StatusLine m_status;
 
-    FrameOptions m_frameOptions;
+    FrameFormat m_format;
+    ReceivedHeader m_receivedHeader;
+    HeaderField m_headerField;
     SerialLink m_serialLink;
     SerialPanel m_serialPanel;
     HidLink m_hidLink;
@@ -146,9 +150,9 @@ private:
     FileActions m_files;
     Recovery m_recovery;
     bool m_isEnding = false;
-    ReceivedHeader m_receivedHeader;
     Receiver m_receiver;
     Sender m_sender;
     LoopControl m_loop;
+    LoopPanel m_loopPanel;
     QTimer m_timer1;
 };

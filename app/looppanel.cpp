@@ -27,14 +27,15 @@ LoopPanel::LoopPanel(Ui::Dialog &form, QObject *parent)
 
 void LoopPanel::showRunning(LinkMode mode)
 {
+    m_mode = mode;
     setEnabled(fileAndTimingWidgets() + linkWidgets(mode), false);
     m_form.tabWidget->setEnabled(false);
     showBusy(*m_form.pushButton_Start_Loop, tr("Sending..."));
 }
 
-void LoopPanel::showStopped(LinkMode mode)
+void LoopPanel::showStopped()
 {
-    setEnabled(fileAndTimingWidgets() + linkWidgets(mode), true);
+    setEnabled(fileAndTimingWidgets() + linkWidgets(m_mode), true);
     m_form.tabWidget->setEnabled(true);
     m_form.checkBox_CRC_EN->setEnabled(true);
     showIdleButton();
@@ -46,14 +47,9 @@ void LoopPanel::showNothingToSend()
     showIdleButton();
 }
 
-int LoopPanel::intervalMs() const
+LoopTiming LoopPanel::timing() const
 {
-    return m_form.lineEdit_StepValue->text().toInt();
-}
-
-int LoopPanel::cycleDelayMs() const
-{
-    return m_form.lineEdit_CycleTime->text().toInt();
+    return {m_form.lineEdit_StepValue->text().toInt(), m_form.lineEdit_CycleTime->text().toInt()};
 }
 
 void LoopPanel::prepareTimingFields()

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "linkmode.h"
+#include "sendloop.h"
+
 #include <QList>
 #include <QObject>
 
@@ -7,9 +10,6 @@ namespace Ui {
 class Dialog;
 }
 class QWidget;
-
-/// The link that sending uses: the tab that is shown.
-enum class LinkMode { Uart = 0, Hid = 1 };
 
 /// What the window looks like while the auto-send loop runs: which widgets rest, and the loop
 /// button.
@@ -25,15 +25,14 @@ public:
     void showRunning(LinkMode mode);
 
     /// Enables the widgets again after the loop was stopped, and shows it as idle.
-    void showStopped(LinkMode mode);
+    void showStopped();
 
     /// The look after a loop that found nothing to send: only the serial tab's widgets come back,
     /// whatever the link, and the tabs stay disabled.
     void showNothingToSend();
 
-    /// Interval between frames and delay between cycles in ms; 0 for a text that is no number.
-    int intervalMs() const;
-    int cycleDelayMs() const;
+    /// Interval between frames and delay between cycles; 0 ms for a text that is no number.
+    LoopTiming timing() const;
 
 private:
     void prepareTimingFields();
@@ -42,4 +41,5 @@ private:
     void showIdleButton();
 
     Ui::Dialog &m_form;
+    LinkMode m_mode = LinkMode::Uart;
 };

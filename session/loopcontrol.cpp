@@ -1,5 +1,6 @@
 #include "loopcontrol.h"
 
+#include "alarmclock.h"
 #include "sender.h"
 #include "systemclock.h"
 
@@ -10,21 +11,22 @@ constexpr int nearMs = 5;
 
 } // namespace
 
-LoopControl::LoopControl(Ui::Dialog &form, Sender &sender, QObject *parent)
+LoopControl::LoopControl(Sender &sender, QObject *parent)
     : QObject(parent)
     , m_sender(sender)
     , m_clock(makeSystemClock())
     , m_loop(sender, *m_clock, this)
-    , m_panel(form, this)
 {
-    connect(&m_loop, &SendLoop::passDue, this, &LoopControl::passDue);
+    connect(&m_loop, &SendLoop::passDue, &m_loop, &SendLoop::runPass);
     connect(&m_loop, &SendLoop::foundNothing, this, [this] {
-        m_panel.showNothingToSend();
-        emit message(QStringLiteral("No thing to send"));
+        emit foundNothing();
+        emit notice(QStringLiteral("No thing to send"));
     });
 }
 
-void LoopControl::start(const QVector<CheckedRow> &rows, LinkMode mode)
+LoopControl::~LoopControl() = default;
+
+void LoopControl::start(const QVector<CheckedRow> &rows, LoopTiming timing)
 {
     if (!m_sender.requireOpenLink()) {
         return;
@@ -34,9 +36,8 @@ void LoopControl::start(const QVector<CheckedRow> &rows, LinkMode mode)
     if (!isAcceptable(plan) || !m_sender.isLinkOpen()) {
         return;
     }
-    m_mode = mode;
-    m_panel.showRunning(m_mode);
-    m_loop.start(plan, {m_panel.intervalMs(), m_panel.cycleDelayMs()});
+    emit started();
+    m_loop.start(plan, timing);
 }
 
 bool LoopControl::isFrameNear() const
@@ -48,21 +49,21 @@ void LoopControl::stop()
 {
     if (m_loop.isRunning()) {
         m_loop.stop();
-        m_panel.showStopped(m_mode);
+        emit stopped();
     }
 }
 
 bool LoopControl::isAcceptable(const LoopPlan &plan)
 {
     if (plan.tooManyEntries) {
-        emit message(QStringLiteral("Too many order!"));
+        emit notice(QStringLiteral("Too many order!"));
         return false;
     }
     if (!plan.overlongRows.isEmpty()) {
-        emit message(overlongRowsMessage(plan.overlongRows));
+        emit notice(overlongRowsMessage(plan.overlongRows));
     }
     if (plan.texts.isEmpty()) {
-        emit message(QStringLiteral("Not a Command was selected to send!"));
+        emit notice(QStringLiteral("Not a Command was selected to send!"));
         return false;
     }
     return true;

@@ -1,7 +1,5 @@
 #include "receivedheader.h"
 
-#include <QLineEdit>
-
 namespace {
 
 /// A text that has not changed for this long is no longer being typed.
@@ -9,33 +7,36 @@ constexpr int typingMs = 1000;
 
 } // namespace
 
-ReceivedHeader::ReceivedHeader(const QLineEdit &field, QObject *parent)
+ReceivedHeader::ReceivedHeader(QObject *parent)
     : QObject(parent)
-    , m_field(field)
 {
     for (QTimer *timer : {&m_typing, &m_notice}) {
         timer->setSingleShot(true);
         timer->setTimerType(Qt::PreciseTimer);
     }
     m_typing.setInterval(typingMs);
-    connect(&m_field, &QLineEdit::textChanged, this, &ReceivedHeader::onChanged);
-    connect(&m_field, &QLineEdit::textEdited, &m_typing, qOverload<>(&QTimer::start));
     connect(&m_notice, &QTimer::timeout, this, &ReceivedHeader::unreadable);
+}
+
+void ReceivedHeader::setText(const QString &text)
+{
+    m_text = text;
+    m_told = false;
+    m_notice.stop();
+}
+
+void ReceivedHeader::noteTyping()
+{
+    m_typing.start();
 }
 
 StartBytes ReceivedHeader::startBytes()
 {
-    const std::optional<StartBytes> read = parseStartBytes(m_field.text());
+    const std::optional<StartBytes> read = parseStartBytes(m_text);
     if (!read) {
         tellOnce();
     }
     return read.value_or(fallbackStartBytes);
-}
-
-void ReceivedHeader::onChanged()
-{
-    m_told = false;
-    m_notice.stop();
 }
 
 void ReceivedHeader::tellOnce()

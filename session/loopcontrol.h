@@ -1,0 +1,55 @@
+#pragma once
+
+#include "sendloop.h"
+
+#include <QObject>
+
+#include <memory>
+
+class AlarmClock;
+
+/// Starts and stops a session's auto-send loop, and runs its passes.
+class LoopControl : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The sender must outlive the control.
+    explicit LoopControl(Sender &sender, QObject *parent = nullptr);
+    ~LoopControl() override;
+
+    bool isRunning() const { return m_loop.isRunning(); }
+
+    /// Whether a frame of the loop is about to be due, so that nothing that takes long had better
+    /// begin now.
+    bool isFrameNear() const;
+
+    /// Starts a loop over the rows on the sender's link; the user is told why where it can't be.
+    void start(const QVector<CheckedRow> &rows, LoopTiming timing);
+
+    /// Ends the loop if one runs.
+    void stop();
+
+    /// Begins a pass now, unless one is under way or no loop runs.
+    void runPass() { m_loop.runPass(); }
+
+signals:
+    /// A loop begins; emitted before its first frame.
+    void started();
+
+    /// The loop was stopped.
+    void stopped();
+
+    /// The loop has stopped by itself, since it has no rows.
+    void foundNothing();
+
+    /// Something the user must be told; handlers may block.
+    void notice(const QString &text);
+
+private:
+    bool isAcceptable(const LoopPlan &plan);
+
+    Sender &m_sender;
+    std::unique_ptr<AlarmClock> m_clock;
+    SendLoop m_loop;
+};
