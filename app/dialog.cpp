@@ -250,7 +250,7 @@ void Dialog::connectLinks()
     connect(&m_hidLink, &HidLink::dropped, &m_log, [this](qint64 bytes) {
         m_log.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
     });
-    connect(&m_hidLink, &HidLink::deviceDisconnected, this, &Dialog::Close_HidDevice_From_thread);
+    connect(&m_hidLink, &HidLink::lost, this, &Dialog::Close_HidDevice_From_thread);
     connect(&m_receiver, &Receiver::frameReceived, this,
             [this](const QString &hexText) { m_log.appendReceived(hexText, m_format.withCrc()); });
     connect(&m_receiver, &Receiver::noticeReceived, this, &Dialog::logNotice);

@@ -30,8 +30,8 @@ void LinkStatus::follow(const HidPanel &panel, const HidLink &link)
 {
     connect(&panel, &HidPanel::linkChanged, &m_status, &StatusLine::showLink);
     connect(&panel, &HidPanel::failed, &m_status, &StatusLine::tell);
-    connect(&link, &HidLink::deviceDisconnected, this, [this, &link] {
-        m_status.tell(whyLost(link.openPath(), tr("it takes nothing any more")));
+    connect(&link, &HidLink::lost, this, [this, &link](const QString &reason) {
+        m_status.tell(whyLost(link.openPath(), reason));
     });
     connect(&m_devices, &DeviceWatch::hidGone, this,
             [this, &link] { m_status.tell(whyLost(link.openPath(), tr("the device is gone"))); });

@@ -23,14 +23,13 @@ HidPacket makePacket(quint8 reportId, const QByteArray &report)
 } // namespace
 
 HidLink::HidLink(QString deviceIdFile, QObject *parent)
-    : QObject(parent)
+    : Link(parent)
     , m_deviceIdFile(std::move(deviceIdFile))
 {
     connect(&m_thread, &HidThread::packetReceived, &m_receiver,
-            [this](const HidPacket &packet) { receive(packet); });
-    connect(&m_thread, &HidThread::deviceDisconnected, &m_receiver,
-            [this] { emit deviceDisconnected(); });
-    connect(&m_inbox, &ReportInbox::arrived, this, &HidLink::arrived);
+            [this](const HidPacket &packet, ArrivalTime time) { receive(packet, time); });
+    connect(&m_thread, &HidThread::deviceDisconnected, &m_receiver, [this] { reportLoss(); });
+    connect(&m_inbox, &ReportInbox::arrived, this, &Link::arrived);
     connect(&m_inbox, &ReportInbox::dropped, this, &HidLink::dropped);
 }
 
@@ -70,13 +69,19 @@ bool HidLink::open(const QString &path, quint8 reportId)
     m_thread.setPacketSize(readPacketSize(m_deviceIdFile, ids));
     m_timing.emplace();
     m_thread.start();
+    emit openChanged(true);
     return true;
 }
 
 void HidLink::close()
 {
     m_inbox.handUpAll();
-    shutDown();
+    // Something waits still where a handler of what has arrived is the one that closes.
+    m_inbox.clear();
+    if (isOpen()) {
+        shutDown();
+        emit openChanged(false);
+    }
 }
 
 void HidLink::shutDown()
@@ -88,15 +93,24 @@ void HidLink::shutDown()
     m_timing.reset();
 }
 
-void HidLink::receive(const HidPacket &packet)
+void HidLink::receive(const HidPacket &packet, ArrivalTime time)
 {
     const int length = std::clamp(packet.length, 0, longestReport);
-    m_inbox.put({reinterpret_cast<const char *>(&packet.data[1]), length});
+    m_inbox.put({reinterpret_cast<const char *>(&packet.data[1]), length}, time);
 }
 
 QString HidLink::closedMessage() const
 {
     return QStringLiteral("Please open the HID Device!");
+}
+
+void HidLink::reportLoss()
+{
+    // The device's last words.
+    m_inbox.handUpAll();
+    if (isOpen()) {
+        emit lost(tr("it takes nothing any more"));
+    }
 }
 
 void HidLink::write(const QByteArray &block)

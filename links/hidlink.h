@@ -7,13 +7,15 @@
 #include "reportinbox.h"
 
 #include <QHash>
-#include <QObject>
 
 #include <optional>
 
 /// The HID link: lists the attached devices of the known types, opens one of them, and sends blocks
 /// of frames to it as reports.
-class HidLink : public QObject, public Link
+///
+/// The data of a report are handed up 2 ms after it came in. While a handler of that runs, up to
+/// 1 MiB of later ones wait. A device is lost when it can't be written to any more.
+class HidLink : public Link
 {
     Q_OBJECT
 
@@ -31,14 +33,12 @@ public:
     bool open(const QString &path, quint8 reportId);
     /// Why the last attempt to open a device failed, if it did.
     const OpenFailure &failure() const { return m_failure; }
-    /// Stops the worker and closes the device. What has arrived is signalled before, and nothing
-    /// that the device had sent is after.
-    void close();
 
     /// Takes in a packet as if the device had sent it; a length past the packet's end is cut.
-    void receive(const HidPacket &packet);
+    void receive(const HidPacket &packet, ArrivalTime time = ArrivalTime::now());
 
     bool isOpen() const override { return m_thread.isOpen(); }
+    void close() override;
     QString closedMessage() const override;
     int longestInstruction() const override { return 255; }
     void write(const QByteArray &block) override;
@@ -54,16 +54,12 @@ public:
     DeviceIds ids() const { return {m_thread.vendorId(), m_thread.productId()}; }
 
 signals:
-    /// The data of a report that the device has sent, 2 ms after it came in. While a handler runs,
-    /// up to 1 MiB of later ones wait.
-    void arrived(const QByteArray &bytes);
-    /// So many bytes of reports are lost, since the one signalled last kept its handler busy.
+    /// So many bytes of reports are lost, since the one that arrived last kept its handler busy.
     void dropped(qint64 bytes);
-    /// The device can't be written to any more; the link is to be closed.
-    void deviceDisconnected();
 
 private:
     void shutDown();
+    void reportLoss();
 
     QString m_deviceIdFile;
     /// What the system said about the paths listed last, since not every path tells its IDs.

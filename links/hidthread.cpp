@@ -18,6 +18,7 @@ HidThread::HidThread(QObject *parent)
     : QThread(parent)
 {
     qRegisterMetaType<HidPacket>();
+    qRegisterMetaType<ArrivalTime>();
 }
 
 HidThread::~HidThread()
@@ -109,7 +110,7 @@ void HidThread::run()
         }
         // A failed read doesn't end the connection, only a failed write does.
         if (const auto received = read()) {
-            emit packetReceived(*received);
+            emit packetReceived(*received, ArrivalTime::now());
         }
         msleep(pauseMs);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "arrivaltime.h"
 #include "deviceids.h"
 #include "hidpacket.h"
 
@@ -63,8 +64,8 @@ public:
     int queuedPackets() const;
 
 signals:
-    /// The device has sent a report. Its report ID is always 0.
-    void packetReceived(HidPacket packet);
+    /// The device has sent a report, which was read then. Its report ID is always 0.
+    void packetReceived(HidPacket packet, ArrivalTime time);
     /// A write has failed, and the loop has ended. The thread still has to be stopped and closed.
     void deviceDisconnected();
 

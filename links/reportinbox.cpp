@@ -24,7 +24,7 @@ ReportInbox::ReportInbox(QObject *parent)
     connect(&m_due, &QTimer::timeout, this, [this] { handUpDueBy(Clock::now()); });
 }
 
-void ReportInbox::put(const QByteArray &report)
+void ReportInbox::put(const QByteArray &report, ArrivalTime time)
 {
     if (report.isEmpty()) {
         return;
@@ -38,7 +38,7 @@ void ReportInbox::put(const QByteArray &report)
         return;
     }
     m_bytes += bytes;
-    m_waiting.push_back({report, Clock::now() + settleTime});
+    m_waiting.push_back({report, time, Clock::now() + settleTime});
     if (!m_due.isActive()) {
         wake();
     }
@@ -49,6 +49,13 @@ void ReportInbox::handUpAll()
     handUpDueBy(Clock::time_point::max());
 }
 
+void ReportInbox::clear()
+{
+    m_waiting.clear();
+    m_bytes = 0;
+    m_due.stop();
+}
+
 void ReportInbox::handUpDueBy(Clock::time_point moment)
 {
     if (m_busy) {
@@ -57,7 +64,7 @@ void ReportInbox::handUpDueBy(Clock::time_point moment)
     m_busy = true;
     while (!m_waiting.empty() && m_waiting.front().due <= moment) {
         const Waiting oldest = takeOldest();
-        emit arrived(oldest.report);
+        emit arrived(oldest.report, oldest.time);
         if (oldest.droppedBehind > 0) {
             emit dropped(oldest.droppedBehind);
         }

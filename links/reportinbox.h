@@ -1,5 +1,7 @@
 #pragma once
 
+#include "arrivaltime.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QTimer>
@@ -20,15 +22,18 @@ public:
 
     explicit ReportInbox(QObject *parent = nullptr);
 
-    /// Takes in the data of a report; an empty one is passed over.
-    void put(const QByteArray &report);
+    /// Takes in the data of a report that was read then; an empty one is passed over.
+    void put(const QByteArray &report, ArrivalTime time);
 
     /// Hands up at once what waits.
     void handUpAll();
 
+    /// Forgets what waits.
+    void clear();
+
 signals:
-    /// The data of a report.
-    void arrived(const QByteArray &report);
+    /// The data of a report, and when it was read.
+    void arrived(const QByteArray &report, ArrivalTime time);
     /// So many bytes behind the report signalled last are lost.
     void dropped(qint64 bytes);
 
@@ -38,6 +43,7 @@ private:
     struct Waiting
     {
         QByteArray report;
+        ArrivalTime time;
         Clock::time_point due;
         qint64 droppedBehind = 0;
     };

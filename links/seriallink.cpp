@@ -20,7 +20,7 @@ bool endsLink(QSerialPort::SerialPortError error)
 } // namespace
 
 SerialLink::SerialLink(int longestRead, QObject *parent)
-    : QObject(parent)
+    : Link(parent)
     , m_port(this)
 {
     m_port.setReadBufferSize(longestRead);
@@ -47,6 +47,7 @@ bool SerialLink::open(const SerialSettings &settings)
     enlargeIncomingBuffer(qintptr(m_port.handle()));
     m_openPortName = settings.portName;
     m_timing.emplace();
+    emit openChanged(true);
     return true;
 }
 
@@ -56,11 +57,13 @@ void SerialLink::close()
         handUp();
     }
     m_wait.cancel();
+    m_firstRead.reset();
     if (m_port.isOpen()) {
         m_port.clear(QSerialPort::AllDirections);
         m_port.close();
         m_openPortName.clear();
         m_timing.reset();
+        emit openChanged(false);
     }
 }
 
@@ -79,8 +82,9 @@ void SerialLink::handUp()
     }
     m_handsUp = true;
     const QByteArray bytes = readAvailable();
+    const auto firstRead = std::exchange(m_firstRead, std::nullopt);
     if (!bytes.isEmpty()) {
-        emit arrived(bytes);
+        emit arrived(bytes, firstRead.value_or(ArrivalTime::now()));
     }
     m_handsUp = false;
     if (std::exchange(m_isDueMeanwhile, false)) {
@@ -118,6 +122,9 @@ int SerialLink::longestInstruction() const
 
 void SerialLink::write(const QByteArray &block)
 {
+    if (!m_port.isOpen()) {
+        return;
+    }
     m_port.write(block);
     // What the system takes at once goes at once. Not with flush(): to a port that takes nothing
     // just now, it fails for good.
@@ -133,6 +140,9 @@ qint64 SerialLink::unsentBytes() const
 void SerialLink::onReadyRead()
 {
     m_vainReads = 0;
+    if (!m_firstRead) {
+        m_firstRead = ArrivalTime::now();
+    }
     m_wait.announce();
 }
 

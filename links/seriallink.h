@@ -5,7 +5,6 @@
 #include "link.h"
 #include "openfailure.h"
 
-#include <QObject>
 #include <QSerialPort>
 
 #include <optional>
@@ -23,7 +22,10 @@ struct SerialSettings
 };
 
 /// The link over a serial port.
-class SerialLink : public QObject, public Link
+///
+/// What has come in is handed up 2 to 7 ms after the port announced it, so that a frame in pieces
+/// comes in whole. While a handler of that runs, the port isn't read any further.
+class SerialLink : public Link
 {
     Q_OBJECT
 
@@ -38,10 +40,6 @@ public:
     /// Why the last attempt to open a port failed, if it did.
     const OpenFailure &failure() const { return m_failure; }
 
-    /// Hands up what has been announced, drops what is still to be sent or read, and closes the
-    /// port.
-    void close();
-
     /// The name that the open port was opened by; empty while the link is closed.
     QString openPortName() const { return m_openPortName; }
 
@@ -49,18 +47,11 @@ public:
     void receive();
 
     bool isOpen() const override;
+    void close() override;
     QString closedMessage() const override;
     int longestInstruction() const override;
     void write(const QByteArray &block) override;
     qint64 unsentBytes() const override;
-
-signals:
-    /// What has come in, 2 to 7 ms after the port announced it, so that a frame in pieces comes in
-    /// whole. Handlers may block; meanwhile the port isn't read any further.
-    void arrived(const QByteArray &bytes);
-
-    /// The open port has failed for good, for the reason given. Emitted once, from the event loop.
-    void lost(const QString &reason);
 
 private:
     void handUp();
@@ -77,6 +68,8 @@ private:
     /// Held while the port is open.
     std::optional<ExactTiming> m_timing;
     ArrivalWait m_wait;
+    /// When the first of the bytes that are to be handed up was read.
+    std::optional<ArrivalTime> m_firstRead;
     bool m_handsUp = false;
     bool m_isDueMeanwhile = false;
     bool m_failed = false;

@@ -99,7 +99,7 @@ void TestSender::oneWithCrc()
 void TestSender::oneOverAClosedLink()
 {
     Bench bench;
-    bench.link.open = false;
+    bench.link.close();
     bench.sender.sendOne(bytes(70000));
     QCOMPARE(bench.said, QStringList{"message closed"});
     QVERIFY(bench.link.blocks.isEmpty());
@@ -193,7 +193,7 @@ void TestSender::warningComesBeforeTheFrame()
 void TestSender::oneWhoseLinkClosesDuringAMessage()
 {
     Bench bench;
-    bench.settings.onNextLayout = [&] { bench.link.open = false; };
+    bench.settings.onNextLayout = [&] { bench.link.close(); };
     bench.sender.sendOne("0102");
     QVERIFY(bench.link.blocks.isEmpty());
     QVERIFY(bench.said.isEmpty());
@@ -250,7 +250,7 @@ void TestSender::allInOneWrite()
 void TestSender::allOverAClosedLink()
 {
     Bench bench;
-    bench.link.open = false;
+    bench.link.close();
     bench.sender.sendAll({{1, "01"}});
     QCOMPARE(bench.said, QStringList{"message closed"});
     QVERIFY(bench.link.blocks.isEmpty());
@@ -290,7 +290,7 @@ void TestSender::allOverlong()
 void TestSender::allWhoseLinkClosesDuringAMessage()
 {
     Bench bench;
-    bench.settings.onNextLayout = [&] { bench.link.open = false; };
+    bench.settings.onNextLayout = [&] { bench.link.close(); };
     bench.sender.sendAll({{1, "01"}});
     QVERIFY(bench.link.blocks.isEmpty());
     QVERIFY(bench.said.isEmpty());
@@ -327,7 +327,7 @@ void TestSender::allCutsAtStartBytesInPayloads()
 void TestSender::loopPlanChecksNoLink()
 {
     Bench bench;
-    bench.link.open = false;
+    bench.link.close();
     bench.settings.layout.withCrc = true;
     const LoopPlan plan = bench.sender.planLoop({{1, "010300000001"}, {2, bytes(65531)}});
     QCOMPARE(plan.overlongRows, QVector<int>{2});
@@ -345,7 +345,7 @@ void TestSender::aTextIsHandedOverAndTold()
     bench.sender.tellFrame(frame);
     QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 "}));
     QCOMPARE(bench.sender.handOverText("1", notice), QByteArray());
-    bench.link.open = false;
+    bench.link.close();
     QCOMPARE(bench.sender.handOverText("01", notice), QByteArray());
     QCOMPARE(bench.link.blocks, QVector<QByteArray>{frame});
 }
@@ -358,7 +358,7 @@ void TestSender::aBlockIsHandedOverAndTold()
     QCOMPARE(bench.said, QStringList{"handed over"});
     bench.sender.tellBlock(block);
     QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 ", "sent 5A A5 01 02 "}));
-    bench.link.open = false;
+    bench.link.close();
     QCOMPARE(bench.sender.handOverBlock(block), QByteArray());
     bench.sender.tellBlock({});
     QCOMPARE(bench.said.size(), 3);
@@ -401,12 +401,12 @@ void TestSender::linkCanBeExchanged()
     Bench bench;
     FakeLink other;
     bench.sender.setLink(&other);
-    bench.link.open = false;
+    bench.link.close();
     QVERIFY(bench.sender.isLinkOpen());
     bench.sender.sendOne("01");
     QCOMPARE(other.blocks.size(), 1);
     QVERIFY(bench.link.blocks.isEmpty());
-    other.open = false;
+    other.close();
     QVERIFY(!bench.sender.requireOpenLink());
     QCOMPARE(bench.said.last(), QString("message closed"));
 }

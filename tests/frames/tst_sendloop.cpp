@@ -212,7 +212,7 @@ void TestSendLoop::aClosedLinkIsPassedOver()
 {
     QFETCH(int, intervalMs);
     LoopBench bench;
-    bench.link.open = false;
+    bench.link.close();
     bench.run({"01", "++1", "02"}, {intervalMs, 0});
     bench.clock.advance(10);
     QCOMPARE(bench.passDue.size(), 1);

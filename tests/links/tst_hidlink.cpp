@@ -350,7 +350,7 @@ void TestHidLink::closingHandsUpWhatHasArrived()
 void TestHidLink::disconnectionIsSignalledOnce()
 {
     HidLink link(m_file);
-    QSignalSpy spy(&link, &HidLink::deviceDisconnected);
+    QSignalSpy spy(&link, &HidLink::lost);
     QVERIFY(link.open(smallPath, 0));
     m_fake.failWrites();
     link.write(QByteArray(640, 'x'));
@@ -367,7 +367,7 @@ void TestHidLink::disconnectionIsSignalledOnce()
 void TestHidLink::nothingOldAfterReopening()
 {
     HidLink link(m_file);
-    QSignalSpy disconnections(&link, &HidLink::deviceDisconnected);
+    QSignalSpy disconnections(&link, &HidLink::lost);
     QSignalSpy packets(&link, &HidLink::arrived);
     QVERIFY(link.open(smallPath, 0));
     m_fake.sendReport("old");
@@ -388,7 +388,7 @@ void TestHidLink::nothingOldAfterReopening()
 void TestHidLink::closingFromTheSignal()
 {
     HidLink link(m_file);
-    connect(&link, &HidLink::deviceDisconnected, &link, &HidLink::close);
+    connect(&link, &HidLink::lost, &link, &HidLink::close);
     QVERIFY(link.open(smallPath, 0));
     m_fake.failWrites();
     link.write("x");

@@ -65,7 +65,7 @@ void TestReportInbox::aReportIsHandedUpAfterAWait()
     QSignalSpy arrived(&inbox, &ReportInbox::arrived);
     QElapsedTimer timer;
     timer.start();
-    inbox.put("report");
+    inbox.put("report", {});
     QCOMPARE(arrived.count(), 0);
     QVERIFY(arrived.wait());
     QVERIFY(timer.elapsed() >= 2);
@@ -78,7 +78,7 @@ void TestReportInbox::reportsKeepTheirOrder()
     const Heard heard(inbox);
     QList<QByteArray> expected;
     for (int i = 0; i < 200; ++i) {
-        inbox.put(numbered(i));
+        inbox.put(numbered(i), {});
         expected.append(QByteArray::number(i));
         if (i % 10 == 0) {
             runFor(1);
@@ -91,8 +91,8 @@ void TestReportInbox::allCanBeHandedUpAtOnce()
 {
     ReportInbox inbox;
     const Heard heard(inbox);
-    inbox.put("1");
-    inbox.put("2");
+    inbox.put("1", {});
+    inbox.put("2", {});
     inbox.handUpAll();
     QCOMPARE(heard.lines, QList<QByteArray>({"1", "2"}));
     runFor(10);
@@ -103,8 +103,8 @@ void TestReportInbox::anEmptyReportIsPassedOver()
 {
     ReportInbox inbox;
     const Heard heard(inbox);
-    inbox.put("");
-    inbox.put("1");
+    inbox.put("", {});
+    inbox.put("1", {});
     QTRY_COMPARE(heard.lines, QList<QByteArray>{"1"});
 }
 
@@ -114,13 +114,13 @@ void TestReportInbox::aBusyHandlerIsNotAskedAgain()
     Heard heard(inbox);
     int heardWhileBusy = 0;
     heard.whileBusy = [&] {
-        inbox.put("2");
-        inbox.put("3");
+        inbox.put("2", {});
+        inbox.put("3", {});
         runFor(20);
         inbox.handUpAll();
         heardWhileBusy = heard.lines.size();
     };
-    inbox.put("1");
+    inbox.put("1", {});
     QTRY_COMPARE(heard.lines, QList<QByteArray>({"1", "2", "3"}));
     QCOMPARE(heardWhileBusy, 1);
 }
@@ -133,12 +133,12 @@ void TestReportInbox::beyondTheCapacityReportsAreDroppedAndTold()
     Heard heard(inbox);
     heard.whileBusy = [&] {
         for (int i = 1; i <= most + lost; ++i) {
-            inbox.put(numbered(i));
+            inbox.put(numbered(i), {});
         }
     };
-    inbox.put(numbered(0));
+    inbox.put(numbered(0), {});
     QTRY_VERIFY(heard.lines.size() > most);
-    inbox.put("later");
+    inbox.put("later", {});
     QTRY_COMPARE(heard.lines.constLast(), QByteArray("later"));
     QCOMPARE(heard.lines.at(most), QByteArray::number(most));
     QCOMPARE(heard.lines.at(most + 1), '-' + QByteArray::number(lost * reportSize));
@@ -152,10 +152,10 @@ void TestReportInbox::tinyReportsAreBoundedToo()
     Heard heard(inbox);
     heard.whileBusy = [&] {
         for (int i = 0; i < many; ++i) {
-            inbox.put("x");
+            inbox.put("x", {});
         }
     };
-    inbox.put("0");
+    inbox.put("0", {});
     QTRY_VERIFY(heard.lines.value(heard.lines.size() - 1).startsWith('-'));
     QVERIFY(heard.lines.size() <= ReportInbox::capacity / 64 + 2);
     QCOMPARE(heard.lines.size() - 2 + heard.lines.constLast().mid(1).toInt(), many);
@@ -167,7 +167,7 @@ void TestReportInbox::nothingIsDroppedWithoutABusyHandler()
     ReportInbox inbox;
     const Heard heard(inbox);
     for (int i = 0; i < many; ++i) {
-        inbox.put(numbered(i));
+        inbox.put(numbered(i), {});
     }
     QTRY_COMPARE(heard.lines.size(), many);
     QCOMPARE(heard.lines.constLast(), QByteArray::number(many - 1));
