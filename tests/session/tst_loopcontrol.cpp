@@ -79,7 +79,7 @@ void TestLoopControl::aStopIsToldOnce()
 void TestLoopControl::theLinkMustBeOpen()
 {
     Bench bench;
-    bench.link.open = false;
+    bench.link.close();
     bench.loop.start(rows(1, "0310"), {0, 0});
     QVERIFY(!bench.loop.isRunning());
     QCOMPARE(bench.said, QStringList{"closed"});
@@ -120,7 +120,7 @@ void TestLoopControl::overlongRowsAreToldAndLeftOut()
 void TestLoopControl::aLinkLostDuringAMessageStartsNothing()
 {
     Bench bench;
-    connect(&bench.loop, &LoopControl::notice, &bench.loop, [&bench] { bench.link.open = false; });
+    connect(&bench.loop, &LoopControl::notice, &bench.loop, [&bench] { bench.link.close(); });
     bench.loop.start(rows(1, QString(2 * 65536, '0')) + rows(1, "0310"), {1, 0});
     QVERIFY(!bench.loop.isRunning());
     QCOMPARE(bench.said, QStringList{overlongRowsMessage({1})});
