@@ -1,7 +1,5 @@
 #include "oneline.h"
 
-#include <QLineEdit>
-
 QString onOneLine(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String(" "));
@@ -10,18 +8,4 @@ QString onOneLine(QString text)
         text.replace(lineBreak, QLatin1Char(' '));
     }
     return text;
-}
-
-void keepOnOneLine(QLineEdit &edit)
-{
-    QObject::connect(&edit, &QLineEdit::textChanged, &edit, [&edit](const QString &text) {
-        const QString line = onOneLine(text);
-        if (line != text) {
-            const int shrunkBy = text.size() - line.size();
-            const int cursor = edit.cursorPosition();
-            edit.setText(line);
-            edit.setCursorPosition(cursor - shrunkBy);
-            edit.setModified(true);
-        }
-    });
 }

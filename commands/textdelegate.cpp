@@ -2,7 +2,7 @@
 
 #include "cellfault.h"
 #include "commandcolumns.h"
-#include "oneline.h"
+#include "onelineedit.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -1,9 +1,7 @@
-#include "filedesk.h"
-#include "filedialoguser.h"
 #include "overwriting.h"
 #include "restrictions.h"
-#include "testfiles.h"
 
+#include <QFileInfo>
 #include <QtTest>
 
 class TestOverwriting : public QObject
@@ -11,46 +9,8 @@ class TestOverwriting : public QObject
     Q_OBJECT
 
 private slots:
-    void commandsAreKeptUntilTheirFileIsDone();
-    void commandsBesideTheirFileNeedNoKeeping();
-    void messagesAreNotKept();
     void hugeFilesAreRefused();
 };
-
-void TestOverwriting::commandsAreKeptUntilTheirFileIsDone()
-{
-    FileDesk desk;
-    desk.rows = {rowWith(QStringLiteral("a"))};
-    const ClosedFolder folder("before");
-    const FileDialogUser user(folder.filePath());
-    const OrdinaryUser ordinary;
-    QVERIFY(ordinary.isInForce());
-    desk.actions.saveCommands();
-    QCOMPARE(desk.events.mid(0, 2),
-             QStringList({"about to be overwritten", "stored: " + folder.filePath()}));
-    QCOMPARE(contentOf(folder.filePath()), QByteArray("a,unselect,%% %%%% \n"));
-}
-
-void TestOverwriting::commandsBesideTheirFileNeedNoKeeping()
-{
-    FileDesk desk;
-    desk.rows = {rowWith(QStringLiteral("a"))};
-    const FileDialogUser user(desk.path(QStringLiteral("list.txt")));
-    desk.actions.saveCommands();
-    QVERIFY(!desk.events.contains("about to be overwritten"));
-}
-
-void TestOverwriting::messagesAreNotKept()
-{
-    FileDesk desk;
-    const ClosedFolder folder("before");
-    const FileDialogUser user(folder.filePath());
-    const OrdinaryUser ordinary;
-    QVERIFY(ordinary.isInForce());
-    desk.actions.saveMessages();
-    QVERIFY(!desk.events.contains("about to be overwritten"));
-    QCOMPARE(contentOf(folder.filePath()), QByteArray());
-}
 
 void TestOverwriting::hugeFilesAreRefused()
 {
@@ -61,5 +21,5 @@ void TestOverwriting::hugeFilesAreRefused()
     QCOMPARE(QFileInfo(folder.filePath()).size(), size);
 }
 
-QTEST_MAIN(TestOverwriting)
+QTEST_GUILESS_MAIN(TestOverwriting)
 #include "tst_overwriting.moc"
