@@ -1,6 +1,7 @@
 #include "fileactions.h"
 
 #include "commandfile.h"
+#include "examplesfolder.h"
 #include "filereader.h"
 #include "filesaver.h"
 #include "lastfolders.h"
@@ -19,6 +20,13 @@ namespace {
 QString startFolder(const QString &lastFolder)
 {
     return lastFolder.isEmpty() ? QCoreApplication::applicationDirPath() : lastFolder;
+}
+
+/// Loading begins in the examples where they are installed, until something was loaded.
+QString loadFolder(const QString &lastFolder)
+{
+    return startFolder(lastFolder.isEmpty() ? examplesFolder(QCoreApplication::applicationDirPath())
+                                            : lastFolder);
 }
 
 /// Recovery files may be larger than others.
@@ -41,7 +49,7 @@ FileActions::FileActions(QWidget *window, QString dataFolder, FileActionHooks ho
 
 void FileActions::loadCommands()
 {
-    loadCommandsAt(startFolder(m_lastLoadFolder));
+    loadCommandsAt(loadFolder(m_lastLoadFolder));
 }
 
 void FileActions::loadCommandsAt(const QString &path)

@@ -12,6 +12,7 @@ class TestLoadingCommands : public QObject
 
 private slots:
     void asksForTheFileInTheLastLoadFolder();
+    void beginsInTheExamplesThatAreInstalled();
     void cancellingLoadsNothing();
     void theChosenFileIsLoaded();
     void tellsOfInvalidLinesBeforeTheFolderIsStored();
@@ -37,6 +38,22 @@ void TestLoadingCommands::asksForTheFileInTheLastLoadFolder()
     desk.actions.setLastSaveFolder(QStringLiteral("/"));
     desk.actions.loadCommands();
     QCOMPARE(user.dialogCount(), 2);
+    QCOMPARE(user.look().folder, desk.dir.path());
+}
+
+void TestLoadingCommands::beginsInTheExamplesThatAreInstalled()
+{
+    QDir beside(QCoreApplication::applicationDirPath());
+    QVERIFY(beside.mkdir("examples"));
+    const auto remove = qScopeGuard([&beside] { beside.rmdir("examples"); });
+    FileDesk desk;
+    const FileDialogUser user;
+    desk.actions.loadCommands();
+    QCOMPARE(user.look().folder, beside.filePath("examples"));
+    QCOMPARE(desk.actions.lastLoadFolder(), QString());
+
+    desk.actions.setLastLoadFolder(desk.folder());
+    desk.actions.loadCommands();
     QCOMPARE(user.look().folder, desk.dir.path());
 }
 
