@@ -4,7 +4,7 @@
 #include "devicenames.h"
 #include "hextext.h"
 #include "hidlink.h"
-#include "messagelog.h"
+#include "recordlog.h"
 #include "seriallink.h"
 
 namespace {
@@ -22,7 +22,7 @@ QString shownName(const WatchedDevice &device)
 
 } // namespace
 
-DeviceWatch::DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, MessageLog &log,
+DeviceWatch::DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, RecordLog &log,
                          QObject *parent)
     : QObject(parent)
     , m_serialLink(serialLink)

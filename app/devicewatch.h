@@ -5,7 +5,7 @@
 #include <QObject>
 
 class HidLink;
-class MessageLog;
+class RecordLog;
 class SerialLink;
 
 /// Writes devices that come and go into the message log, and tells when one in use has gone.
@@ -15,7 +15,7 @@ class DeviceWatch : public QObject
 
 public:
     /// Links and log must outlive the watch.
-    DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, MessageLog &log,
+    DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, RecordLog &log,
                 QObject *parent = nullptr);
 
     /// Begins to watch the system's devices and the folder of port links. Returns false when the
@@ -44,6 +44,6 @@ private:
 
     const SerialLink &m_serialLink;
     const HidLink &m_hidLink;
-    MessageLog &m_log;
+    RecordLog &m_log;
     DeviceMonitor m_monitor;
 };

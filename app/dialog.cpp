@@ -1,12 +1,14 @@
 #include "dialog.h"
 
+#include "allzero.h"
 #include "boxes.h"
 #include "celltips.h"
+#include "commandcolumns.h"
 #include "datafolder.h"
-#include "fieldcutter.h"
 #include "headernotice.h"
 #include "lightlook.h"
 #include "linktexts.h"
+#include "logtexts.h"
 #include "scrollablewindow.h"
 #include "styles.h"
 #include "ui_dialog.h"
@@ -21,7 +23,8 @@ namespace {
 constexpr int firstRefreshMs = 1000;
 constexpr int commandStretch = 10;
 constexpr int messageStretch = 8;
-constexpr int tipColumn = 5;
+constexpr int tipColumn = LogColumn::Data;
+static_assert(tipColumn == CommandColumn::Crc);
 constexpr int refreshAfterEventMs = 500;
 
 } // namespace
@@ -63,9 +66,10 @@ Dialog::Dialog(QWidget *parent)
     , m_rowActions(*m_form->tableWidget_Register, m_commands, m_menus, this)
     , m_tableKeys(*m_form->tableWidget_Register, m_commands, m_rowActions, m_menus, this)
     , m_rowEditor(*m_form->tableWidget_Register, m_commands, this)
-    , m_log(*m_form->tableWidget_Message, this)
-    , m_messageCopy(*m_form->tableWidget_Message, m_log, this)
-    , m_devices(m_serialLink, m_hidLink, m_log, this)
+    , m_records(this)
+    , m_log(*m_form->tableWidget_Message, m_records, this)
+    , m_messageCopy(*m_form->tableWidget_Message, m_log, m_records, this)
+    , m_devices(m_serialLink, m_hidLink, m_records, this)
     , m_linkStatus(m_status, m_devices, this)
     , m_files(this, dataFolder(), fileHooks())
     , m_recovery(dataFolder(), m_list, [this] { return m_commands.rows(); })
@@ -209,7 +213,7 @@ FileActionHooks Dialog::fileHooks()
     hooks.commandsRecovered = [this](const QString &path) { takeRecovered(path); };
     hooks.beforeOverwriting = [this] { m_recovery.write(); };
     hooks.tell = [this](const QString &text) { m_status.tell(text); };
-    hooks.messages = [this] { return m_log.rows(); };
+    hooks.messages = [this] { return textsOf(m_records.records()); };
     return hooks;
 }
 
@@ -247,12 +251,13 @@ void Dialog::connectLinks()
         showMessage(whyLost(port, reason));
     });
     connect(&m_hidLink, &HidLink::arrived, &m_receiver, &Receiver::take);
-    connect(&m_hidLink, &HidLink::dropped, &m_log, [this](qint64 bytes) {
-        m_log.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
+    connect(&m_hidLink, &HidLink::dropped, &m_records, [this](qint64 bytes) {
+        m_records.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
     });
     connect(&m_hidLink, &HidLink::lost, this, &Dialog::Close_HidDevice_From_thread);
-    connect(&m_receiver, &Receiver::frameReceived, this,
-            [this](const QString &hexText) { m_log.appendReceived(hexText, m_format.withCrc()); });
+    connect(&m_receiver, &Receiver::frameReceived, this, [this](const QByteArray &frame) {
+        m_records.appendReceived(frame, m_format.withCrc());
+    });
     connect(&m_receiver, &Receiver::noticeReceived, this, &Dialog::logNotice);
     connect(&m_receivedHeader, &ReceivedHeader::unreadable, this,
             [this] { showMessage(badHeaderMessage); });
@@ -276,7 +281,7 @@ void Dialog::connectSending()
 {
     connect(&m_sender, &Sender::message, this, &Dialog::showMessage);
     connect(&m_sender, &Sender::sent, this,
-            [this](const QString &hexText) { m_log.appendSent(hexText, m_format.withCrc()); });
+            [this](const QByteArray &frame) { m_records.appendSent(frame, m_format.withCrc()); });
     connect(&m_loop, &LoopControl::notice, this, &Dialog::showMessage);
     connect(&m_loop, &LoopControl::started, this, [this] { m_loopPanel.showRunning(linkMode()); });
     connect(&m_loop, &LoopControl::stopped, &m_loopPanel, &LoopPanel::showStopped);
@@ -382,7 +387,7 @@ void Dialog::Timer2_Out_Event()
 
 void Dialog::on_pushButton_ClearMessage_clicked()
 {
-    m_log.clear();
+    m_records.clear();
 }
 
 void Dialog::on_pushButton_SaveMessage_clicked()
@@ -502,10 +507,10 @@ void Dialog::endHidLink()
     m_hidPanel.close();
 }
 
-void Dialog::logNotice(const QString &hexText)
+void Dialog::logNotice(const QByteArray &bytes)
 {
-    if (linkMode() == LinkMode::Hid && isAllZero(hexText)) {
+    if (linkMode() == LinkMode::Hid && isAllZero(bytes)) {
         return;
     }
-    m_log.appendNotice(hexText);
+    m_records.appendStray(bytes);
 }

@@ -16,6 +16,7 @@
 #include "messagelog.h"
 #include "receivedheader.h"
 #include "receiver.h"
+#include "recordlog.h"
 #include "recovery.h"
 #include "rowactions.h"
 #include "roweditor.h"
@@ -120,7 +121,7 @@ private:
     void openSerialPort();
     void endSerialLink();
     void endHidLink();
-    void logNotice(const QString &hexText);
+    void logNotice(const QByteArray &bytes);
 
     std::unique_ptr<Ui::Dialog> m_form;
     WindowMemory m_memory;
@@ -143,6 +144,7 @@ private:
     RowActions m_rowActions;
     TableKeys m_tableKeys;
     RowEditor m_rowEditor;
+    RecordLog m_records;
     MessageLog m_log;
     MessageCopy m_messageCopy;
     DeviceWatch m_devices;

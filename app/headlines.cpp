@@ -2,6 +2,7 @@
 
 #include "liststate.h"
 #include "messagelog.h"
+#include "recordlog.h"
 #include "ui_dialog.h"
 
 #include <QDir>
@@ -17,11 +18,11 @@ Headlines::Headlines(Ui::Dialog &form, const ListState &list, QObject *parent)
 void Headlines::follow(const MessageLog &log)
 {
     // A label of a fixed size changes its text without a new layout of the whole window.
-    showMessageCount(MessageLog::mostRows);
+    showMessageCount(RecordLog::mostRecords);
     m_form.label_MessageCount->ensurePolished();
     m_form.label_MessageCount->setFixedSize(m_form.label_MessageCount->sizeHint());
     connect(&log, &MessageLog::countChanged, this, &Headlines::showMessageCount);
-    showMessageCount(log.count());
+    showMessageCount(0);
 }
 
 void Headlines::showList()
@@ -32,5 +33,5 @@ void Headlines::showList()
 
 void Headlines::showMessageCount(int count)
 {
-    m_form.label_MessageCount->setText(tr("%1 of %2").arg(count).arg(MessageLog::mostRows));
+    m_form.label_MessageCount->setText(tr("%1 of %2").arg(count).arg(RecordLog::mostRecords));
 }

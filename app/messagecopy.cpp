@@ -1,7 +1,9 @@
 #include "messagecopy.h"
 
+#include "logtexts.h"
 #include "messagefile.h"
 #include "messagelog.h"
+#include "recordlog.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -10,14 +12,15 @@
 
 namespace {
 
-QString directionMark(MessageLog::Direction direction)
+QString directionMark(LogRecord::Kind kind)
 {
-    switch (direction) {
-    case MessageLog::Direction::Sent:
+    switch (kind) {
+    case LogRecord::Kind::Sent:
         return QStringLiteral("TX ");
-    case MessageLog::Direction::Received:
+    case LogRecord::Kind::Received:
+    case LogRecord::Kind::Stray:
         return QStringLiteral("RX ");
-    case MessageLog::Direction::None:
+    case LogRecord::Kind::Event:
         break;
     }
     return {};
@@ -25,10 +28,12 @@ QString directionMark(MessageLog::Direction direction)
 
 } // namespace
 
-MessageCopy::MessageCopy(QTableWidget &table, MessageLog &log, QObject *parent)
+MessageCopy::MessageCopy(QTableWidget &table, MessageLog &log, const RecordLog &records,
+                         QObject *parent)
     : QObject(parent)
     , m_table(table)
     , m_log(log)
+    , m_records(records)
 {
     auto *copy = new QShortcut(QKeySequence::Copy, &m_table);
     copy->setContext(Qt::WidgetShortcut);
@@ -37,13 +42,15 @@ MessageCopy::MessageCopy(QTableWidget &table, MessageLog &log, QObject *parent)
 
 void MessageCopy::copySelectedRows()
 {
-    const QVector<MessageRow> rows = m_log.rows();
+    m_log.bringIn();
     const QItemSelectionModel &selection = *m_table.selectionModel();
     QString text;
-    for (int row = 0; row < rows.size(); ++row) {
-        const QString line = messageLine(rows.at(row));
-        if (selection.isRowSelected(row, {}) && !line.isEmpty()) {
-            text += directionMark(m_log.direction(row)) + line + QLatin1Char('\n');
+    for (int row = 0; row < m_records.count(); ++row) {
+        const LogRecord &record = m_records.records().at(row);
+        const QString line =
+            selection.isRowSelected(row, {}) ? messageLine(textsOf(record)) : QString();
+        if (!line.isEmpty()) {
+            text += directionMark(record.kind) + line + QLatin1Char('\n');
         }
     }
     QApplication::clipboard()->setText(text);

@@ -1,7 +1,7 @@
 #include "figures.h"
-#include "hextext.h"
 #include "logtable.h"
 #include "messagelog.h"
+#include "recordlog.h"
 
 #include <QApplication>
 #include <QTableWidget>
@@ -18,7 +18,7 @@ class ShownLog
 {
 public:
     ShownLog()
-        : m_log(m_table)
+        : m_log(m_table, m_records)
     {
         m_table.resize(900, 350);
         m_table.show();
@@ -31,7 +31,7 @@ public:
     {
         const double seconds = medianSeconds([&] {
             for (int row = 0; row < rows; ++row) {
-                m_log.appendReceived(m_text, true);
+                m_records.appendReceived(m_frame, true);
                 if (row % rowsAtATime == rowsAtATime - 1) {
                     m_log.bringIn();
                     QCoreApplication::processEvents();
@@ -47,9 +47,9 @@ public:
     double costOfFullTable()
     {
         const double seconds = medianSeconds([&] {
-            m_log.clear();
+            m_records.clear();
             for (int row = 0; row < rowsOfAFullLog; ++row) {
-                m_log.appendReceived(m_text, true);
+                m_records.appendReceived(m_frame, true);
             }
             m_log.bringIn();
         });
@@ -64,13 +64,14 @@ public:
 
     double milliSecondsToClear()
     {
-        return 1000 * medianSeconds([this] { m_log.clear(); });
+        return 1000 * medianSeconds([this] { m_records.clear(); });
     }
 
 private:
     LogTable m_table;
+    RecordLog m_records;
     MessageLog m_log;
-    const QString m_text = formatHexBytes(QByteArray::fromHex("5AA50803100000000000770102"));
+    const QByteArray m_frame = QByteArray::fromHex("5AA50803100000000000770102");
 };
 
 } // namespace

@@ -86,8 +86,8 @@ struct Tally
 
     explicit Tally(const Receiver &receiver)
     {
-        QObject::connect(&receiver, &Receiver::frameReceived, [this](const QString &text) {
-            outOfOrder += text != hexText(received++) ? 1 : 0;
+        QObject::connect(&receiver, &Receiver::frameReceived, [this](const QByteArray &frame) {
+            outOfOrder += frame != numberedFrame(received++) ? 1 : 0;
             sinceLast.start();
         });
         QObject::connect(&receiver, &Receiver::noticeReceived, [this] { ++notices; });

@@ -29,11 +29,9 @@ struct DeviceParser::Finding
 };
 
 DeviceParser::DeviceParser(StartBytes startBytes, bool withCrc)
-    : m_withCrc(withCrc)
-{
-    m_header.append(static_cast<char>(startBytes.first));
-    m_header.append(static_cast<char>(startBytes.second));
-}
+    : m_header(bytesOf(startBytes))
+    , m_withCrc(withCrc)
+{}
 
 QVector<QByteArray> DeviceParser::take(const QByteArray &bytes)
 {

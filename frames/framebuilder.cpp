@@ -112,8 +112,7 @@ QByteArray frameOfPayload(const QByteArray &payload, const FrameLayout &layout)
     QByteArray frame;
     frame.reserve(content.size() + 5);
     if (layout.withStartBytes) {
-        frame.append(static_cast<char>(layout.startBytes.first));
-        frame.append(static_cast<char>(layout.startBytes.second));
+        frame.append(bytesOf(layout.startBytes));
     }
     if (layout.withLength) {
         appendLength(frame, content, layout);

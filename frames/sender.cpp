@@ -3,7 +3,6 @@
 #include "delaymarker.h"
 #include "framesettings.h"
 #include "headernotice.h"
-#include "hextext.h"
 #include "link.h"
 
 namespace {
@@ -106,7 +105,7 @@ QByteArray Sender::handOverBlock(const QByteArray &block)
 void Sender::tellFrame(const QByteArray &frame)
 {
     if (!frame.isEmpty()) {
-        emit sent(formatHexBytes(frame));
+        emit sent(frame);
     }
 }
 
@@ -115,9 +114,8 @@ void Sender::tellBlock(const QByteArray &block)
     if (block.isEmpty()) {
         return;
     }
-    const QString startBytes = startBytesText(m_settings.startBytes());
-    for (const QString &piece : splitBlockText(formatHexBytes(block), startBytes)) {
-        emit sent(piece);
+    for (const QByteArray &frame : splitBlock(block, m_settings.startBytes())) {
+        emit sent(frame);
     }
 }
 

@@ -59,8 +59,8 @@ signals:
     /// Something the user must be told, emitted before the sender goes on; handlers may block.
     void message(const QString &text);
 
-    /// One frame as hex text ("5A A5 03 …"), for the log.
-    void sent(const QString &frameHexText);
+    /// One frame that was handed over, for the log.
+    void sent(const QByteArray &frame);
 
 private:
     QByteArray makeFrame(const QString &frameText, HeaderNotice &notice);

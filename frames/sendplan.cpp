@@ -5,7 +5,7 @@
 namespace {
 
 constexpr int longestBatchFrame = 65535;
-constexpr int charactersToNextFrame = 7;
+constexpr int bytesToNextFrame = 3;
 
 int batchFrameLength(const QString &frameText, bool withCrc)
 {
@@ -154,17 +154,18 @@ QString overlongRowsMessage(const QVector<int> &rows)
                " instruction length is out of the maximum range, sending errors may occur!");
 }
 
-QStringList splitBlockText(const QString &blockText, const QString &startBytesText)
+QVector<QByteArray> splitBlock(const QByteArray &block, StartBytes startBytes)
 {
-    QStringList pieces;
+    const QByteArray header = bytesOf(startBytes);
+    QVector<QByteArray> pieces;
     int begin = 0;
-    int found = blockText.indexOf(startBytesText);
+    int found = block.indexOf(header);
     while (found >= 0) {
         if (found > begin) {
-            pieces.append(blockText.mid(begin, found - begin));
+            pieces.append(block.mid(begin, found - begin));
         }
         begin = found;
-        found = blockText.indexOf(startBytesText, found + charactersToNextFrame);
+        found = block.indexOf(header, found + bytesToNextFrame);
     }
-    return pieces << blockText.mid(begin);
+    return pieces << block.mid(begin);
 }

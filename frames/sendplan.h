@@ -1,5 +1,7 @@
 #pragma once
 
+#include "startbytes.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -80,7 +82,6 @@ QString unsentBytesMessage(qint64 unsentBytes);
 /// The message about the rows left out of a batch or a loop.
 QString overlongRowsMessage(const QVector<int> &rows);
 
-/// Cuts the hex text of a block at its frames: at each occurrence of the start bytes' text, the
-/// next one being sought from 7 characters behind the previous one on. The pieces together are the
-/// text.
-QStringList splitBlockText(const QString &blockText, const QString &startBytesText);
+/// Cuts a block at its frames: at each occurrence of the start bytes, the next one being sought
+/// from 3 bytes behind the beginning of the previous one on. The pieces together are the block.
+QVector<QByteArray> splitBlock(const QByteArray &block, StartBytes startBytes);

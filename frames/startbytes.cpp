@@ -32,7 +32,9 @@ std::optional<StartBytes> parseStartBytes(const QString &headerField)
     return StartBytes{hexPairToByte(kept.at(2), kept.at(3)), hexPairToByte(kept.at(6), kept.at(7))};
 }
 
-QString startBytesText(StartBytes startBytes)
+QByteArray bytesOf(StartBytes startBytes)
 {
-    return paddedHex(startBytes.first, 2) + QLatin1Char(' ') + paddedHex(startBytes.second, 2);
+    const char bytes[] = {static_cast<char>(startBytes.first),
+                          static_cast<char>(startBytes.second)};
+    return {bytes, sizeof bytes};
 }

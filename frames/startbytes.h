@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -23,5 +24,5 @@ constexpr StartBytes fallbackStartBytes{0xA5, 0x5A};
 /// characters.
 std::optional<StartBytes> parseStartBytes(const QString &headerField);
 
-/// The start bytes as they stand in a frame's hex text, "5A A5".
-QString startBytesText(StartBytes startBytes);
+/// The start bytes as they go over the wire.
+QByteArray bytesOf(StartBytes startBytes);

@@ -4,13 +4,27 @@
 
 #include <QStringList>
 
-#include <initializer_list>
+#include <optional>
 
 namespace {
 
 constexpr QChar cutMark = QLatin1Char('/');
 constexpr int shortestWithAddress = 22;
 constexpr int charactersOfCrc = 6;
+
+/// Where a text is cut in front of its fields, each place counted with the cut marks before it. The
+/// CRC is always the end of the text.
+struct CutPoints
+{
+    int length;
+    int cmd;
+    std::optional<int> addr;
+    int data;
+};
+
+constexpr CutPoints withoutAddress{5, 9, std::nullopt, 13};
+constexpr CutPoints withAddress{5, 9, 13, 20};
+constexpr CutPoints withLongLength{8, 15, 19, 27};
 
 void cutAt(QString &text, int position)
 {
@@ -19,25 +33,31 @@ void cutAt(QString &text, int position)
     }
 }
 
-QStringList cutIntoPieces(QString text, std::initializer_list<int> positions)
+QStringList cutIntoPieces(QString text, const CutPoints &points)
 {
-    for (const int position : positions) {
-        cutAt(text, position);
+    cutAt(text, points.length);
+    cutAt(text, points.cmd);
+    if (points.addr) {
+        cutAt(text, *points.addr);
     }
+    cutAt(text, points.data);
     cutAt(text, text.size() - charactersOfCrc);
     return text.split(cutMark);
 }
 
-FrameFields fieldsWithoutAddress(const QStringList &pieces)
+FrameFields cutIntoFields(const QString &text, const CutPoints &points)
 {
-    return {pieces.value(0), pieces.value(1), pieces.value(2), {},
-            pieces.value(3), pieces.value(4)};
-}
-
-FrameFields fieldsWithAddress(const QStringList &pieces)
-{
-    return {pieces.value(0), pieces.value(1), pieces.value(2), withoutBlanks(pieces.value(3)),
-            pieces.value(4), pieces.value(5)};
+    const QStringList pieces = cutIntoPieces(text, points);
+    int next = 0;
+    const auto nextPiece = [&] { return pieces.value(next++); };
+    FrameFields fields;
+    fields.header = nextPiece();
+    fields.length = nextPiece();
+    fields.cmd = nextPiece();
+    fields.addr = points.addr ? withoutBlanks(nextPiece()) : QString();
+    fields.data = nextPiece();
+    fields.crc = nextPiece();
+    return fields;
 }
 
 FrameFields withCrcInItsPlace(FrameFields fields, bool withCrc)
@@ -51,9 +71,7 @@ FrameFields withCrcInItsPlace(FrameFields fields, bool withCrc)
 
 FrameFields cutFrame(const QString &text)
 {
-    return text.size() < shortestWithAddress
-               ? fieldsWithoutAddress(cutIntoPieces(text, {5, 9, 13}))
-               : fieldsWithAddress(cutIntoPieces(text, {5, 9, 13, 20}));
+    return cutIntoFields(text, text.size() < shortestWithAddress ? withoutAddress : withAddress);
 }
 
 } // namespace
@@ -62,7 +80,7 @@ FrameFields cutSentFrame(const QString &hexText, bool withCrc)
 {
     FrameFields fields = cutFrame(hexText);
     if (fields.addr == QLatin1String("00")) {
-        fields = fieldsWithAddress(cutIntoPieces(hexText, {8, 15, 19, 27}));
+        fields = cutIntoFields(hexText, withLongLength);
     }
     return withCrcInItsPlace(fields, withCrc);
 }
@@ -71,9 +89,4 @@ FrameFields cutReceivedFrame(const QString &hexText, bool withCrc)
 {
     const QString text = QString(hexText).remove(QLatin1Char('\n'));
     return withCrcInItsPlace(cutFrame(text), withCrc);
-}
-
-bool isAllZero(const QString &hexText)
-{
-    return hexText.count(QLatin1Char('0')) == withoutBlanks(hexText).size();
 }

@@ -24,6 +24,3 @@ FrameFields cutSentFrame(const QString &hexText, bool withCrc);
 /// Cuts the hex text of a received frame: as a sent one, but the length field is never the long
 /// one.
 FrameFields cutReceivedFrame(const QString &hexText, bool withCrc);
-
-/// Whether a hex text has no digit but 0.
-bool isAllZero(const QString &hexText);

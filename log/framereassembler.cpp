@@ -22,11 +22,9 @@ class Walk
 public:
     Walk(const QByteArray &buffer, StartBytes startBytes, QVector<ReceivedPiece> &pieces)
         : m_buffer(buffer)
+        , m_header(bytesOf(startBytes))
         , m_pieces(pieces)
-    {
-        m_header.append(static_cast<char>(startBytes.first));
-        m_header.append(static_cast<char>(startBytes.second));
-    }
+    {}
 
     /// Gives out what is complete; returns where the bytes begin that have to wait.
     int run()
@@ -70,7 +68,7 @@ private:
     }
 
     const QByteArray &m_buffer;
-    QByteArray m_header;
+    const QByteArray m_header;
     QVector<ReceivedPiece> &m_pieces;
     int m_position = 0;
 };

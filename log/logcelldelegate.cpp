@@ -1,10 +1,9 @@
 #include "logcelldelegate.h"
 
 #include "crccheck.h"
+#include "logcolumns.h"
 
 namespace {
-
-enum Column { Header = 1, Length, Cmd, Addr, Data, Crc };
 
 /// What was received is told by its colour.
 bool isReceived(const QModelIndex &index)
@@ -17,14 +16,15 @@ FrameFields fieldsOf(const QModelIndex &index)
     const auto text = [&index](int column) {
         return index.siblingAtColumn(column).data().toString();
     };
-    return {text(Header), text(Length), text(Cmd), text(Addr), text(Data), text(Crc)};
+    return {text(LogColumn::Header), text(LogColumn::Length), text(LogColumn::Cmd),
+            text(LogColumn::Addr),   text(LogColumn::Data),   text(LogColumn::Crc)};
 }
 
 } // namespace
 
 QString LogCellDelegate::fault(const QModelIndex &index) const
 {
-    if (index.column() != Crc || !isReceived(index)) {
+    if (index.column() != LogColumn::Crc || !isReceived(index)) {
         return {};
     }
     const QString expected = expectedInsteadOfCrc(fieldsOf(index));

@@ -1,7 +1,5 @@
 #include "receiver.h"
 
-#include "hextext.h"
-
 #include <utility>
 
 namespace {
@@ -36,11 +34,10 @@ void Receiver::take(const QByteArray &chunk)
 void Receiver::giveOut(const QVector<ReceivedPiece> &pieces)
 {
     for (const ReceivedPiece &piece : pieces) {
-        const QString hexText = formatHexBytes(piece.bytes);
         if (piece.kind == ReceivedPiece::Kind::Frame) {
-            emit frameReceived(hexText);
+            emit frameReceived(piece.bytes);
         } else {
-            emit noticeReceived(hexText);
+            emit noticeReceived(piece.bytes);
         }
     }
 }

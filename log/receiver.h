@@ -7,7 +7,7 @@
 
 #include <functional>
 
-/// Takes in what the links receive and gives out frames and notices as hex text.
+/// Takes in what the links receive and gives out the frames in it, and what belongs to none.
 class Receiver : public QObject
 {
     Q_OBJECT
@@ -23,11 +23,11 @@ public:
     void take(const QByteArray &chunk);
 
 signals:
-    /// A whole frame, two digits and a blank a byte.
-    void frameReceived(const QString &hexText);
+    /// A whole frame.
+    void frameReceived(const QByteArray &frame);
 
-    /// Bytes that belong to no frame, in the same form.
-    void noticeReceived(const QString &hexText);
+    /// Bytes that belong to no frame.
+    void noticeReceived(const QByteArray &bytes);
 
 private:
     void giveOut(const QVector<ReceivedPiece> &pieces);

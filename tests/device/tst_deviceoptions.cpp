@@ -25,7 +25,7 @@ QString described(const DeviceOptions &options)
 {
     return QStringLiteral("header %1 crc %2 delay %3 split %4 garbage %5 chatter %6 mute %7 "
                           "seed %8 ports \"%9\" name \"%10\"")
-        .arg(startBytesText(options.startBytes))
+        .arg(QString::fromLatin1(bytesOf(options.startBytes).toHex(' ').toUpper()))
         .arg(options.withCrc)
         .arg(options.delayMs)
         .arg(options.split)

@@ -59,9 +59,8 @@ public:
     QVector<quint32> statusNumbers;
 
 private:
-    void count(const QString &hexText)
+    void count(const QByteArray &frame)
     {
-        const QByteArray frame = QByteArray::fromHex(hexText.toLatin1());
         const auto cmd = static_cast<quint8>(frame.at(3));
         if (cmd == 0x53) {
             statusNumbers.append(frame.mid(6, 4).toHex().toUInt(nullptr, 16));

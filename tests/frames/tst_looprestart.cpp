@@ -138,8 +138,8 @@ void TestLoopRestart::restartDuringAMessageKeepsItsPauses()
 void TestLoopRestart::restartDuringABlockKeepsItsIntervals()
 {
     LoopBench bench;
-    connect(&bench.sender, &Sender::sent, this, [&](const QString &text) {
-        if (text == QLatin1String("01 ")) {
+    connect(&bench.sender, &Sender::sent, this, [&](const QByteArray &frame) {
+        if (frame == QByteArray::fromHex("01")) {
             bench.loop.stop();
             bench.run({"03", "04"}, {30, 0});
         }

@@ -1,6 +1,7 @@
 #include "fakeframesettings.h"
 #include "fakelink.h"
 #include "headernotice.h"
+#include "hextext.h"
 #include "sender.h"
 
 #include <QSignalSpy>
@@ -56,8 +57,9 @@ public:
         QObject::connect(&sender, &Sender::message, &sender,
                          [this](const QString &text) { said.append("message " + text); });
         link.onWrite = [this] { said.append("handed over"); };
-        QObject::connect(&sender, &Sender::sent, &sender,
-                         [this](const QString &text) { said.append("sent " + text); });
+        QObject::connect(&sender, &Sender::sent, &sender, [this](const QByteArray &frame) {
+            said.append("sent " + formatHexBytes(frame));
+        });
     }
 
     FakeFrameSettings settings;

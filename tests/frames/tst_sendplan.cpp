@@ -1,4 +1,5 @@
 #include "delaymarker.h"
+#include "hextext.h"
 #include "sendplan.h"
 
 #include <QtTest>
@@ -325,7 +326,11 @@ void TestSendPlan::pieces()
 {
     QFETCH(QString, block);
     QFETCH(QStringList, pieces);
-    const QStringList result = splitBlockText(block, QStringLiteral("5A A5"));
+    QStringList result;
+    for (const QByteArray &piece :
+         splitBlock(QByteArray::fromHex(block.toLatin1()), StartBytes{0x5A, 0xA5})) {
+        result.append(formatHexBytes(piece));
+    }
     QCOMPARE(result, pieces);
     QCOMPARE(result.join(QString()), block);
 }

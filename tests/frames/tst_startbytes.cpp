@@ -15,8 +15,8 @@ private slots:
     void badFields();
     void lengthCountsEncodedBytes();
     void fallback();
-    void text_data();
-    void text();
+    void onTheWire_data();
+    void onTheWire();
 };
 
 void TestStartBytes::goodFields_data()
@@ -58,7 +58,7 @@ void TestStartBytes::goodFields()
     QFETCH(QString, startBytes);
     const std::optional<StartBytes> parsed = parseStartBytes(field);
     QVERIFY(parsed.has_value());
-    QCOMPARE(startBytesText(*parsed), startBytes);
+    QCOMPARE(bytesOf(*parsed).toHex(' ').toUpper(), startBytes.toLatin1());
 }
 
 void TestStartBytes::badFields_data()
@@ -95,20 +95,20 @@ void TestStartBytes::fallback()
     QCOMPARE(int(fallbackStartBytes.second), 0x5A);
 }
 
-void TestStartBytes::text_data()
+void TestStartBytes::onTheWire_data()
 {
     QTest::addColumn<StartBytes>("startBytes");
-    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("bytes");
 
-    QTest::newRow("default") << StartBytes{0x5A, 0xA5} << "5A A5";
-    QTest::newRow("leading zeros") << StartBytes{0x00, 0x0B} << "00 0B";
+    QTest::newRow("default") << StartBytes{0x5A, 0xA5} << QByteArray("\x5A\xA5");
+    QTest::newRow("a zero in front") << StartBytes{0x00, 0x0B} << QByteArray("\0\x0B", 2);
 }
 
-void TestStartBytes::text()
+void TestStartBytes::onTheWire()
 {
     QFETCH(StartBytes, startBytes);
-    QFETCH(QString, text);
-    QCOMPARE(startBytesText(startBytes), text);
+    QFETCH(QByteArray, bytes);
+    QCOMPARE(bytesOf(startBytes), bytes);
 }
 
 // The locale's encoding is set up by the application object.

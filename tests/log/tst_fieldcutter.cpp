@@ -12,8 +12,6 @@ private slots:
     void sent_data();
     void sent();
     void lineFeedsOfReceivedTextsAreRemoved();
-    void allZero_data();
-    void allZero();
 };
 
 namespace {
@@ -93,23 +91,6 @@ void TestFieldCutter::lineFeedsOfReceivedTextsAreRemoved()
     const FrameFields fields = cutReceivedFrame("5A A5 08\n 01 03 00 00 00 01 84 0A ", true);
     QCOMPARE(fields.cmd, QString(" 01"));
     QCOMPARE(fields.addr, QString("0300"));
-}
-
-void TestFieldCutter::allZero_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("expected");
-
-    QTest::newRow("zeros") << "00 00 00 " << true;
-    QTest::newRow("nothing") << "" << true;
-    QTest::newRow("another digit") << "00 10 " << false;
-}
-
-void TestFieldCutter::allZero()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, expected);
-    QCOMPARE(isAllZero(text), expected);
 }
 
 QTEST_APPLESS_MAIN(TestFieldCutter)

@@ -1,5 +1,6 @@
 #include "logtable.h"
 #include "messagelog.h"
+#include "recordlog.h"
 
 #include <QTableWidget>
 #include <QtTest>
@@ -15,7 +16,7 @@ private slots:
 
 namespace {
 
-const QString frameText = QStringLiteral("5A A5 03 03 00 01 ");
+const QByteArray frame = QByteArray::fromHex("5AA503030001");
 
 /// Counts how often a widget is painted.
 class PaintCounter : public QObject
@@ -39,7 +40,7 @@ private:
 struct ShownLog
 {
     ShownLog()
-        : log(table)
+        : log(table, records)
     {
         table.show();
         QVERIFY(QTest::qWaitForWindowExposed(&table));
@@ -47,6 +48,7 @@ struct ShownLog
     }
 
     LogTable table;
+    RecordLog records;
     MessageLog log;
 };
 
@@ -56,7 +58,7 @@ void TestLogPainting::aRowAfterAQuietTimeIsPaintedAtOnce()
 {
     ShownLog shown;
     const PaintCounter paints(*shown.table.viewport());
-    shown.log.appendSent(frameText, false);
+    shown.records.appendSent(frame, false);
     QVERIFY(shown.table.updatesEnabled());
     QTRY_VERIFY(paints.count() > 0);
 }
@@ -67,7 +69,7 @@ void TestLogPainting::rowsThatFollowEachOtherSharePaints()
     ShownLog shown;
     const PaintCounter paints(*shown.table.viewport());
     for (int row = 0; row < rows; ++row) {
-        shown.log.appendSent(frameText, false);
+        shown.records.appendSent(frame, false);
         QCoreApplication::processEvents();
     }
     const int before = paints.count();

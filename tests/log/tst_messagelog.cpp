@@ -1,5 +1,6 @@
 #include "logtable.h"
 #include "messagelog.h"
+#include "recordlog.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -12,19 +13,30 @@ class TestMessageLog : public QObject
 private slots:
     void theColumnsThatAreColoured_data();
     void theColumnsThatAreColoured();
-    void rowsKnowWhichWayTheyWent();
+    void theTableFollowsItsRecords();
+    void aFloodBuildsNoRowsThatNobodySees();
+    void clearingShowsAtOnce();
     void theCountIsToldOnceInADisplayFrame();
     void rowsOfAHeldTableAreInButNotInView();
 };
 
 namespace {
 
-const QString hexText = QStringLiteral("5A A5 08 03 10 00 00 00 00 00 77 ");
+const QByteArray frame = QByteArray::fromHex("5AA5080310000000000077");
+
+QStringList shownTexts(const LogTable &table, int row)
+{
+    QStringList texts;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        texts.append(table.item(row, column)->text());
+    }
+    return texts;
+}
 
 struct ShownLog
 {
     ShownLog()
-        : log(table)
+        : log(table, records)
     {
         table.resize(700, 300);
         table.show();
@@ -32,6 +44,7 @@ struct ShownLog
     }
 
     LogTable table;
+    RecordLog records;
     MessageLog log;
 };
 
@@ -44,7 +57,7 @@ void TestMessageLog::theColumnsThatAreColoured_data()
 
     QTest::newRow("sent") << 0 << QVector<int>();
     QTest::newRow("received") << 1 << QVector<int>{0, 1, 2, 3, 4, 5, 6};
-    QTest::newRow("notice") << 2 << QVector<int>{0, 5};
+    QTest::newRow("stray") << 2 << QVector<int>{0, 5};
     QTest::newRow("event") << 3 << QVector<int>{0, 5};
     QTest::newRow("empty") << 4 << QVector<int>();
 }
@@ -55,11 +68,12 @@ void TestMessageLog::theColumnsThatAreColoured()
     QFETCH(QVector<int>, columns);
 
     LogTable table;
-    MessageLog log(table);
-    log.appendSent(hexText, true);
-    log.appendReceived(hexText, true);
-    log.appendNotice("01 ");
-    log.appendEvent("HID", "Insert x");
+    RecordLog records;
+    const MessageLog log(table, records);
+    records.appendSent(frame, true);
+    records.appendReceived(frame, true);
+    records.appendStray("\x01");
+    records.appendEvent("HID", "Insert x");
     QVector<int> coloured;
     for (int column = 0; column < table.columnCount(); ++column) {
         const QVariant colour = table.item(row, column)->data(Qt::ForegroundRole);
@@ -71,38 +85,76 @@ void TestMessageLog::theColumnsThatAreColoured()
     QCOMPARE(coloured, columns);
 }
 
-void TestMessageLog::rowsKnowWhichWayTheyWent()
+void TestMessageLog::theTableFollowsItsRecords()
 {
-    using Direction = MessageLog::Direction;
     LogTable table;
-    MessageLog log(table);
-    log.appendNotice("01 ");
-    log.clear();
-    log.appendSent(hexText, true);
-    log.appendReceived(hexText, true);
-    log.appendNotice("01 ");
-    log.appendEvent("HID", "Insert x");
-    QCOMPARE(log.direction(0), Direction::Sent);
-    QCOMPARE(log.direction(1), Direction::Received);
-    QCOMPARE(log.direction(2), Direction::Received);
-    QCOMPARE(log.direction(3), Direction::None);
+    RecordLog records;
+    const MessageLog log(table, records);
+    records.appendSent(frame, true);
+    records.appendEvent("HID", "Insert x");
+    QCOMPARE(shownTexts(table, 0),
+             QStringList({"1", "5A A5", " 08", " 03", "1000", " 00 00 00 ", "00 77 ", ""}));
+    QCOMPARE(shownTexts(table, 1), QStringList({"HID", "", "", "", "", "Insert x", "", ""}));
+    QCOMPARE(table.rowCount(), 9);
+    for (int row = 2; row < RecordLog::mostRecords; ++row) {
+        records.appendStray("x");
+    }
+    QTRY_COMPARE(table.rowCount(), RecordLog::mostRecords);
+    records.appendStray("y");
+    QTRY_COMPARE(table.rowCount(), 9);
+    QCOMPARE(shownTexts(table, 0), QStringList({"1", "", "", "", "", "79 ", "", ""}));
+    QCOMPARE(shownTexts(table, 1).join(QString()), QString());
+}
+
+void TestMessageLog::aFloodBuildsNoRowsThatNobodySees()
+{
+    constexpr int frames = 5 * RecordLog::mostRecords + 20;
+    constexpr int mostBuilt = 200;
+    LogTable table;
+    RecordLog records;
+    const MessageLog log(table, records);
+    int built = 0;
+    connect(table.model(), &QAbstractItemModel::rowsInserted, this,
+            [&built](const QModelIndex & /*parent*/, int first, int last) {
+                built += last - first + 1;
+            });
+    for (int i = 0; i < frames; ++i) {
+        records.appendReceived(frame, false);
+    }
+    QTRY_COMPARE(table.rowCount(), 20);
+    QCOMPARE(table.item(19, 0)->text(), QString("20"));
+    QVERIFY2(built < mostBuilt, qPrintable(QString::number(built)));
+}
+
+void TestMessageLog::clearingShowsAtOnce()
+{
+    LogTable table;
+    RecordLog records;
+    const MessageLog log(table, records);
+    for (int i = 0; i < 300; ++i) {
+        records.appendReceived(frame, false);
+    }
+    records.clear();
+    QCOMPARE(table.rowCount(), 9);
+    QCOMPARE(shownTexts(table, 0).join(QString()), QString());
 }
 
 void TestMessageLog::theCountIsToldOnceInADisplayFrame()
 {
     constexpr int rows = 300;
     LogTable table;
-    MessageLog log(table);
+    RecordLog records;
+    const MessageLog log(table, records);
     QSignalSpy told(&log, &MessageLog::countChanged);
     for (int row = 0; row < rows; ++row) {
-        log.appendSent(hexText, true);
+        records.appendSent(frame, true);
     }
     QCOMPARE(told.count(), 1);
     QVERIFY(told.wait());
     QCOMPARE(told.count(), 2);
     QCOMPARE(told.last().first().toInt(), rows);
     QVERIFY(!told.wait(100));
-    log.clear();
+    records.clear();
     QCOMPARE(told.count(), 3);
     QCOMPARE(told.last().first().toInt(), 0);
 }
@@ -114,7 +166,7 @@ void TestMessageLog::rowsOfAHeldTableAreInButNotInView()
     bool held = true;
     shown.log.setHold([&held] { return held; });
     for (int row = 0; row < rows; ++row) {
-        shown.log.appendSent(hexText, true);
+        shown.records.appendSent(frame, true);
     }
     QCOMPARE(shown.table.rowCount(), rows);
     QCOMPARE(shown.table.item(rows - 1, 0)->text(), QString::number(rows));

@@ -1,3 +1,4 @@
+#include "hextext.h"
 #include "receiver.h"
 
 #include <QElapsedTimer>
@@ -32,9 +33,9 @@ public:
         : receiver([this] { return startBytes; })
     {
         connect(&receiver, &Receiver::frameReceived, this,
-                [this](const QString &text) { pieces.append("F " + text); });
+                [this](const QByteArray &frame) { pieces.append("F " + formatHexBytes(frame)); });
         connect(&receiver, &Receiver::noticeReceived, this,
-                [this](const QString &text) { pieces.append("N " + text); });
+                [this](const QByteArray &bytes) { pieces.append("N " + formatHexBytes(bytes)); });
     }
 
     StartBytes startBytes{0x5A, 0xA5};

@@ -47,6 +47,8 @@ public:
 
     /// Texts of a message row's columns 0 to 6.
     QStringList message(int row) const;
+    /// What the message log shows.
+    RecordLog &records() const { return *m_window.findChild<RecordLog *>(); }
     /// Rows of the log that have something in their first column.
     int messageCount() const;
 

@@ -76,17 +76,13 @@ DeviceWindow::DeviceWindow(Tab tab)
     find<QTabWidget>("tabWidget")->setCurrentIndex(int(tab));
     auto *sender = window().findChild<Sender *>();
     auto *receiver = window().findChild<Receiver *>();
-    QObject::connect(sender, &Sender::sent, &m_counter, [this](const QString &hexText) {
-        m_sent.append(QByteArray::fromHex(hexText.toLatin1()));
-    });
+    QObject::connect(sender, &Sender::sent, &m_counter,
+                     [this](const QByteArray &frame) { m_sent.append(frame); });
     QObject::connect(receiver, &Receiver::frameReceived, &m_counter,
-                     [this](const QString &hexText) {
-                         m_received.append(QByteArray::fromHex(hexText.toLatin1()));
-                     });
+                     [this](const QByteArray &frame) { m_received.append(frame); });
     QObject::connect(receiver, &Receiver::noticeReceived, &m_counter,
-                     [this](const QString &hexText) {
+                     [this](const QByteArray &bytes) {
                          // Reports are filled up with zeros, which nobody is shown.
-                         const QByteArray bytes = QByteArray::fromHex(hexText.toLatin1());
                          m_notices += bytes.count('\0') < bytes.size() ? 1 : 0;
                      });
 }

@@ -129,13 +129,13 @@ void TestFaultMarks::aBadHeaderIsUnderlinedWhileTyped()
 
 void TestFaultMarks::aCrcThatDoesNotFitIsUnderlined_data()
 {
-    QTest::addColumn<QString>("frame");
+    QTest::addColumn<QByteArray>("frame");
     QTest::addColumn<bool>("withCrc");
     QTest::addColumn<bool>("isReceived");
     QTest::addColumn<QString>("tip");
 
-    const QString good = "5A A5 08 01 03 00 00 00 01 84 0A ";
-    const QString bad = "5A A5 08 01 03 00 00 00 01 84 0B ";
+    const QByteArray good = QByteArray::fromHex("5AA508010300000001840A");
+    const QByteArray bad = QByteArray::fromHex("5AA508010300000001840B");
     QTest::newRow("fits") << good << true << true << "";
     QTest::newRow("does not fit") << bad << true << true << "84 0A";
     QTest::newRow("CRC off") << bad << false << true << "";
@@ -144,18 +144,17 @@ void TestFaultMarks::aCrcThatDoesNotFitIsUnderlined_data()
 
 void TestFaultMarks::aCrcThatDoesNotFitIsUnderlined()
 {
-    QFETCH(QString, frame);
+    QFETCH(QByteArray, frame);
     QFETCH(bool, withCrc);
     QFETCH(bool, isReceived);
     QFETCH(QString, tip);
     constexpr int crcColumn = 6;
     WindowDriver window;
     window.window().resize(1120, 760);
-    auto *log = window.window().findChild<MessageLog *>();
     if (isReceived) {
-        log->appendReceived(frame, withCrc);
+        window.records().appendReceived(frame, withCrc);
     } else {
-        log->appendSent(frame, withCrc);
+        window.records().appendSent(frame, withCrc);
     }
     QCOMPARE(window.messageCount(), 1);
     QCOMPARE(showsRed(pictureOf(*window.messages(), 0, crcColumn)), !tip.isEmpty());

@@ -87,10 +87,10 @@ public:
     std::function<void()> atFirst = [] {};
 
 private:
-    void append(const QString &hexText)
+    void append(const QByteArray &received)
     {
         const bool isFirst = bytes.isEmpty();
-        bytes += hex(hexText);
+        bytes += received;
         if (isFirst) {
             atFirst();
         }

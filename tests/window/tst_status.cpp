@@ -274,14 +274,14 @@ void TestStatus::theLogTellsHowFullItIs()
     WindowDriver window;
     const auto *count = window.find<QLabel>("label_MessageCount");
     QCOMPARE(count->text(), QString("0 of 1025"));
-    auto *log = window.window().findChild<MessageLog *>();
-    log->appendNotice("one");
+    RecordLog &records = window.records();
+    records.appendStray("one");
     QTRY_COMPARE(count->text(), QString("1 of 1025"));
     for (int i = 1; i < 1025; ++i) {
-        log->appendNotice("more");
+        records.appendStray("more");
     }
     QTRY_COMPARE(count->text(), QString("1025 of 1025"));
-    log->appendNotice("one too many");
+    records.appendStray("one too many");
     QTRY_COMPARE(count->text(), QString("1 of 1025"));
     window.click("pushButton_ClearMessage");
     QTRY_COMPARE(count->text(), QString("0 of 1025"));

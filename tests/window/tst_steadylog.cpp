@@ -24,7 +24,7 @@ private slots:
 namespace {
 
 constexpr int rowHeight = 36;
-const QString hexText = QStringLiteral("5A A5 08 03 10 00 00 00 00 00 77 ");
+const QByteArray frame = QByteArray::fromHex("5AA5080310000000000077");
 
 /// What the screen shows of the log, as it was painted: nothing is painted for the picture.
 QImage shownLog(const WindowDriver &window)
@@ -69,7 +69,7 @@ int blankRows(const WindowDriver &window)
 int flashesUntil(WindowDriver &window, int rows)
 {
     constexpr int patienceMs = 20000;
-    const MessageLog &log = *window.window().findChild<MessageLog *>();
+    const RecordLog &log = window.records();
     QElapsedTimer timer;
     timer.start();
     int flashes = 0;
@@ -104,10 +104,10 @@ private:
 };
 
 /// Appends a row and waits until it is painted.
-void appendAndSee(MessageLog &log)
+void appendAndSee(WindowDriver &window)
 {
-    QSignalSpy movedOn(&log, &MessageLog::countChanged);
-    log.appendReceived(hexText, false);
+    QSignalSpy movedOn(window.window().findChild<MessageLog *>(), &MessageLog::countChanged);
+    window.records().appendReceived(frame, false);
     QVERIFY(!movedOn.isEmpty() || movedOn.wait());
     QCoreApplication::processEvents();
 }
@@ -119,13 +119,13 @@ void fillView(WindowDriver &window)
     // On a small screen the log would be partly out of view.
     window.window().resize(1120, 760);
     QCoreApplication::processEvents();
-    auto &log = *window.window().findChild<MessageLog *>();
+    RecordLog &log = window.records();
     const int rows = window.messages()->viewport()->height() / rowHeight + more;
     for (int row = 0; row < rows; ++row) {
-        log.appendReceived(hexText, false);
+        log.appendReceived(frame, false);
     }
     QTRY_COMPARE(blankRows(window), 0);
-    appendAndSee(log);
+    appendAndSee(window);
 }
 
 } // namespace
@@ -151,12 +151,12 @@ void TestSteadyLog::rowsThatAreInStayOnTheScreen()
     WindowDriver window;
     QVERIFY(QTest::qWaitForWindowExposed(&window.window()));
     fillView(window);
-    auto &log = *window.window().findChild<MessageLog *>();
+    RecordLog &log = window.records();
     QTimer source;
     source.setTimerType(Qt::PreciseTimer);
     connect(&source, &QTimer::timeout, [&] {
         for (int row = 0; row < rowsAtOnce; ++row) {
-            log.appendReceived(hexText, false);
+            log.appendReceived(frame, false);
         }
     });
     source.start(everyMs);
@@ -193,7 +193,7 @@ void TestSteadyLog::aLoopAtWorkStaysOnTheScreen()
     window.edit("lineEdit_CycleTime")->setText(cycleDelay);
     window.click("pushButton_Start_Loop");
     constexpr int frames = 80;
-    const int before = window.window().findChild<MessageLog *>()->count();
+    const int before = window.records().count();
     QCOMPARE(flashesUntil(window, before + frames), 0);
 }
 
@@ -204,17 +204,17 @@ void TestSteadyLog::aNewRowIsAllThatIsPainted()
     WindowDriver window;
     QVERIFY(QTest::qWaitForWindowExposed(&window.window()));
     fillView(window);
-    auto &log = *window.window().findChild<MessageLog *>();
+    RecordLog &log = window.records();
     for (int row = 0; row < untilTheHandleIsAtItsLeast; ++row) {
-        log.appendReceived(hexText, false);
+        log.appendReceived(frame, false);
     }
     QTest::qWait(50);
-    appendAndSee(log);
+    appendAndSee(window);
     const PaintedRegion cells(*window.messages()->viewport());
     const PaintedRegion bar(*window.messages()->verticalScrollBar());
     const PaintedRegion header(*window.messages()->horizontalHeader()->viewport());
     for (int row = 1; row <= rows; ++row) {
-        appendAndSee(log);
+        appendAndSee(window);
         QCOMPARE(cells.paints(), row);
     }
     QVERIFY2(cells.region().boundingRect().height() <= 2 * rowHeight,
@@ -229,11 +229,11 @@ void TestSteadyLog::whatWasMovedLooksAsPaintedAnew()
     WindowDriver window;
     QVERIFY(QTest::qWaitForWindowExposed(&window.window()));
     fillView(window);
-    auto &log = *window.window().findChild<MessageLog *>();
+    RecordLog &log = window.records();
     window.messages()->selectRow(log.count() - 2);
     for (int row = 0; row < more; ++row) {
-        log.appendSent(hexText, false);
-        appendAndSee(log);
+        log.appendSent(frame, false);
+        appendAndSee(window);
     }
     const QImage moved = shownLog(window);
     QWidget &viewport = *window.messages()->viewport();

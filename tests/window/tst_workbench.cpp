@@ -149,7 +149,7 @@ void TestWorkbench::theLogIsSavedWithoutDeviceRows()
     window.open(port);
     window.setRow(0, "01", "0300", "000001");
     window.call("SendOne");
-    window.window().findChild<MessageLog *>()->appendEvent("Uart", "Insert x");
+    window.records().appendEvent("Uart", "Insert x");
     window.call("SendOne");
     window.click("pushButton_SaveMessage");
     QCOMPARE(contentOf(path),
@@ -162,13 +162,13 @@ void TestWorkbench::selectedLogRowsAreCopied()
     TestPort port;
     window.open(port);
     window.setRow(0, "01", "0300", "000001");
-    auto &log = *window.window().findChild<MessageLog *>();
+    RecordLog &records = window.records();
     window.call("SendOne");
     window.call("SendOne");
-    log.appendReceived("5A A5 06 01 03 00 00 00 02 ", false);
-    log.appendNotice("00 ");
-    log.appendEvent("HID", "Insert x");
-    log.appendEvent("Uart", "Insert y");
+    records.appendReceived(QByteArray::fromHex("5AA5060103000000 02"), false);
+    records.appendStray(QByteArray(1, '\0'));
+    records.appendEvent("HID", "Insert x");
+    records.appendEvent("Uart", "Insert y");
     window.window().activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window.window()));
     window.messages()->setFocus();
