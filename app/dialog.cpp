@@ -57,10 +57,10 @@ Dialog::Dialog(QWidget *parent)
     , m_headlines(*m_form, m_list, this)
     , m_status({m_form->label_Status, m_form->label_Status_2}, this)
     , m_headerField(*m_form->lineEdit_SBytes, m_format, m_receivedHeader)
-    , m_serialLink(FrameReassembler::capacity - FrameReassembler::longestFrame, this)
-    , m_serialPanel(*m_form, m_serialLink, this)
-    , m_hidLink(dataFile(QStringLiteral("hidDeviceID.ini")), this)
-    , m_hidPanel(*m_form, m_hidLink, this)
+    , m_links(FrameReassembler::capacity - FrameReassembler::longestFrame,
+              dataFile(QStringLiteral("hidDeviceID.ini")), this)
+    , m_serialPanel(*m_form, m_links.serial(), this)
+    , m_hidPanel(*m_form, m_links.hid(), this)
     , m_commands(*m_form->tableWidget_Register, this, this)
     , m_menus(this, m_settings.isEditorFun != 0)
     , m_rowActions(*m_form->tableWidget_Register, m_commands, m_menus, this)
@@ -69,7 +69,7 @@ Dialog::Dialog(QWidget *parent)
     , m_records(this)
     , m_log(*m_form->tableWidget_Message, m_records, this)
     , m_messageCopy(*m_form->tableWidget_Message, m_log, m_records, this)
-    , m_devices(m_serialLink, m_hidLink, m_records, this)
+    , m_devices(m_links.serial(), m_links.hid(), m_records, this)
     , m_linkStatus(m_status, m_devices, this)
     , m_files(this, dataFolder(), fileHooks())
     , m_recovery(dataFolder(), m_list, [this] { return m_commands.rows(); })
@@ -80,8 +80,8 @@ Dialog::Dialog(QWidget *parent)
 {
     setUpWindow();
     m_headlines.follow(m_log);
-    m_linkStatus.follow(m_serialPanel, m_serialLink);
-    m_linkStatus.follow(m_hidPanel, m_hidLink);
+    m_linkStatus.follow(m_serialPanel, m_links.serial());
+    m_linkStatus.follow(m_hidPanel, m_links.hid());
     connectLinks();
     connectSending();
     setUpCommands();
@@ -90,8 +90,8 @@ Dialog::Dialog(QWidget *parent)
     watchDevices();
     m_files.setLastLoadFolder(m_settings.lastLoadPath);
     m_files.setLastSaveFolder(m_settings.lastSavePath);
-    m_hidLink.readDeviceTypes();
-    setLinkMode(linkMode());
+    m_links.hid().readDeviceTypes();
+    chooseLink(static_cast<LinkMode>(m_settings.linkMode));
     m_form->tabWidget->setCurrentIndex(m_settings.linkMode);
     offerLeftBehind();
 }
@@ -121,8 +121,7 @@ void Dialog::end()
     m_isEnding = true;
     m_loop.stop();
     keepForNextStart();
-    m_serialPanel.close();
-    m_hidPanel.close();
+    m_links.close();
 }
 
 void Dialog::keepForNextStart()
@@ -134,6 +133,7 @@ void Dialog::keepForNextStart()
 
 void Dialog::saveSettings()
 {
+    m_settings.linkMode = int(m_links.mode());
     m_settings.lastLoadPath = m_files.lastLoadFolder();
     m_settings.lastSavePath = m_files.lastSaveFolder();
     m_settingsFile.save(m_settings);
@@ -243,18 +243,20 @@ void Dialog::setUpTimers()
 
 void Dialog::connectLinks()
 {
-    connect(&m_serialLink, &SerialLink::arrived, &m_receiver, &Receiver::take);
-    connect(&m_serialLink, &SerialLink::lost, this, [this](const QString &reason) {
-        const QString port = m_serialLink.openPortName();
-        endSerialLink();
+    SerialLink &serial = m_links.serial();
+    HidLink &hid = m_links.hid();
+    connect(&serial, &Link::arrived, &m_receiver, &Receiver::take);
+    connect(&serial, &Link::lost, this, [this, &serial](const QString &reason) {
+        const QString port = serial.openPortName();
+        endLink(serial);
         m_timer1.start(refreshAfterEventMs);
         showMessage(whyLost(port, reason));
     });
-    connect(&m_hidLink, &HidLink::arrived, &m_receiver, &Receiver::take);
-    connect(&m_hidLink, &HidLink::dropped, &m_records, [this](qint64 bytes) {
+    connect(&hid, &Link::arrived, &m_receiver, &Receiver::take);
+    connect(&hid, &HidLink::dropped, &m_records, [this](qint64 bytes) {
         m_records.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
     });
-    connect(&m_hidLink, &HidLink::lost, this, &Dialog::Close_HidDevice_From_thread);
+    connect(&hid, &Link::lost, this, &Dialog::Close_HidDevice_From_thread);
     connect(&m_receiver, &Receiver::frameReceived, this, [this](const QByteArray &frame) {
         m_records.appendReceived(frame, m_format.withCrc());
     });
@@ -265,8 +267,8 @@ void Dialog::connectLinks()
 
 void Dialog::watchDevices()
 {
-    connect(&m_devices, &DeviceWatch::portGone, this, &Dialog::endSerialLink);
-    connect(&m_devices, &DeviceWatch::hidGone, this, &Dialog::endHidLink);
+    connect(&m_devices, &DeviceWatch::portGone, this, [this] { endLink(m_links.serial()); });
+    connect(&m_devices, &DeviceWatch::hidGone, this, [this] { endLink(m_links.hid()); });
     connect(&m_devices, &DeviceWatch::listsOutdated, this,
             [this] { m_timer1.start(refreshAfterEventMs); });
     if (!m_devices.start([this] { return quintptr(winId()); })) {
@@ -283,7 +285,8 @@ void Dialog::connectSending()
     connect(&m_sender, &Sender::sent, this,
             [this](const QByteArray &frame) { m_records.appendSent(frame, m_format.withCrc()); });
     connect(&m_loop, &LoopControl::notice, this, &Dialog::showMessage);
-    connect(&m_loop, &LoopControl::started, this, [this] { m_loopPanel.showRunning(linkMode()); });
+    connect(&m_loop, &LoopControl::started, this,
+            [this] { m_loopPanel.showRunning(m_links.mode()); });
     connect(&m_loop, &LoopControl::stopped, &m_loopPanel, &LoopPanel::showStopped);
     connect(&m_loop, &LoopControl::foundNothing, &m_loopPanel, &LoopPanel::showNothingToSend);
     m_format.setStartBytes(m_settings.noAppendHeader == 0);
@@ -294,19 +297,15 @@ void Dialog::connectSending()
 void Dialog::on_tabWidget_currentChanged(int index)
 {
     m_status.tell({});
-    if (index == int(LinkMode::Uart)) {
-        setLinkMode(LinkMode::Uart);
-        m_hidPanel.close();
-    } else if (index == int(LinkMode::Hid)) {
-        setLinkMode(LinkMode::Hid);
-        m_serialPanel.close();
+    if (index == int(LinkMode::Uart) || index == int(LinkMode::Hid)) {
+        chooseLink(static_cast<LinkMode>(index));
     }
 }
 
 void Dialog::on_pushButton_OpenCom_clicked()
 {
-    if (m_serialLink.isOpen()) {
-        m_serialPanel.close();
+    if (m_links.serial().isOpen()) {
+        m_links.serial().close();
     } else {
         openSerialPort();
     }
@@ -324,13 +323,13 @@ void Dialog::on_comboBox_Baudrate_activated(int index)
 
 void Dialog::serial_receiveData()
 {
-    m_serialLink.receive();
+    m_links.serial().receive();
 }
 
 void Dialog::on_pushButton_ConnectHID_clicked()
 {
-    if (m_hidLink.isOpen()) {
-        m_hidPanel.close();
+    if (m_links.hid().isOpen()) {
+        m_links.hid().close();
     } else if (!m_hidPanel.open()) {
         showOpenFail(QStringLiteral("HID"));
     }
@@ -338,12 +337,12 @@ void Dialog::on_pushButton_ConnectHID_clicked()
 
 void Dialog::hid_receiveData(HidPacket packet)
 {
-    m_hidLink.receive(packet);
+    m_links.hid().receive(packet);
 }
 
 void Dialog::Close_HidDevice_From_thread()
 {
-    endHidLink();
+    endLink(m_links.hid());
 }
 
 void Dialog::SendOne()
@@ -469,17 +468,17 @@ void Dialog::doMouseTrackTip(const QModelIndex &index)
     }
 }
 
-void Dialog::setLinkMode(LinkMode mode)
+void Dialog::chooseLink(LinkMode mode)
 {
-    m_settings.linkMode = int(mode);
-    m_sender.setLink(mode == LinkMode::Uart ? static_cast<Link *>(&m_serialLink) : &m_hidLink);
+    m_links.choose(mode);
+    m_sender.setLink(&m_links.chosen());
 }
 
 /// The CRC box of the tab that is used counts for what is sent and logged from now on.
 void Dialog::takeCrcFlag()
 {
     const QCheckBox *box =
-        linkMode() == LinkMode::Uart ? m_form->checkBox_CRC_EN : m_form->checkBox_CRC_EN_2;
+        m_links.mode() == LinkMode::Uart ? m_form->checkBox_CRC_EN : m_form->checkBox_CRC_EN_2;
     m_format.setCrc(box->isChecked());
 }
 
@@ -495,21 +494,15 @@ void Dialog::openSerialPort()
     }
 }
 
-void Dialog::endSerialLink()
+void Dialog::endLink(Link &link)
 {
     m_loop.stop();
-    m_serialPanel.close();
-}
-
-void Dialog::endHidLink()
-{
-    m_loop.stop();
-    m_hidPanel.close();
+    link.close();
 }
 
 void Dialog::logNotice(const QByteArray &bytes)
 {
-    if (linkMode() == LinkMode::Hid && isAllZero(bytes)) {
+    if (m_links.mode() == LinkMode::Hid && isAllZero(bytes)) {
         return;
     }
     m_records.appendStray(bytes);

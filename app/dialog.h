@@ -6,8 +6,8 @@
 #include "frameformat.h"
 #include "headerfield.h"
 #include "headlines.h"
-#include "hidlink.h"
 #include "hidpanel.h"
+#include "linkpair.h"
 #include "linkstatus.h"
 #include "liststate.h"
 #include "loopcontrol.h"
@@ -22,7 +22,6 @@
 #include "roweditor.h"
 #include "rowmenus.h"
 #include "sender.h"
-#include "seriallink.h"
 #include "serialpanel.h"
 #include "settings.h"
 #include "statusline.h"
@@ -113,14 +112,12 @@ private:
     void connectSending();
     void watchDevices();
 
-    LinkMode linkMode() const { return static_cast<LinkMode>(m_settings.linkMode); }
-    void setLinkMode(LinkMode mode);
+    void chooseLink(LinkMode mode);
     void takeCrcFlag();
     void showMessage(const QString &text);
 
     void openSerialPort();
-    void endSerialLink();
-    void endHidLink();
+    void endLink(Link &link);
     void logNotice(const QByteArray &bytes);
 
     std::unique_ptr<Ui::Dialog> m_form;
@@ -135,9 +132,8 @@ private:
     FrameFormat m_format;
     ReceivedHeader m_receivedHeader;
     HeaderField m_headerField;
-    SerialLink m_serialLink;
+    LinkPair m_links;
     SerialPanel m_serialPanel;
-    HidLink m_hidLink;
     HidPanel m_hidPanel;
     CommandTable m_commands;
     RowMenus m_menus;

@@ -34,6 +34,7 @@ HidPanel::HidPanel(Ui::Dialog &form, HidLink &link, QObject *parent)
     , m_form(form)
     , m_link(link)
 {
+    connect(&m_link, &Link::openChanged, this, &HidPanel::showOpen);
     showIdle(*m_form.pushButton_ConnectHID, tr("Open HID Device"));
     // Whether there is a device is not known before the first look.
     m_form.label_Hid_Hint->hide();
@@ -60,23 +61,11 @@ bool HidPanel::open()
     const auto reportId =
         static_cast<quint8>(m_form.lineEdit_RpID->text().toUInt(nullptr, hexBase));
     const QString path = m_form.comboBox_Hid_Device->currentText();
-    close();
     if (!m_link.open(path, reportId)) {
         emit failed(whyHidFailed(path, m_link.idsOf(path), m_link.failure()));
         return false;
     }
-    showOpen(true);
-    emit linkChanged(describeLink({path, m_link.ids(), m_link.packetSize(), reportId}));
     return true;
-}
-
-void HidPanel::close()
-{
-    if (m_link.isOpen()) {
-        m_link.close();
-        showOpen(false);
-        emit linkChanged({});
-    }
 }
 
 void HidPanel::showOpen(bool open)

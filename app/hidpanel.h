@@ -7,7 +7,7 @@ class Dialog;
 }
 class HidLink;
 
-/// The "HID" tab: the list of devices, and the device opened as the tab says.
+/// The "HID" tab: the list of devices, the device opened as the tab says, and whether it is open.
 class HidPanel : public QObject
 {
     Q_OBJECT
@@ -22,13 +22,7 @@ public:
     /// Opens the chosen device, closing an open one first. Returns whether that succeeded.
     bool open();
 
-    /// Closes the device, if one is open.
-    void close();
-
 signals:
-    /// What is open from now on, and what its reports are like; empty for nothing.
-    void linkChanged(const QString &description);
-
     /// The device did not open, for this reason.
     void failed(const QString &reason);
 

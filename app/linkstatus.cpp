@@ -8,6 +8,15 @@
 #include "serialpanel.h"
 #include "statusline.h"
 
+namespace {
+
+QString describe(const HidLink &link)
+{
+    return describeLink({link.openPath(), link.ids(), link.packetSize(), link.reportId()});
+}
+
+} // namespace
+
 LinkStatus::LinkStatus(StatusLine &status, const DeviceWatch &devices, QObject *parent)
     : QObject(parent)
     , m_status(status)
@@ -16,7 +25,9 @@ LinkStatus::LinkStatus(StatusLine &status, const DeviceWatch &devices, QObject *
 
 void LinkStatus::follow(const SerialPanel &panel, const SerialLink &link)
 {
-    connect(&panel, &SerialPanel::linkChanged, &m_status, &StatusLine::showLink);
+    connect(&link, &Link::openChanged, this, [this, &link](bool isOpen) {
+        m_status.showLink(isOpen ? describeLink(link.settings()) : QString());
+    });
     connect(&panel, &SerialPanel::failed, &m_status, &StatusLine::tell);
     connect(&link, &SerialLink::lost, this, [this, &link](const QString &reason) {
         m_status.tell(whyLost(link.openPortName(), reason));
@@ -28,7 +39,8 @@ void LinkStatus::follow(const SerialPanel &panel, const SerialLink &link)
 
 void LinkStatus::follow(const HidPanel &panel, const HidLink &link)
 {
-    connect(&panel, &HidPanel::linkChanged, &m_status, &StatusLine::showLink);
+    connect(&link, &Link::openChanged, this,
+            [this, &link](bool isOpen) { m_status.showLink(isOpen ? describe(link) : QString()); });
     connect(&panel, &HidPanel::failed, &m_status, &StatusLine::tell);
     connect(&link, &HidLink::lost, this, [this, &link](const QString &reason) {
         m_status.tell(whyLost(link.openPath(), reason));

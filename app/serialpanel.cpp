@@ -16,6 +16,7 @@ SerialPanel::SerialPanel(Ui::Dialog &form, SerialLink &link, QObject *parent)
     , m_form(form)
     , m_link(link)
 {
+    connect(&m_link, &Link::openChanged, this, &SerialPanel::showOpen);
     fillOptions();
     showIdle(*m_form.pushButton_OpenCom, tr("Open Com Port"));
 }
@@ -40,25 +41,13 @@ void SerialPanel::refreshPorts(const QString &linksFolder)
 
 bool SerialPanel::open()
 {
-    close();
     const SerialSettings settings = chosenSettings();
     m_chosenPortName = settings.portName;
     if (!m_link.open(settings)) {
         emit failed(whyPortFailed(settings.portName, m_link.failure()));
         return false;
     }
-    showOpen(true);
-    emit linkChanged(describeLink(settings));
     return true;
-}
-
-void SerialPanel::close()
-{
-    if (m_link.isOpen()) {
-        m_link.close();
-        showOpen(false);
-        emit linkChanged({});
-    }
 }
 
 void SerialPanel::prepareBaudRate(int index)

@@ -8,7 +8,7 @@ class Dialog;
 class SerialLink;
 struct SerialSettings;
 
-/// The "Uart" tab: its option lists, and the port opened and closed as they say.
+/// The "Uart" tab: its option lists, the port opened as they say, and whether it is open.
 class SerialPanel : public QObject
 {
     Q_OBJECT
@@ -23,16 +23,10 @@ public:
     /// Opens the selected port, closing an open one first. Returns whether that succeeded.
     bool open();
 
-    /// Closes the port, if it is open.
-    void close();
-
     /// Makes the baud rate box ready for the rate that was picked: "custom" is typed by hand.
     void prepareBaudRate(int index);
 
 signals:
-    /// What is open from now on, with its settings; empty for nothing.
-    void linkChanged(const QString &description);
-
     /// The port did not open, for this reason.
     void failed(const QString &reason);
 

@@ -46,6 +46,8 @@ public:
 
     /// Bytes of data in each report of the device opened last.
     int packetSize() const { return m_thread.packetSize(); }
+    /// The report ID given to the device opened last.
+    quint8 reportId() const { return m_reportId; }
     /// The path of the device opened last.
     QString openPath() const { return m_openPath; }
     /// IDs of a device by its path; zeros where neither the path nor the listing tells them.

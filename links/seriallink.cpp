@@ -45,7 +45,7 @@ bool SerialLink::open(const SerialSettings &settings)
         return false;
     }
     enlargeIncomingBuffer(qintptr(m_port.handle()));
-    m_openPortName = settings.portName;
+    m_settings = settings;
     m_timing.emplace();
     emit openChanged(true);
     return true;
@@ -61,7 +61,6 @@ void SerialLink::close()
     if (m_port.isOpen()) {
         m_port.clear(QSerialPort::AllDirections);
         m_port.close();
-        m_openPortName.clear();
         m_timing.reset();
         emit openChanged(false);
     }

@@ -41,7 +41,10 @@ public:
     const OpenFailure &failure() const { return m_failure; }
 
     /// The name that the open port was opened by; empty while the link is closed.
-    QString openPortName() const { return m_openPortName; }
+    QString openPortName() const { return isOpen() ? m_settings.portName : QString(); }
+
+    /// How the port that was open last was opened.
+    const SerialSettings &settings() const { return m_settings; }
 
     /// Looks for what has come in, as if the port had announced it.
     void receive();
@@ -63,7 +66,7 @@ private:
     void reportLoss(const QString &reason);
 
     QSerialPort m_port;
-    QString m_openPortName;
+    SerialSettings m_settings;
     OpenFailure m_failure;
     /// Held while the port is open.
     std::optional<ExactTiming> m_timing;

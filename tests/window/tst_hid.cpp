@@ -1,5 +1,6 @@
 #include "fakehid.h"
 #include "hidbench.h"
+#include "hidlink.h"
 #include "hidwindow.h"
 
 #include <QLabel>
@@ -17,6 +18,7 @@ private slots:
     void theChosenDeviceStaysChosen();
     void withoutADeviceTheTabSaysWhatIsMissing();
     void openingShowsTheLink();
+    void aLinkThatSomebodyElseClosesIsShown();
     void aDeviceThatCantBeOpened();
     void closedDeviceIsTold();
     void aFrameGoesOutInReports();
@@ -122,6 +124,17 @@ void TestHid::openingShowsTheLink()
     QVERIFY(window.edit("lineEdit_RpID")->isEnabled());
     QVERIFY(window.combo("comboBox_Hid_Device")->isEnabled());
     QCOMPARE(FakeHid::instance().openHandles(), 0);
+}
+
+void TestHid::aLinkThatSomebodyElseClosesIsShown()
+{
+    HidWindow window;
+    window.openDevice(smallDevice);
+    QVERIFY(!window.find<QLabel>("label_Status_2")->text().isEmpty());
+    window.window().findChild<HidLink *>()->close();
+    QCOMPARE(window.linkCaption(), QString("Open HID Device"));
+    QVERIFY(window.combo("comboBox_Hid_Device")->isEnabled());
+    QCOMPARE(window.find<QLabel>("label_Status_2")->text(), QString());
 }
 
 void TestHid::aDeviceThatCantBeOpened()

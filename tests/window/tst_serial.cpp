@@ -1,6 +1,8 @@
+#include "seriallink.h"
 #include "serialwindow.h"
 
 #include <QIntValidator>
+#include <QLabel>
 #include <QSerialPort>
 #include <QtTest>
 
@@ -14,6 +16,7 @@ private slots:
     void optionsReachThePort_data();
     void optionsReachThePort();
     void thereIsOnePortObject();
+    void aLinkThatSomebodyElseClosesIsShown();
     void customRateIsTyped();
     void customRateIsUsed_data();
     void customRateIsUsed();
@@ -104,6 +107,20 @@ void TestSerial::thereIsOnePortObject()
     window.open(second);
     QCOMPARE(window.window().findChildren<QSerialPort *>().size(), 1);
     QCOMPARE(window.port(), object);
+}
+
+void TestSerial::aLinkThatSomebodyElseClosesIsShown()
+{
+    SerialWindow window;
+    const TestPort port;
+    window.open(port);
+    QVERIFY(window.looksOpen());
+    QVERIFY(!window.combo("comboBox_Comm")->isEnabled());
+    QVERIFY(!window.find<QLabel>("label_Status")->text().isEmpty());
+    window.window().findChild<SerialLink *>()->close();
+    QVERIFY(!window.looksOpen());
+    QVERIFY(window.combo("comboBox_Comm")->isEnabled());
+    QCOMPARE(window.find<QLabel>("label_Status")->text(), QString());
 }
 
 void TestSerial::customRateIsTyped()
