@@ -257,9 +257,10 @@ void Dialog::connectLinks()
         m_records.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
     });
     connect(&hid, &Link::lost, this, &Dialog::Close_HidDevice_From_thread);
-    connect(&m_receiver, &Receiver::frameReceived, this, [this](const QByteArray &frame) {
-        m_records.appendReceived(frame, m_format.withCrc());
-    });
+    connect(&m_receiver, &Receiver::frameReceived, this,
+            [this](const QByteArray &frame, ArrivalTime time) {
+                m_records.appendReceived(frame, m_format.withCrc(), time);
+            });
     connect(&m_receiver, &Receiver::noticeReceived, this, &Dialog::logNotice);
     connect(&m_receivedHeader, &ReceivedHeader::unreadable, this,
             [this] { showMessage(badHeaderMessage); });
@@ -282,8 +283,9 @@ void Dialog::watchDevices()
 void Dialog::connectSending()
 {
     connect(&m_sender, &Sender::message, this, &Dialog::showMessage);
-    connect(&m_sender, &Sender::sent, this,
-            [this](const QByteArray &frame) { m_records.appendSent(frame, m_format.withCrc()); });
+    connect(&m_sender, &Sender::sent, this, [this](const QByteArray &frame, ArrivalTime time) {
+        m_records.appendSent(frame, m_format.withCrc(), time);
+    });
     connect(&m_loop, &LoopControl::notice, this, &Dialog::showMessage);
     connect(&m_loop, &LoopControl::started, this,
             [this] { m_loopPanel.showRunning(m_links.mode()); });
@@ -500,10 +502,10 @@ void Dialog::endLink(Link &link)
     link.close();
 }
 
-void Dialog::logNotice(const QByteArray &bytes)
+void Dialog::logNotice(const QByteArray &bytes, ArrivalTime time)
 {
     if (m_links.mode() == LinkMode::Hid && isAllZero(bytes)) {
         return;
     }
-    m_records.appendStray(bytes);
+    m_records.appendStray(bytes, time);
 }

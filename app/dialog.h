@@ -118,7 +118,7 @@ private:
 
     void openSerialPort();
     void endLink(Link &link);
-    void logNotice(const QByteArray &bytes);
+    void logNotice(const QByteArray &bytes, ArrivalTime time);
 
     std::unique_ptr<Ui::Dialog> m_form;
     WindowMemory m_memory;

@@ -31,7 +31,7 @@ public:
     {
         const double seconds = medianSeconds([&] {
             for (int row = 0; row < rows; ++row) {
-                m_records.appendReceived(m_frame, true);
+                m_records.appendReceived(m_frame, true, m_time);
                 if (row % rowsAtATime == rowsAtATime - 1) {
                     m_log.bringIn();
                     QCoreApplication::processEvents();
@@ -49,7 +49,7 @@ public:
         const double seconds = medianSeconds([&] {
             m_records.clear();
             for (int row = 0; row < rowsOfAFullLog; ++row) {
-                m_records.appendReceived(m_frame, true);
+                m_records.appendReceived(m_frame, true, m_time);
             }
             m_log.bringIn();
         });
@@ -72,6 +72,7 @@ private:
     RecordLog m_records;
     MessageLog m_log;
     const QByteArray m_frame = QByteArray::fromHex("5AA50803100000000000770102");
+    const ArrivalTime m_time = ArrivalTime::now();
 };
 
 } // namespace

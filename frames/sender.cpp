@@ -98,6 +98,7 @@ QByteArray Sender::handOverBlock(const QByteArray &block)
     if (!isTaken(block)) {
         return {};
     }
+    m_handedOver = ArrivalTime::now();
     m_link->write(block);
     return block;
 }
@@ -105,7 +106,7 @@ QByteArray Sender::handOverBlock(const QByteArray &block)
 void Sender::tellFrame(const QByteArray &frame)
 {
     if (!frame.isEmpty()) {
-        emit sent(frame);
+        emit sent(frame, m_handedOver);
     }
 }
 
@@ -115,7 +116,7 @@ void Sender::tellBlock(const QByteArray &block)
         return;
     }
     for (const QByteArray &frame : splitBlock(block, m_settings.startBytes())) {
-        emit sent(frame);
+        emit sent(frame, m_handedOver);
     }
 }
 

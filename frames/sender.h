@@ -1,5 +1,6 @@
 #pragma once
 
+#include "arrivaltime.h"
 #include "sendplan.h"
 
 #include <QObject>
@@ -59,8 +60,8 @@ signals:
     /// Something the user must be told, emitted before the sender goes on; handlers may block.
     void message(const QString &text);
 
-    /// One frame that was handed over, for the log.
-    void sent(const QByteArray &frame);
+    /// One frame that was handed over, and when, for the log.
+    void sent(const QByteArray &frame, ArrivalTime time);
 
 private:
     QByteArray makeFrame(const QString &frameText, HeaderNotice &notice);
@@ -69,4 +70,5 @@ private:
 
     FrameSettings &m_settings;
     Link *m_link = nullptr;
+    ArrivalTime m_handedOver;
 };

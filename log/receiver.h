@@ -1,5 +1,6 @@
 #pragma once
 
+#include "arrivaltime.h"
 #include "framereassembler.h"
 
 #include <QObject>
@@ -18,21 +19,22 @@ public:
 
     explicit Receiver(ReadStartBytes readStartBytes, QObject *parent = nullptr);
 
-    /// Takes in a chunk. A first start byte at its end that nothing has followed for 50 ms is given
-    /// out as a notice.
-    void take(const QByteArray &chunk);
+    /// Takes in a chunk that was read at that time. A first start byte at its end that nothing has
+    /// followed for 50 ms is given out as a notice.
+    void take(const QByteArray &chunk, ArrivalTime time = ArrivalTime::now());
 
 signals:
-    /// A whole frame.
-    void frameReceived(const QByteArray &frame);
+    /// A whole frame, and the time of the chunk that completed it.
+    void frameReceived(const QByteArray &frame, ArrivalTime time);
 
-    /// Bytes that belong to no frame.
-    void noticeReceived(const QByteArray &bytes);
+    /// Bytes that belong to no frame, and the time of the chunk that showed it.
+    void noticeReceived(const QByteArray &bytes, ArrivalTime time);
 
 private:
-    void giveOut(const QVector<ReceivedPiece> &pieces);
+    void giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time);
 
     ReadStartBytes m_readStartBytes;
     FrameReassembler m_reassembler;
     QTimer m_silence;
+    ArrivalTime m_lastArrival;
 };

@@ -3,7 +3,7 @@
 #include <utility>
 
 RecordLog::RecordLog(QObject *parent)
-    : RecordLog(recordTimeNow, parent)
+    : RecordLog(ArrivalTime::now, parent)
 {}
 
 RecordLog::RecordLog(Clock clock, QObject *parent)
@@ -11,25 +11,25 @@ RecordLog::RecordLog(Clock clock, QObject *parent)
     , m_clock(std::move(clock))
 {}
 
-void RecordLog::appendSent(const QByteArray &frame, bool withCrc)
+void RecordLog::appendSent(const QByteArray &frame, bool withCrc, Time time)
 {
-    appendNumbered({LogRecord::Kind::Sent, 0, 0, 0, frame, withCrc, {}, {}});
+    appendNumbered({LogRecord::Kind::Sent, 0, 0, 0, frame, withCrc, {}, {}}, time);
 }
 
-void RecordLog::appendReceived(const QByteArray &frame, bool withCrc)
+void RecordLog::appendReceived(const QByteArray &frame, bool withCrc, Time time)
 {
-    appendNumbered({LogRecord::Kind::Received, 0, 0, 0, frame, withCrc, {}, {}});
+    appendNumbered({LogRecord::Kind::Received, 0, 0, 0, frame, withCrc, {}, {}}, time);
 }
 
-void RecordLog::appendStray(const QByteArray &bytes)
+void RecordLog::appendStray(const QByteArray &bytes, Time time)
 {
-    appendNumbered({LogRecord::Kind::Stray, 0, 0, 0, bytes, false, {}, {}});
+    appendNumbered({LogRecord::Kind::Stray, 0, 0, 0, bytes, false, {}, {}}, time);
 }
 
 void RecordLog::appendEvent(const QString &source, const QString &text)
 {
     startOverIfFull();
-    append({LogRecord::Kind::Event, 0, 0, 0, {}, false, source, text});
+    append({LogRecord::Kind::Event, 0, 0, 0, {}, false, source, text}, std::nullopt);
 }
 
 void RecordLog::clear()
@@ -38,18 +38,18 @@ void RecordLog::clear()
     emit cleared();
 }
 
-void RecordLog::appendNumbered(LogRecord record)
+void RecordLog::appendNumbered(LogRecord record, Time time)
 {
     startOverIfFull();
     record.number = m_nextNumber++;
-    append(std::move(record));
+    append(std::move(record), time);
 }
 
-void RecordLog::append(LogRecord record)
+void RecordLog::append(LogRecord record, Time time)
 {
-    const RecordTime time = m_clock();
-    record.utcUs = time.utcUs;
-    record.monotonicNs = time.monotonicNs;
+    const ArrivalTime when = time ? *time : m_clock();
+    record.utcUs = when.utcUs;
+    record.monotonicNs = when.monotonicNs;
     m_records.append(record);
     // Not the one in the log: a listener may empty that.
     emit appended(record);

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "arrivaltime.h"
 #include "logrecord.h"
-#include "recordtime.h"
 
 #include <QObject>
 #include <QVector>
 
 #include <functional>
+#include <optional>
 
 /// Keeps a record of what was sent and received and of what happened to the links, in that order.
 ///
@@ -19,21 +20,23 @@ public:
     /// Records that it is filled with before it empties itself.
     static constexpr int mostRecords = 1025;
 
-    using Clock = std::function<RecordTime()>;
+    using Clock = std::function<ArrivalTime()>;
+    /// The time of a record; nothing stands for the time at which it is appended.
+    using Time = std::optional<ArrivalTime>;
 
     explicit RecordLog(QObject *parent = nullptr);
 
     /// Takes the time from another clock than the system's.
     explicit RecordLog(Clock clock, QObject *parent = nullptr);
 
-    /// Records a frame that was given to the system just now.
-    void appendSent(const QByteArray &frame, bool withCrc);
+    /// Records a frame that was given to the system at that time.
+    void appendSent(const QByteArray &frame, bool withCrc, Time time = std::nullopt);
 
-    /// Records a received frame.
-    void appendReceived(const QByteArray &frame, bool withCrc);
+    /// Records a frame that was read from the system at that time.
+    void appendReceived(const QByteArray &frame, bool withCrc, Time time = std::nullopt);
 
-    /// Records received bytes that form no frame.
-    void appendStray(const QByteArray &bytes);
+    /// Records bytes that were read from the system at that time and form no frame.
+    void appendStray(const QByteArray &bytes, Time time = std::nullopt);
 
     /// Records something that happened to the link of that name. It takes no number.
     void appendEvent(const QString &source, const QString &text);
@@ -58,8 +61,8 @@ signals:
     void startedOver();
 
 private:
-    void appendNumbered(LogRecord record);
-    void append(LogRecord record);
+    void appendNumbered(LogRecord record, Time time);
+    void append(LogRecord record, Time time);
     void startOverIfFull();
     void forgetAll();
 

@@ -42,6 +42,7 @@ private slots:
     void aBlockIsHandedOverAndTold();
     void whatWaitsIsBounded_data();
     void whatWaitsIsBounded();
+    void framesHaveTheTimeOfTheirHandover();
     void linkCanBeExchanged();
 };
 
@@ -396,6 +397,23 @@ void TestSender::whatWaitsIsBounded()
     bench.link.unsent = 0;
     bench.sender.sendOne(bytes(1100000));
     QCOMPARE(bench.link.blocks.last().size(), 1100003);
+}
+
+void TestSender::framesHaveTheTimeOfTheirHandover()
+{
+    Bench bench;
+    qint64 written = 0;
+    bench.link.onWrite = [&written] { written = ArrivalTime::now().monotonicNs; };
+    QVector<qint64> times;
+    connect(&bench.sender, &Sender::sent, this,
+            [&times](const QByteArray & /*frame*/, ArrivalTime time) {
+                times.append(time.monotonicNs);
+            });
+    const qint64 before = ArrivalTime::now().monotonicNs;
+    bench.sender.sendAll({{1, "01"}, {2, "02"}});
+    QCOMPARE(times.size(), 2);
+    QCOMPARE(times.first(), times.last());
+    QVERIFY(before <= times.first() && times.first() <= written);
 }
 
 void TestSender::linkCanBeExchanged()

@@ -16,6 +16,7 @@ private slots:
     void aLoneStartByteIsShownAfterASilence();
     void aStartByteThatIsFollowedIsNotShown();
     void whatIsMoreThanAStartByteIsKept();
+    void piecesHaveTheTimeOfTheirLastChunk();
 };
 
 namespace {
@@ -112,6 +113,23 @@ void TestReceiver::whatIsMoreThanAStartByteIsKept()
     QTimer::singleShot(2 * silenceMs, Qt::PreciseTimer, &heard, [&silent] { silent = true; });
     QTRY_VERIFY(silent);
     QCOMPARE(heard.pieces, QStringList());
+}
+
+void TestReceiver::piecesHaveTheTimeOfTheirLastChunk()
+{
+    Receiver receiver([] { return StartBytes{0x5A, 0xA5}; });
+    QStringList pieces;
+    const auto note = [&pieces](const QByteArray &bytes, ArrivalTime time) {
+        pieces.append(QStringLiteral("%1@%2/%3")
+                          .arg(QString::fromLatin1(bytes.toHex()))
+                          .arg(time.utcUs)
+                          .arg(time.monotonicNs));
+    };
+    connect(&receiver, &Receiver::frameReceived, this, note);
+    connect(&receiver, &Receiver::noticeReceived, this, note);
+    receiver.take(hex("07 5AA501"), {1000, 10});
+    receiver.take(hex("01 5A"), {2000, 20});
+    QTRY_COMPARE(pieces, QStringList({"07@1000/10", "5aa50101@2000/20", "5a@2000/20"}));
 }
 
 QTEST_GUILESS_MAIN(TestReceiver)
