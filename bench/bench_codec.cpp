@@ -40,12 +40,13 @@ void print(const char *name, const QString &value, Encode encode, Decode decode)
                                .arg(back, 7, 'f', 3);
 }
 
-void printNumbers(const char *name, NumberKind kind)
+void printNumbers(const NumberKind &kind)
 {
-    const QString number = QString::number(numberFormat(kind).lowest);
+    const QString number = QString::number(kind.lowest);
     const QString list = QStringList(QVector<QString>(elements, number).toList()).join(',');
     print(
-        name, list, [kind](const QString &value) { return encodeNumbers(value, kind); },
+        kind.caption.data(), list,
+        [kind](const QString &value) { return encodeNumbers(value, kind); },
         [kind](const QString &hex) { return decodeNumbers(hex, kind); });
 }
 
@@ -62,13 +63,9 @@ void printText(const char *name, StringEncoding encoding)
 int main()
 {
     QTextStream(stdout) << elements << " elements, median of " << runs << " runs\n";
-    printNumbers("int", NumberKind::Int);
-    printNumbers("uint", NumberKind::UInt);
-    printNumbers("char", NumberKind::Char);
-    printNumbers("uchar", NumberKind::UChar);
-    printNumbers("short", NumberKind::Short);
-    printNumbers("ushort", NumberKind::UShort);
-    printNumbers("longlong", NumberKind::LongLong);
+    for (const NumberKind &kind : numberKinds) {
+        printNumbers(kind);
+    }
     printText("GB2312", StringEncoding::Gb2312);
     printText("GBK", StringEncoding::Gbk);
     printText("Unicode", StringEncoding::Unicode);

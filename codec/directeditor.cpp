@@ -78,6 +78,11 @@ void goToBeginningOfLong(QLineEdit *field)
     }
 }
 
+const NumberKind &numberKindOfItem(int type)
+{
+    return numberKinds.at(static_cast<std::size_t>(type));
+}
+
 } // namespace
 
 DirectEditor::DirectEditor(QWidget *parent)
@@ -85,6 +90,7 @@ DirectEditor::DirectEditor(QWidget *parent)
     , m_ui(std::make_unique<Ui::DirectEditor>())
 {
     m_ui->setupUi(this);
+    m_ui->comboBox_dataType->addItems(editorTypes());
     connectFields();
     m_ui->comboBox_dataType->setCurrentIndex(shortTypeIndex);
     setWindowTitle(tr("edit"));
@@ -110,7 +116,7 @@ void DirectEditor::loadFromMembers()
 void DirectEditor::on_originalDataChange()
 {
     const QString decimals = m_ui->lineEdit_originalData->text();
-    m_ui->lineEdit_originalData->setText(encodeNumbers(decimals, NumberKind::Int));
+    m_ui->lineEdit_originalData->setText(encodeNumbers(decimals, intKind));
 }
 
 void DirectEditor::on_lineEdit_originalData_textChanged()
@@ -185,9 +191,8 @@ void DirectEditor::showValueOfHex()
     const bool isString = type == stringTypeIndex;
     const QString hex = m_ui->lineEdit_Data->text();
     m_ui->comboBox_encode->setEnabled(isString);
-    m_ui->lineEdit_originalData->setText(isString
-                                             ? withoutTerminator(decodeString(hex, encoding()))
-                                             : decodeNumbers(hex, static_cast<NumberKind>(type)));
+    m_ui->lineEdit_originalData->setText(isString ? withoutTerminator(decodeString(hex, encoding()))
+                                                  : decodeNumbers(hex, numberKindOfItem(type)));
     if (isVisible()) {
         goToBeginningOfLong(m_ui->lineEdit_originalData);
     }
@@ -209,7 +214,7 @@ EncodedText DirectEditor::encodedValue() const
         return {};
     }
     if (type != stringTypeIndex) {
-        return {encodeNumbers(value, static_cast<NumberKind>(type)), {}};
+        return {encodeNumbers(value, numberKindOfItem(type)), {}};
     }
     EncodedText encoded = encodeString(value, encoding());
     encoded.hex = withTerminator(encoded.hex);

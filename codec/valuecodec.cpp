@@ -45,7 +45,7 @@ ConvertedValue convertTime(const QString &fields)
     if (isNumber) {
         list.first() = QString::number(year - epochYear);
     }
-    return {encodeNumbers(list.join(QLatin1Char(',')), NumberKind::Short), {}, {}};
+    return {encodeNumbers(list.join(QLatin1Char(',')), shortKind), {}, {}};
 }
 
 ConvertedValue convertField(const QString &text, int words, StringEncoding encoding)
@@ -129,16 +129,14 @@ ConvertedValue convertMix(const QString &value)
 
 ConvertedValue convertValue(const QString &kindText, const QString &value)
 {
-    const ValueKind kind = valueKindNamed(kindText);
-    if (const std::optional<NumberKind> number = numberKind(kind)) {
-        return {encodeNumbers(value, *number), {}, {}};
-    }
-    switch (kind) {
+    switch (valueKindNamed(kindText)) {
     case ValueKind::Time:
         return convertTime(value);
     case ValueKind::Mix:
         return convertMix(value);
-    default:
+    case ValueKind::String:
         return convertString(value, encodingOfKind(kindText));
+    default:
+        return {encodeNumbers(value, numberKindNamed(kindText)), {}, {}};
     }
 }

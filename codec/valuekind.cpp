@@ -1,33 +1,29 @@
 #include "valuekind.h"
 
-#include <QStringList>
-
-#include <array>
-#include <limits>
-
 namespace {
 
-constexpr int numberKindCount = 7;
-
-template<typename T>
-constexpr NumberFormat formatOf(int digits)
+QString text(std::string_view latin1)
 {
-    using Limits = std::numeric_limits<T>;
-    return {digits, static_cast<int>(sizeof(T)) * 8, Limits::is_signed,
-            static_cast<qint64>(Limits::min()), static_cast<qint64>(Limits::max())};
+    return QLatin1String(latin1.data(), static_cast<int>(latin1.size()));
 }
 
-constexpr std::array<NumberFormat, numberKindCount> formats = {
-    formatOf<qint32>(8), formatOf<quint32>(8), formatOf<qint8>(4),   formatOf<quint8>(4),
-    formatOf<qint16>(4), formatOf<quint16>(4), formatOf<qint64>(16),
-};
+QStringList texts(std::string_view NumberKind::*which)
+{
+    QStringList texts;
+    for (const NumberKind &kind : numberKinds) {
+        texts.append(text(kind.*which));
+    }
+    return texts;
+}
 
 const QStringList &numberKindNames()
 {
-    static const QStringList names = {"INT",   "UINT",   "CHAR",    "UCHAR",
-                                      "SHORT", "USHORT", "LONGLONG"};
+    static const QStringList names = texts(&NumberKind::name);
     return names;
 }
+
+/// The kinds behind those of numbers, in the order in which their names are looked at.
+constexpr std::array otherKinds = {ValueKind::String, ValueKind::Time, ValueKind::Mix};
 
 const QStringList &valueKindNames()
 {
@@ -54,20 +50,6 @@ int firstContaining(const QStringList &names, const QString &text)
 
 } // namespace
 
-NumberFormat numberFormat(NumberKind kind)
-{
-    return formats.at(static_cast<std::size_t>(kind));
-}
-
-std::optional<NumberKind> numberKind(ValueKind kind)
-{
-    const int index = static_cast<int>(kind);
-    if (index >= numberKindCount) {
-        return std::nullopt;
-    }
-    return static_cast<NumberKind>(index);
-}
-
 ValueKind valueKindNamed(const QString &kindText)
 {
     // No name before "STRING" contains a text that contains it, so looking for it first is safe.
@@ -75,7 +57,15 @@ ValueKind valueKindNamed(const QString &kindText)
         return ValueKind::String;
     }
     const int index = firstContaining(valueKindNames(), kindText);
-    return index < 0 ? ValueKind::Int : static_cast<ValueKind>(index);
+    return index < stringTypeIndex
+               ? ValueKind::Number
+               : otherKinds.at(static_cast<std::size_t>(index - stringTypeIndex));
+}
+
+NumberKind numberKindNamed(const QString &kindText)
+{
+    const int index = firstContaining(numberKindNames(), kindText);
+    return index < 0 ? intKind : numberKinds.at(static_cast<std::size_t>(index));
 }
 
 std::optional<StringEncoding> encodingNamed(const QString &name)
@@ -98,14 +88,19 @@ StringEncoding encodingOfKind(const QString &kindText)
     return encodingNamed(kindText.section(QLatin1Char(':'), 1, 1)).value_or(StringEncoding::Gb2312);
 }
 
+QStringList editorTypes()
+{
+    return texts(&NumberKind::caption) + QStringList("string");
+}
+
 EditorSelection editorSelection(const QString &rowType)
 {
     const int index = rowType.isEmpty() ? -1 : firstContaining(rowTypeNames(), rowType.toUpper());
     if (index < 0) {
         return {shortTypeIndex, 0};
     }
-    if (index < numberKindCount) {
+    if (index < stringTypeIndex) {
         return {index, 0};
     }
-    return {stringTypeIndex, index - numberKindCount};
+    return {stringTypeIndex, index - stringTypeIndex};
 }

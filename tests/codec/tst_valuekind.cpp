@@ -13,7 +13,9 @@ private slots:
     void encodingOfKindText();
     void editorSelectionOfRow_data();
     void editorSelectionOfRow();
-    void onlyNumbersAreNumberKinds();
+    void everyNumberKindIsFoundByItsNames_data();
+    void everyNumberKindIsFoundByItsNames();
+    void stringIsTheLastOfTheEditorsTypes();
 };
 
 Q_DECLARE_METATYPE(ValueKind)
@@ -23,39 +25,44 @@ void TestValueKind::kindOfText_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<ValueKind>("kind");
+    QTest::addColumn<QString>("number");
 
-    QTest::newRow("INT") << "INT" << ValueKind::Int;
-    QTest::newRow("UINT") << "UINT" << ValueKind::UInt;
-    QTest::newRow("CHAR") << "CHAR" << ValueKind::Char;
-    QTest::newRow("UCHAR") << "UCHAR" << ValueKind::UChar;
-    QTest::newRow("SHORT") << "SHORT" << ValueKind::Short;
-    QTest::newRow("USHORT") << "USHORT" << ValueKind::UShort;
-    QTest::newRow("LONGLONG") << "LONGLONG" << ValueKind::LongLong;
-    QTest::newRow("STRING") << "STRING" << ValueKind::String;
-    QTest::newRow("TIME") << "TIME" << ValueKind::Time;
-    QTest::newRow("MIX") << "MIX" << ValueKind::Mix;
-    QTest::newRow("string with encoding") << "STRING:GBK2312" << ValueKind::String;
-    QTest::newRow("STRING inside") << "MY STRINGS" << ValueKind::String;
-    QTest::newRow("STRING wins over a name inside") << "INTSTRING" << ValueKind::String;
-    QTest::newRow("first name containing T") << "T" << ValueKind::Int;
-    QTest::newRow("first name containing U") << "U" << ValueKind::UInt;
-    QTest::newRow("first name containing HAR") << "HAR" << ValueKind::Char;
-    QTest::newRow("first name containing S") << "S" << ValueKind::Short;
-    QTest::newRow("first name containing LONG") << "LONG" << ValueKind::LongLong;
-    QTest::newRow("first name containing ING") << "ING" << ValueKind::String;
-    QTest::newRow("first name containing M") << "M" << ValueKind::Time;
-    QTest::newRow("first name containing X") << "X" << ValueKind::Mix;
-    QTest::newRow("empty") << "" << ValueKind::Int;
-    QTest::newRow("lower case is not matched") << "short" << ValueKind::Int;
-    QTest::newRow("unknown") << "FLOAT" << ValueKind::Int;
-    QTest::newRow("longer than a name") << "SHORTS" << ValueKind::Int;
+    QTest::newRow("INT") << "INT" << ValueKind::Number << "INT";
+    QTest::newRow("UINT") << "UINT" << ValueKind::Number << "UINT";
+    QTest::newRow("CHAR") << "CHAR" << ValueKind::Number << "CHAR";
+    QTest::newRow("UCHAR") << "UCHAR" << ValueKind::Number << "UCHAR";
+    QTest::newRow("SHORT") << "SHORT" << ValueKind::Number << "SHORT";
+    QTest::newRow("USHORT") << "USHORT" << ValueKind::Number << "USHORT";
+    QTest::newRow("LONGLONG") << "LONGLONG" << ValueKind::Number << "LONGLONG";
+    QTest::newRow("STRING") << "STRING" << ValueKind::String << "";
+    QTest::newRow("TIME") << "TIME" << ValueKind::Time << "";
+    QTest::newRow("MIX") << "MIX" << ValueKind::Mix << "";
+    QTest::newRow("string with encoding") << "STRING:GBK2312" << ValueKind::String << "";
+    QTest::newRow("STRING inside") << "MY STRINGS" << ValueKind::String << "";
+    QTest::newRow("STRING wins over a name inside") << "INTSTRING" << ValueKind::String << "";
+    QTest::newRow("first name containing T") << "T" << ValueKind::Number << "INT";
+    QTest::newRow("first name containing U") << "U" << ValueKind::Number << "UINT";
+    QTest::newRow("first name containing HAR") << "HAR" << ValueKind::Number << "CHAR";
+    QTest::newRow("first name containing S") << "S" << ValueKind::Number << "SHORT";
+    QTest::newRow("first name containing LONG") << "LONG" << ValueKind::Number << "LONGLONG";
+    QTest::newRow("first name containing ING") << "ING" << ValueKind::String << "";
+    QTest::newRow("first name containing M") << "M" << ValueKind::Time << "";
+    QTest::newRow("first name containing X") << "X" << ValueKind::Mix << "";
+    QTest::newRow("empty") << "" << ValueKind::Number << "INT";
+    QTest::newRow("lower case is not matched") << "short" << ValueKind::Number << "INT";
+    QTest::newRow("unknown") << "FLOAT" << ValueKind::Number << "INT";
+    QTest::newRow("longer than a name") << "SHORTS" << ValueKind::Number << "INT";
 }
 
 void TestValueKind::kindOfText()
 {
     QFETCH(QString, text);
     QFETCH(ValueKind, kind);
+    QFETCH(QString, number);
     QCOMPARE(valueKindNamed(text), kind);
+    if (kind == ValueKind::Number) {
+        QCOMPARE(QString(numberKindNamed(text).name.data()), number);
+    }
 }
 
 void TestValueKind::encodingOfKindText_data()
@@ -114,13 +121,29 @@ void TestValueKind::editorSelectionOfRow()
     QTEST(selection.encoding, "encoding");
 }
 
-void TestValueKind::onlyNumbersAreNumberKinds()
+void TestValueKind::everyNumberKindIsFoundByItsNames_data()
 {
-    QCOMPARE(numberKind(ValueKind::Int), std::optional(NumberKind::Int));
-    QCOMPARE(numberKind(ValueKind::LongLong), std::optional(NumberKind::LongLong));
-    QVERIFY(!numberKind(ValueKind::String));
-    QVERIFY(!numberKind(ValueKind::Time));
-    QVERIFY(!numberKind(ValueKind::Mix));
+    QTest::addColumn<int>("index");
+
+    for (std::size_t i = 0; i < numberKinds.size(); ++i) {
+        QTest::newRow(numberKinds.at(i).name.data()) << static_cast<int>(i);
+    }
+}
+
+void TestValueKind::everyNumberKindIsFoundByItsNames()
+{
+    QFETCH(int, index);
+    const NumberKind &kind = numberKinds.at(static_cast<std::size_t>(index));
+    QCOMPARE(valueKindNamed(kind.name.data()), ValueKind::Number);
+    QVERIFY(numberKindNamed(kind.name.data()).name == kind.name);
+    QCOMPARE(editorTypes().at(index), QString(kind.caption.data()));
+    QCOMPARE(editorSelection(kind.caption.data()).type, index);
+}
+
+void TestValueKind::stringIsTheLastOfTheEditorsTypes()
+{
+    QCOMPARE(editorTypes().size(), stringTypeIndex + 1);
+    QCOMPARE(editorTypes().last(), QString("string"));
 }
 
 QTEST_APPLESS_MAIN(TestValueKind)

@@ -10,9 +10,6 @@
 
 namespace {
 
-constexpr std::array numberKinds = {NumberKind::Int,     NumberKind::UInt,  NumberKind::Char,
-                                    NumberKind::UChar,   NumberKind::Short, NumberKind::UShort,
-                                    NumberKind::LongLong};
 constexpr std::array encodings = {StringEncoding::Gb2312, StringEncoding::Gbk,
                                   StringEncoding::Unicode};
 
@@ -36,7 +33,7 @@ void requireHexText(const QString &hex)
 /// What was read from any hex text is written as hex text that reads the same.
 void checkNumbers(const QString &text)
 {
-    for (const NumberKind kind : numberKinds) {
+    for (const NumberKind &kind : numberKinds) {
         requireHexText(encodeNumbers(text, kind));
         const QString decimals = decodeNumbers(text, kind);
         if (!decimals.isEmpty()) {
