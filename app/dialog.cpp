@@ -1,18 +1,14 @@
 #include "dialog.h"
 
-#include "allzero.h"
 #include "boxes.h"
 #include "celltips.h"
 #include "commandcolumns.h"
 #include "datafolder.h"
-#include "headernotice.h"
-#include "lightlook.h"
 #include "linktexts.h"
-#include "logtexts.h"
-#include "scrollablewindow.h"
-#include "styles.h"
+#include "logcolumns.h"
 #include "ui_dialog.h"
 #include "version.h"
+#include "windowform.h"
 #include "windowkeys.h"
 
 #include <QCloseEvent>
@@ -21,79 +17,49 @@
 namespace {
 
 constexpr int firstRefreshMs = 1000;
+constexpr int refreshAfterEventMs = 500;
 constexpr int commandStretch = 10;
 constexpr int messageStretch = 8;
 constexpr int tipColumn = LogColumn::Data;
 static_assert(tipColumn == CommandColumn::Crc);
-constexpr int refreshAfterEventMs = 500;
 
 } // namespace
 
-/// The images live in a static library, so nothing but this brings them in.
-static void initImages()
-{
-    Q_INIT_RESOURCE(tarnwick);
-}
-
-static std::unique_ptr<Ui::Dialog> makeForm(QDialog *dialog)
-{
-    initImages();
-    new LightLook(*dialog);
-    auto form = std::make_unique<Ui::Dialog>();
-    form->setupUi(dialog);
-    makeScrollable(*dialog);
-    // Before anything measures a text.
-    dialog->setStyleSheet(windowStyle());
-    return form;
-}
-
 Dialog::Dialog(QWidget *parent)
     : QDialog(parent)
-    , m_form(makeForm(this))
+    , m_form(fillWindow(*this))
     , m_memory(*this, *m_form->splitter, dataFile(QStringLiteral("window.ini")), this)
     , m_wheelGuard(*m_form->tabWidget)
     , m_settingsFile(dataFile(QStringLiteral("debuggerConfig.ini")))
     , m_settings(m_settingsFile.load())
     , m_headlines(*m_form, m_list, this)
     , m_status({m_form->label_Status, m_form->label_Status_2}, this)
-    , m_headerField(*m_form->lineEdit_SBytes, m_format, m_receivedHeader)
-    , m_links(FrameReassembler::capacity - FrameReassembler::longestFrame,
-              dataFile(QStringLiteral("hidDeviceID.ini")), this)
-    , m_serialPanel(*m_form, m_links.serial(), this)
-    , m_hidPanel(*m_form, m_links.hid(), this)
+    , m_session(dataFile(QStringLiteral("hidDeviceID.ini")), portsFolder(), this)
+    , m_headerField(*m_form->lineEdit_SBytes, m_session, this)
+    , m_serialPanel(*m_form, m_session.links().serial(), this)
+    , m_hidPanel(*m_form, m_session.links().hid(), this)
+    , m_loopPanel(*m_form, this)
+    , m_linkStatus(m_status, m_session, this)
     , m_commands(*m_form->tableWidget_Register, this, this)
     , m_menus(this, m_settings.isEditorFun != 0)
     , m_rowActions(*m_form->tableWidget_Register, m_commands, m_menus, this)
     , m_tableKeys(*m_form->tableWidget_Register, m_commands, m_rowActions, m_menus, this)
     , m_rowEditor(*m_form->tableWidget_Register, m_commands, this)
-    , m_records(this)
-    , m_log(*m_form->tableWidget_Message, m_records, this)
-    , m_messageCopy(*m_form->tableWidget_Message, m_log, m_records, this)
-    , m_devices(m_links.serial(), m_links.hid(), m_records, this)
-    , m_linkStatus(m_status, m_devices, this)
-    , m_files(this, dataFolder(), fileHooks())
-    , m_recovery(dataFolder(), m_list, [this] { return m_commands.rows(); })
-    , m_receiver([this] { return m_receivedHeader.startBytes(); }, this)
-    , m_sender(m_format, this)
-    , m_loop(m_sender, this)
-    , m_loopPanel(*m_form, this)
+    , m_log(*m_form->tableWidget_Message, m_session.log(), this)
+    , m_messageCopy(*m_form->tableWidget_Message, m_log, m_session.log(), this)
+    , m_files(*this, m_commands, m_list, m_session.log(), m_status)
 {
     setUpWindow();
     m_headlines.follow(m_log);
-    m_linkStatus.follow(m_serialPanel, m_links.serial());
-    m_linkStatus.follow(m_hidPanel, m_links.hid());
-    connectLinks();
-    connectSending();
+    m_linkStatus.follow(m_serialPanel);
+    m_linkStatus.follow(m_hidPanel);
+    setUpSession();
     setUpCommands();
     setUpTips();
-    setUpTimers();
+    setUpTimer();
     watchDevices();
-    m_files.setLastLoadFolder(m_settings.lastLoadPath);
-    m_files.setLastSaveFolder(m_settings.lastSavePath);
-    m_links.hid().readDeviceTypes();
-    chooseLink(static_cast<LinkMode>(m_settings.linkMode));
     m_form->tabWidget->setCurrentIndex(m_settings.linkMode);
-    offerLeftBehind();
+    m_files.offerLeftBehind();
 }
 
 Dialog::~Dialog()
@@ -103,15 +69,15 @@ Dialog::~Dialog()
 
 void Dialog::closeEvent(QCloseEvent *event)
 {
-    m_loop.stop();
+    m_session.loop().stop();
     m_commands.takeInEdit();
     if (m_list.isModified() && askToSaveCommands()) {
-        m_files.saveCommands();
+        m_files.save();
     }
     saveSettings();
     // While the question was asked, the program may have been told to end.
     if (!m_isEnding) {
-        m_recovery.discard();
+        m_files.discardKept();
     }
     event->accept();
 }
@@ -119,23 +85,22 @@ void Dialog::closeEvent(QCloseEvent *event)
 void Dialog::end()
 {
     m_isEnding = true;
-    m_loop.stop();
+    m_session.loop().stop();
     keepForNextStart();
-    m_links.close();
+    m_session.end();
 }
 
 void Dialog::keepForNextStart()
 {
     m_commands.takeInEdit();
-    m_recovery.keep();
+    m_files.keep();
     saveSettings();
 }
 
 void Dialog::saveSettings()
 {
-    m_settings.linkMode = int(m_links.mode());
-    m_settings.lastLoadPath = m_files.lastLoadFolder();
-    m_settings.lastSavePath = m_files.lastSaveFolder();
+    m_files.noteFolders(m_settings);
+    m_settings.linkMode = int(m_session.links().mode());
     m_settingsFile.save(m_settings);
     m_memory.save();
 }
@@ -151,7 +116,7 @@ void Dialog::wheelEvent(QWheelEvent * /*event*/)
 
 bool Dialog::nativeEvent(const QByteArray & /*eventType*/, void *message, long *result)
 {
-    const bool taken = m_devices.takeMessage(message);
+    const bool taken = m_session.devices().takeMessage(message);
     if (taken && result != nullptr) {
         *result = 1;
     }
@@ -200,79 +165,38 @@ void Dialog::setUpTips()
     }
 }
 
-FileActionHooks Dialog::fileHooks()
+void Dialog::setUpSession()
 {
-    FileActionHooks hooks;
-    hooks.showMessage = [this](const QString &text) { showMessage(text); };
-    hooks.commands = [this] { return m_commands.rows(); };
-    hooks.replaceCommands = [this](const auto &rows) { m_commands.replaceRows(rows); };
-    hooks.commandsStored = [this](const QString &path) {
-        m_list.setStored(path);
-        m_recovery.discard();
-    };
-    hooks.commandsRecovered = [this](const QString &path) { takeRecovered(path); };
-    hooks.beforeOverwriting = [this] { m_recovery.write(); };
-    hooks.tell = [this](const QString &text) { m_status.tell(text); };
-    hooks.messages = [this] { return textsOf(m_records.records()); };
-    return hooks;
+    m_session.format().setStartBytes(m_settings.noAppendHeader == 0);
+    m_session.format().setLength(m_settings.noAppendLength == 0);
+    m_session.links().hid().readDeviceTypes();
+    m_session.use(static_cast<LinkMode>(m_settings.linkMode));
+    m_loopPanel.follow(m_session);
+    m_log.setHold([this] { return m_session.loop().isFrameNear(); });
+    m_files.takeFolders(m_settings);
+    connect(&m_files, &ListFiles::notice, this, &Dialog::showMessage);
+    connect(&m_session, &Session::notice, this, &Dialog::showMessage);
+    connect(&m_session, &Session::linkFailed, this,
+            [this](LinkMode mode, const QString &name, const QString &reason) {
+                if (mode == LinkMode::Uart) {
+                    m_timer1.start(refreshAfterEventMs);
+                    showMessage(whyLost(name, reason));
+                }
+            });
 }
 
-/// Its file goes, so the list is in none.
-void Dialog::takeRecovered(const QString &path)
-{
-    m_list.setNew();
-    m_list.setModified();
-    m_recovery.takeOver(path);
-    m_status.withdrawOffer();
-}
-
-void Dialog::offerLeftBehind()
-{
-    const QString path = m_recovery.leftBehind();
-    if (!path.isEmpty()) {
-        m_status.offer(tr("A command list was not saved when the program ended."), tr("Load it..."),
-                       [this, path] { m_files.loadCommandsAt(path); });
-    }
-}
-
-void Dialog::setUpTimers()
+void Dialog::setUpTimer()
 {
     connect(&m_timer1, &QTimer::timeout, this, &Dialog::Timer1_Out_Event);
     m_timer1.start(firstRefreshMs);
 }
 
-void Dialog::connectLinks()
-{
-    SerialLink &serial = m_links.serial();
-    HidLink &hid = m_links.hid();
-    connect(&serial, &Link::arrived, &m_receiver, &Receiver::take);
-    connect(&serial, &Link::lost, this, [this, &serial](const QString &reason) {
-        const QString port = serial.openPortName();
-        endLink(serial);
-        m_timer1.start(refreshAfterEventMs);
-        showMessage(whyLost(port, reason));
-    });
-    connect(&hid, &Link::arrived, &m_receiver, &Receiver::take);
-    connect(&hid, &HidLink::dropped, &m_records, [this](qint64 bytes) {
-        m_records.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
-    });
-    connect(&hid, &Link::lost, this, &Dialog::Close_HidDevice_From_thread);
-    connect(&m_receiver, &Receiver::frameReceived, this,
-            [this](const QByteArray &frame, ArrivalTime time) {
-                m_records.appendReceived(frame, m_format.withCrc(), time);
-            });
-    connect(&m_receiver, &Receiver::noticeReceived, this, &Dialog::logNotice);
-    connect(&m_receivedHeader, &ReceivedHeader::unreadable, this,
-            [this] { showMessage(badHeaderMessage); });
-}
-
 void Dialog::watchDevices()
 {
-    connect(&m_devices, &DeviceWatch::portGone, this, [this] { endLink(m_links.serial()); });
-    connect(&m_devices, &DeviceWatch::hidGone, this, [this] { endLink(m_links.hid()); });
-    connect(&m_devices, &DeviceWatch::listsOutdated, this,
+    DeviceWatch &devices = m_session.devices();
+    connect(&devices, &DeviceWatch::listsOutdated, this,
             [this] { m_timer1.start(refreshAfterEventMs); });
-    if (!m_devices.start([this] { return quintptr(winId()); })) {
+    if (!devices.start([this] { return quintptr(winId()); })) {
         QTimer::singleShot(0, this, [this] {
             showMessage(QStringLiteral("The hardware monitoring registration failed, and the "
                                        "hardware could not be identified!"));
@@ -280,34 +204,18 @@ void Dialog::watchDevices()
     }
 }
 
-void Dialog::connectSending()
-{
-    connect(&m_sender, &Sender::message, this, &Dialog::showMessage);
-    connect(&m_sender, &Sender::sent, this, [this](const QByteArray &frame, ArrivalTime time) {
-        m_records.appendSent(frame, m_format.withCrc(), time);
-    });
-    connect(&m_loop, &LoopControl::notice, this, &Dialog::showMessage);
-    connect(&m_loop, &LoopControl::started, this,
-            [this] { m_loopPanel.showRunning(m_links.mode()); });
-    connect(&m_loop, &LoopControl::stopped, &m_loopPanel, &LoopPanel::showStopped);
-    connect(&m_loop, &LoopControl::foundNothing, &m_loopPanel, &LoopPanel::showNothingToSend);
-    m_format.setStartBytes(m_settings.noAppendHeader == 0);
-    m_format.setLength(m_settings.noAppendLength == 0);
-    m_log.setHold([this] { return m_loop.isFrameNear(); });
-}
-
 void Dialog::on_tabWidget_currentChanged(int index)
 {
     m_status.tell({});
     if (index == int(LinkMode::Uart) || index == int(LinkMode::Hid)) {
-        chooseLink(static_cast<LinkMode>(index));
+        m_session.use(static_cast<LinkMode>(index));
     }
 }
 
 void Dialog::on_pushButton_OpenCom_clicked()
 {
-    if (m_links.serial().isOpen()) {
-        m_links.serial().close();
+    if (m_session.links().serial().isOpen()) {
+        m_session.links().serial().close();
     } else {
         openSerialPort();
     }
@@ -325,13 +233,13 @@ void Dialog::on_comboBox_Baudrate_activated(int index)
 
 void Dialog::serial_receiveData()
 {
-    m_links.serial().receive();
+    m_session.links().serial().receive();
 }
 
 void Dialog::on_pushButton_ConnectHID_clicked()
 {
-    if (m_links.hid().isOpen()) {
-        m_links.hid().close();
+    if (m_session.links().hid().isOpen()) {
+        m_session.links().hid().close();
     } else if (!m_hidPanel.open()) {
         showOpenFail(QStringLiteral("HID"));
     }
@@ -339,24 +247,24 @@ void Dialog::on_pushButton_ConnectHID_clicked()
 
 void Dialog::hid_receiveData(HidPacket packet)
 {
-    m_links.hid().receive(packet);
+    m_session.links().hid().receive(packet);
 }
 
 void Dialog::Close_HidDevice_From_thread()
 {
-    endLink(m_links.hid());
+    m_session.endLink(LinkMode::Hid);
 }
 
 void Dialog::SendOne()
 {
     takeCrcFlag();
-    m_sender.sendOne(m_commands.currentFrameText());
+    m_session.sender().sendOne(m_commands.currentFrameText());
 }
 
 void Dialog::on_pushButton_SendAll_clicked()
 {
     takeCrcFlag();
-    m_sender.sendAll(m_commands.checkedRows());
+    m_session.sender().sendAll(m_commands.checkedRows());
 }
 
 void Dialog::on_pushButton_SendAll_2_clicked()
@@ -366,12 +274,12 @@ void Dialog::on_pushButton_SendAll_2_clicked()
 
 void Dialog::on_pushButton_Start_Loop_clicked()
 {
-    if (m_loop.isRunning()) {
-        m_loop.stop();
+    if (m_session.loop().isRunning()) {
+        m_session.loop().stop();
         return;
     }
     takeCrcFlag();
-    m_loop.start(m_commands.checkedRows(), m_loopPanel.timing());
+    m_session.loop().start(m_commands.checkedRows(), m_loopPanel.timing());
 }
 
 void Dialog::Timer1_Out_Event()
@@ -383,12 +291,12 @@ void Dialog::Timer1_Out_Event()
 
 void Dialog::Timer2_Out_Event()
 {
-    m_loop.runPass();
+    m_session.loop().runPass();
 }
 
 void Dialog::on_pushButton_ClearMessage_clicked()
 {
-    m_records.clear();
+    m_session.log().clear();
 }
 
 void Dialog::on_pushButton_SaveMessage_clicked()
@@ -398,13 +306,12 @@ void Dialog::on_pushButton_SaveMessage_clicked()
 
 void Dialog::on_pushButton_LoadCommand_clicked()
 {
-    m_files.loadCommands();
+    m_files.load();
 }
 
 void Dialog::on_pushButton_SaveCommand_clicked()
 {
-    m_commands.takeInEdit();
-    m_files.saveCommands();
+    m_files.save();
 }
 
 void Dialog::on_pushButton_ClearCommand_clicked()
@@ -470,18 +377,12 @@ void Dialog::doMouseTrackTip(const QModelIndex &index)
     }
 }
 
-void Dialog::chooseLink(LinkMode mode)
-{
-    m_links.choose(mode);
-    m_sender.setLink(&m_links.chosen());
-}
-
 /// The CRC box of the tab that is used counts for what is sent and logged from now on.
 void Dialog::takeCrcFlag()
 {
-    const QCheckBox *box =
-        m_links.mode() == LinkMode::Uart ? m_form->checkBox_CRC_EN : m_form->checkBox_CRC_EN_2;
-    m_format.setCrc(box->isChecked());
+    const QCheckBox *box = m_session.links().mode() == LinkMode::Uart ? m_form->checkBox_CRC_EN
+                                                                      : m_form->checkBox_CRC_EN_2;
+    m_session.format().setCrc(box->isChecked());
 }
 
 void Dialog::showMessage(const QString &text)
@@ -494,18 +395,4 @@ void Dialog::openSerialPort()
     if (!m_serialPanel.open()) {
         showOpenFail(QStringLiteral("UART"));
     }
-}
-
-void Dialog::endLink(Link &link)
-{
-    m_loop.stop();
-    link.close();
-}
-
-void Dialog::logNotice(const QByteArray &bytes, ArrivalTime time)
-{
-    if (m_links.mode() == LinkMode::Hid && isAllZero(bytes)) {
-        return;
-    }
-    m_records.appendStray(bytes, time);
 }

@@ -1,28 +1,20 @@
 #pragma once
 
 #include "commandtable.h"
-#include "devicewatch.h"
-#include "fileactions.h"
-#include "frameformat.h"
 #include "headerfield.h"
 #include "headlines.h"
 #include "hidpanel.h"
-#include "linkpair.h"
 #include "linkstatus.h"
+#include "listfiles.h"
 #include "liststate.h"
-#include "loopcontrol.h"
 #include "looppanel.h"
 #include "messagecopy.h"
 #include "messagelog.h"
-#include "receivedheader.h"
-#include "receiver.h"
-#include "recordlog.h"
-#include "recovery.h"
 #include "rowactions.h"
 #include "roweditor.h"
 #include "rowmenus.h"
-#include "sender.h"
 #include "serialpanel.h"
+#include "session.h"
 #include "settings.h"
 #include "statusline.h"
 #include "tablekeys.h"
@@ -103,22 +95,14 @@ private:
     void setUpWindow();
     void setUpCommands();
     void setUpTips();
-    FileActionHooks fileHooks();
-    void takeRecovered(const QString &path);
-    void offerLeftBehind();
-    void saveSettings();
-    void setUpTimers();
-    void connectLinks();
-    void connectSending();
+    void setUpSession();
+    void setUpTimer();
     void watchDevices();
+    void saveSettings();
 
-    void chooseLink(LinkMode mode);
     void takeCrcFlag();
-    void showMessage(const QString &text);
-
     void openSerialPort();
-    void endLink(Link &link);
-    void logNotice(const QByteArray &bytes, ArrivalTime time);
+    void showMessage(const QString &text);
 
     std::unique_ptr<Ui::Dialog> m_form;
     WindowMemory m_memory;
@@ -128,29 +112,20 @@ private:
     ListState m_list;
     Headlines m_headlines;
     StatusLine m_status;
-
-    FrameFormat m_format;
-    ReceivedHeader m_receivedHeader;
+    Session m_session;
     HeaderField m_headerField;
-    LinkPair m_links;
     SerialPanel m_serialPanel;
     HidPanel m_hidPanel;
+    LoopPanel m_loopPanel;
+    LinkStatus m_linkStatus;
     CommandTable m_commands;
     RowMenus m_menus;
     RowActions m_rowActions;
     TableKeys m_tableKeys;
     RowEditor m_rowEditor;
-    RecordLog m_records;
     MessageLog m_log;
     MessageCopy m_messageCopy;
-    DeviceWatch m_devices;
-    LinkStatus m_linkStatus;
-    FileActions m_files;
-    Recovery m_recovery;
+    ListFiles m_files;
     bool m_isEnding = false;
-    Receiver m_receiver;
-    Sender m_sender;
-    LoopControl m_loop;
-    LoopPanel m_loopPanel;
     QTimer m_timer1;
 };

@@ -1,8 +1,7 @@
 #include "headerfield.h"
 
 #include "checkedlineedit.h"
-#include "frameformat.h"
-#include "receivedheader.h"
+#include "session.h"
 
 static QString headerFault(const QString &text)
 {
@@ -13,16 +12,11 @@ static QString headerFault(const QString &text)
         "No start bytes: write two, as in 0x5A,0xA5. Until then frames begin with A5 5A.");
 }
 
-HeaderField::HeaderField(CheckedLineEdit &field, FrameFormat &format, ReceivedHeader &received,
-                         QObject *parent)
+HeaderField::HeaderField(CheckedLineEdit &field, Session &session, QObject *parent)
     : QObject(parent)
 {
-    const auto handOn = [&format, &received](const QString &text) {
-        format.setHeaderText(text);
-        received.setText(text);
-    };
     field.setCheck(headerFault);
-    handOn(field.text());
-    connect(&field, &QLineEdit::textChanged, this, handOn);
-    connect(&field, &QLineEdit::textEdited, &received, &ReceivedHeader::noteTyping);
+    session.setHeaderText(field.text());
+    connect(&field, &QLineEdit::textChanged, &session, &Session::setHeaderText);
+    connect(&field, &QLineEdit::textEdited, &session.receivedHeader(), &ReceivedHeader::noteTyping);
 }

@@ -3,8 +3,7 @@
 #include <QObject>
 
 class CheckedLineEdit;
-class FrameFormat;
-class ReceivedHeader;
+class Session;
 
 /// The field of the serial tab whose text gives the start bytes of both links' frames, in both
 /// directions. The HID tab's own field is never read.
@@ -13,7 +12,6 @@ class HeaderField : public QObject
     Q_OBJECT
 
 public:
-    /// Hands the field's text on, now and whenever it changes. All must outlive this.
-    HeaderField(CheckedLineEdit &field, FrameFormat &format, ReceivedHeader &received,
-                QObject *parent = nullptr);
+    /// Hands the field's text on, now and whenever it changes. Both must outlive this.
+    HeaderField(CheckedLineEdit &field, Session &session, QObject *parent = nullptr);
 };

@@ -1,50 +1,47 @@
 #include "linkstatus.h"
 
-#include "devicewatch.h"
-#include "hidlink.h"
 #include "hidpanel.h"
 #include "linktexts.h"
-#include "seriallink.h"
 #include "serialpanel.h"
+#include "session.h"
 #include "statusline.h"
 
-namespace {
-
-QString describe(const HidLink &link)
+static QString describe(const HidLink &link)
 {
     return describeLink({link.openPath(), link.ids(), link.packetSize(), link.reportId()});
 }
 
-} // namespace
-
-LinkStatus::LinkStatus(StatusLine &status, const DeviceWatch &devices, QObject *parent)
+LinkStatus::LinkStatus(StatusLine &status, Session &session, QObject *parent)
     : QObject(parent)
     , m_status(status)
-    , m_devices(devices)
-{}
-
-void LinkStatus::follow(const SerialPanel &panel, const SerialLink &link)
 {
-    connect(&link, &Link::openChanged, this, [this, &link](bool isOpen) {
-        m_status.showLink(isOpen ? describeLink(link.settings()) : QString());
-    });
-    connect(&panel, &SerialPanel::failed, &m_status, &StatusLine::tell);
-    connect(&link, &SerialLink::lost, this, [this, &link](const QString &reason) {
-        m_status.tell(whyLost(link.openPortName(), reason));
-    });
-    connect(&m_devices, &DeviceWatch::portGone, this, [this, &link] {
-        m_status.tell(whyLost(link.openPortName(), tr("the device is gone")));
+    followOpen(session);
+    connect(&session, &Session::linkFailed, this,
+            [this](LinkMode, const QString &name, const QString &reason) {
+                m_status.tell(whyLost(name, reason));
+            });
+    connect(&session, &Session::deviceGone, this, [this](LinkMode, const QString &name) {
+        m_status.tell(whyLost(name, tr("the device is gone")));
     });
 }
 
-void LinkStatus::follow(const HidPanel &panel, const HidLink &link)
+void LinkStatus::follow(const SerialPanel &panel)
 {
-    connect(&link, &Link::openChanged, this,
-            [this, &link](bool isOpen) { m_status.showLink(isOpen ? describe(link) : QString()); });
+    connect(&panel, &SerialPanel::failed, &m_status, &StatusLine::tell);
+}
+
+void LinkStatus::follow(const HidPanel &panel)
+{
     connect(&panel, &HidPanel::failed, &m_status, &StatusLine::tell);
-    connect(&link, &HidLink::lost, this, [this, &link](const QString &reason) {
-        m_status.tell(whyLost(link.openPath(), reason));
+}
+
+void LinkStatus::followOpen(Session &session)
+{
+    const SerialLink &serial = session.links().serial();
+    connect(&serial, &Link::openChanged, this, [this, &serial](bool isOpen) {
+        m_status.showLink(isOpen ? describeLink(serial.settings()) : QString());
     });
-    connect(&m_devices, &DeviceWatch::hidGone, this,
-            [this, &link] { m_status.tell(whyLost(link.openPath(), tr("the device is gone"))); });
+    const HidLink &hid = session.links().hid();
+    connect(&hid, &Link::openChanged, this,
+            [this, &hid](bool isOpen) { m_status.showLink(isOpen ? describe(hid) : QString()); });
 }

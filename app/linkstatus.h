@@ -1,12 +1,12 @@
 #pragma once
 
+#include "linkmode.h"
+
 #include <QObject>
 
-class DeviceWatch;
-class HidLink;
 class HidPanel;
-class SerialLink;
 class SerialPanel;
+class Session;
 class StatusLine;
 
 /// Keeps the status line up to date about the links: what is open, why it didn't open, and that it
@@ -16,15 +16,15 @@ class LinkStatus : public QObject
     Q_OBJECT
 
 public:
-    /// Both must outlive this.
-    LinkStatus(StatusLine &status, const DeviceWatch &devices, QObject *parent = nullptr);
+    /// All must outlive this.
+    LinkStatus(StatusLine &status, Session &session, QObject *parent = nullptr);
 
-    /// Follows a tab and its link. To be called before anybody closes a link that was lost, since a
-    /// closed one has no name.
-    void follow(const SerialPanel &panel, const SerialLink &link);
-    void follow(const HidPanel &panel, const HidLink &link);
+    /// Tells why a tab's link didn't open.
+    void follow(const SerialPanel &panel);
+    void follow(const HidPanel &panel);
 
 private:
+    void followOpen(Session &session);
+
     StatusLine &m_status;
-    const DeviceWatch &m_devices;
 };

@@ -1,6 +1,7 @@
 #include "looppanel.h"
 
 #include "countvalidator.h"
+#include "session.h"
 #include "styles.h"
 #include "ui_dialog.h"
 
@@ -23,6 +24,15 @@ LoopPanel::LoopPanel(Ui::Dialog &form, QObject *parent)
 {
     prepareTimingFields();
     showIdleButton();
+}
+
+void LoopPanel::follow(Session &session)
+{
+    const LoopControl &loop = session.loop();
+    connect(&loop, &LoopControl::started, this,
+            [this, &session] { showRunning(session.links().mode()); });
+    connect(&loop, &LoopControl::stopped, this, &LoopPanel::showStopped);
+    connect(&loop, &LoopControl::foundNothing, this, &LoopPanel::showNothingToSend);
 }
 
 void LoopPanel::showRunning(LinkMode mode)

@@ -10,6 +10,7 @@ namespace Ui {
 class Dialog;
 }
 class QWidget;
+class Session;
 
 /// What the window looks like while the auto-send loop runs: which widgets rest, and the loop
 /// button.
@@ -20,6 +21,9 @@ class LoopPanel : public QObject
 public:
     /// Makes the timing fields take milliseconds. The form must outlive the panel.
     explicit LoopPanel(Ui::Dialog &form, QObject *parent = nullptr);
+
+    /// Shows what the session's loop does.
+    void follow(Session &session);
 
     /// Disables what must not change under a running loop over the link, and shows it as running.
     void showRunning(LinkMode mode);

@@ -17,6 +17,7 @@ LoopControl::LoopControl(Sender &sender, QObject *parent)
     , m_clock(makeSystemClock())
     , m_loop(sender, *m_clock, this)
 {
+    connect(&m_loop, &SendLoop::passDue, this, &LoopControl::passDue);
     connect(&m_loop, &SendLoop::passDue, &m_loop, &SendLoop::runPass);
     connect(&m_loop, &SendLoop::foundNothing, this, [this] {
         emit foundNothing();

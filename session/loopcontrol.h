@@ -37,6 +37,9 @@ signals:
     /// A loop begins; emitted before its first frame.
     void started();
 
+    /// A pass is about to begin, the first one or the next. Who stops the loop now prevents it.
+    void passDue();
+
     /// The loop was stopped.
     void stopped();
 

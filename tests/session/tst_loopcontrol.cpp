@@ -12,6 +12,7 @@ class TestLoopControl : public QObject
 
 private slots:
     void passesRunByThemselves();
+    void aStopBeforeAPassPreventsIt();
     void aStopIsToldOnce();
     void theLinkMustBeOpen();
     void somethingMustBeChecked();
@@ -63,6 +64,20 @@ void TestLoopControl::passesRunByThemselves()
     QVERIFY(bench.loop.isRunning());
     QTRY_VERIFY(bench.link.blocks.size() >= 6);
     QCOMPARE(bench.said, QStringList{"started"});
+}
+
+void TestLoopControl::aStopBeforeAPassPreventsIt()
+{
+    Bench bench;
+    int passes = 0;
+    connect(&bench.loop, &LoopControl::passDue, &bench.loop, [&bench, &passes] {
+        if (++passes == 3) {
+            bench.loop.stop();
+        }
+    });
+    bench.loop.start(rows(2, "0310"), {1, 0});
+    QTRY_VERIFY(!bench.loop.isRunning());
+    QCOMPARE(bench.link.blocks.size(), 4);
 }
 
 void TestLoopControl::aStopIsToldOnce()

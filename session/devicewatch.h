@@ -1,6 +1,7 @@
 #pragma once
 
 #include "devicemonitor.h"
+#include "linkmode.h"
 
 #include <QObject>
 
@@ -8,15 +9,16 @@ class HidLink;
 class RecordLog;
 class SerialLink;
 
-/// Writes devices that come and go into the message log, and tells when one in use has gone.
+/// Records devices that come and go, and tells when one in use has gone.
 class DeviceWatch : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Links and log must outlive the watch.
+    /// The folder's links are watched like ports; an empty name stands for none. Links and log must
+    /// outlive the watch.
     DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, RecordLog &log,
-                QObject *parent = nullptr);
+                const QString &portsFolder, QObject *parent = nullptr);
 
     /// Begins to watch the system's devices and the folder of port links. Returns false when the
     /// system doesn't let us watch its devices. Where announcements come as window messages, they
@@ -27,11 +29,8 @@ public:
     bool takeMessage(void *message) { return m_monitor.takeMessage(message); }
 
 signals:
-    /// The open serial port's device has gone; emitted before its row is logged.
-    void portGone();
-
-    /// The open HID device has gone; emitted before its row is logged.
-    void hidGone();
+    /// The device behind that open link has gone; emitted before this is recorded.
+    void gone(LinkMode mode);
 
     /// The lists of ports and devices are out of date.
     void listsOutdated();

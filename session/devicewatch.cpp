@@ -1,6 +1,5 @@
 #include "devicewatch.h"
 
-#include "datafolder.h"
 #include "devicenames.h"
 #include "hextext.h"
 #include "hidlink.h"
@@ -23,12 +22,12 @@ QString shownName(const WatchedDevice &device)
 } // namespace
 
 DeviceWatch::DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, RecordLog &log,
-                         QObject *parent)
+                         const QString &portsFolder, QObject *parent)
     : QObject(parent)
     , m_serialLink(serialLink)
     , m_hidLink(hidLink)
     , m_log(log)
-    , m_monitor(portsFolder(), this)
+    , m_monitor(portsFolder, this)
 {
     connect(&m_monitor, &DeviceMonitor::arrived, this, &DeviceWatch::noteArrival);
     connect(&m_monitor, &DeviceMonitor::removed, this, &DeviceWatch::noteRemoval);
@@ -44,9 +43,9 @@ void DeviceWatch::noteArrival(const WatchedDevice &device)
 void DeviceWatch::noteRemoval(const WatchedDevice &device)
 {
     if (isOpenPort(device)) {
-        emit portGone();
+        emit gone(LinkMode::Uart);
     } else if (isOpenHidDevice(device)) {
-        emit hidGone();
+        emit gone(LinkMode::Hid);
     }
     m_log.appendEvent(linkName(device.kind), QStringLiteral("Remove ") + shownName(device));
     emit listsOutdated();

@@ -1,0 +1,23 @@
+#include "windowform.h"
+
+#include "lightlook.h"
+#include "scrollablewindow.h"
+#include "styles.h"
+#include "ui_dialog.h"
+
+/// The images live in a static library, so nothing but this brings them in.
+static void initImages()
+{
+    Q_INIT_RESOURCE(tarnwick);
+}
+
+std::unique_ptr<Ui::Dialog> fillWindow(QDialog &window)
+{
+    initImages();
+    new LightLook(window);
+    auto form = std::make_unique<Ui::Dialog>();
+    form->setupUi(&window);
+    makeScrollable(window);
+    window.setStyleSheet(windowStyle());
+    return form;
+}

@@ -1,0 +1,101 @@
+#include "session.h"
+
+#include "allzero.h"
+#include "headernotice.h"
+
+Session::Session(const QString &deviceIdFile, const QString &portsFolder, QObject *parent)
+    : QObject(parent)
+    , m_log(this)
+    , m_links(FrameReassembler::capacity - FrameReassembler::longestFrame, deviceIdFile, this)
+    , m_devices(m_links.serial(), m_links.hid(), m_log, portsFolder, this)
+    , m_receiver([this] { return m_receivedHeader.startBytes(); }, this)
+    , m_sender(m_format, this)
+    , m_loop(m_sender, this)
+{
+    connectLinks();
+    connectRecords();
+    connectNotices();
+    use(m_links.mode());
+}
+
+void Session::use(LinkMode mode)
+{
+    m_links.choose(mode);
+    m_sender.setLink(&m_links.chosen());
+}
+
+void Session::setHeaderText(const QString &text)
+{
+    m_format.setHeaderText(text);
+    m_receivedHeader.setText(text);
+}
+
+void Session::endLink(LinkMode mode)
+{
+    m_loop.stop();
+    link(mode).close();
+}
+
+void Session::end()
+{
+    m_loop.stop();
+    m_links.close();
+}
+
+void Session::connectLinks()
+{
+    for (const LinkMode mode : {LinkMode::Uart, LinkMode::Hid}) {
+        connect(&link(mode), &Link::arrived, &m_receiver, &Receiver::take);
+        connect(&link(mode), &Link::lost, this, [this, mode](const QString &reason) {
+            const QString name = linkName(mode);
+            endLink(mode);
+            emit linkFailed(mode, name, reason);
+        });
+    }
+    connect(&m_devices, &DeviceWatch::gone, this, [this](LinkMode mode) {
+        const QString name = linkName(mode);
+        endLink(mode);
+        emit deviceGone(mode, name);
+    });
+}
+
+void Session::connectRecords()
+{
+    connect(&m_sender, &Sender::sent, this, [this](const QByteArray &frame, ArrivalTime time) {
+        m_log.appendSent(frame, m_format.withCrc(), time);
+    });
+    connect(&m_receiver, &Receiver::frameReceived, this,
+            [this](const QByteArray &frame, ArrivalTime time) {
+                m_log.appendReceived(frame, m_format.withCrc(), time);
+            });
+    connect(&m_receiver, &Receiver::noticeReceived, this, &Session::recordStray);
+    connect(&m_links.hid(), &HidLink::dropped, this, [this](qint64 bytes) {
+        m_log.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
+    });
+}
+
+void Session::connectNotices()
+{
+    connect(&m_sender, &Sender::message, this, &Session::notice);
+    connect(&m_loop, &LoopControl::notice, this, &Session::notice);
+    connect(&m_receivedHeader, &ReceivedHeader::unreadable, this,
+            [this] { emit notice(badHeaderMessage); });
+}
+
+Link &Session::link(LinkMode mode)
+{
+    return mode == LinkMode::Uart ? static_cast<Link &>(m_links.serial()) : m_links.hid();
+}
+
+QString Session::linkName(LinkMode mode) const
+{
+    return mode == LinkMode::Uart ? m_links.serial().openPortName() : m_links.hid().openPath();
+}
+
+/// A HID device fills its last report with zeros; those are no news.
+void Session::recordStray(const QByteArray &bytes, ArrivalTime time)
+{
+    if (m_links.mode() != LinkMode::Hid || !isAllZero(bytes)) {
+        m_log.appendStray(bytes, time);
+    }
+}
