@@ -147,10 +147,12 @@ void TestHidLink::opening()
 void TestHidLink::openingFails()
 {
     HidLink link(m_file);
+    const QSignalSpy openChanged(&link, &Link::openChanged);
     QVERIFY(!link.open(QString(), 0));
     QVERIFY(!link.open("/dev/hidraw-gone", 0));
     QVERIFY(!link.open("/dev/null", 0));
     QVERIFY(!link.isOpen());
+    QCOMPARE(openChanged.count(), 0);
     QCOMPARE(m_fake.count(Function::Read), 0);
 }
 

@@ -144,7 +144,9 @@ void TestSerialLink::openFails()
     SerialSettings settings;
     settings.portName = baudRate == 0 ? port.path() : name;
     settings.baudRate = baudRate;
+    const QSignalSpy openChanged(&link, &Link::openChanged);
     QVERIFY(!link.open(settings));
+    QCOMPARE(openChanged.count(), 0);
     QVERIFY(!link.isOpen());
     QCOMPARE(link.openPortName(), QString());
 }
