@@ -21,6 +21,7 @@ private slots:
     void timesAreThoseOfReading();
     void nothingIsHandedUpBesideAHandler();
     void aHandlerMayCloseTheLink();
+    void aHandlerMayOpenTheLinkAnew();
     void lossIsToldOnce();
     void whoHearsOfALossMayClose();
     void lossOfAClosedLinkIsNotTold();
@@ -161,15 +162,14 @@ void TestLinkConformance::timesDoNotGoBack()
     const auto trial = this->trial();
     const Heard heard(trial->link());
     QVERIFY(trial->open());
-    ArrivalTime last = ArrivalTime::now();
     for (int i = 0; i < chunks; ++i) {
+        const ArrivalTime before = ArrivalTime::now();
         trial->send(QByteArray(1, char('a' + i)));
         QTRY_COMPARE(heard.bytes.size(), i + 1);
         const ArrivalTime time = heard.times.constLast();
         const ArrivalTime now = ArrivalTime::now();
-        QVERIFY(last.monotonicNs <= time.monotonicNs && time.monotonicNs <= now.monotonicNs);
-        QVERIFY(last.utcUs <= time.utcUs && time.utcUs <= now.utcUs);
-        last = time;
+        QVERIFY(before.monotonicNs <= time.monotonicNs && time.monotonicNs <= now.monotonicNs);
+        QVERIFY(before.utcUs <= time.utcUs && time.utcUs <= now.utcUs);
     }
     QCOMPARE(heard.bytes, QByteArray("abcdefghijklmnopqrst"));
 }
@@ -228,6 +228,25 @@ void TestLinkConformance::aHandlerMayCloseTheLink()
     QTRY_VERIFY(heard.bytes.endsWith('?'));
     QCOMPARE(heard.bytes, QByteArray("!?"));
     QCOMPARE(states, QStringList({"open", "closed", "open"}));
+}
+
+void TestLinkConformance::aHandlerMayOpenTheLinkAnew()
+{
+    const auto trial = this->trial();
+    Heard heard(trial->link());
+    QVERIFY(trial->open());
+    ArrivalTime before;
+    heard.whileBusy = [&] {
+        trial->send("unheard");
+        trial->waitUntilRead();
+        QVERIFY(trial->open());
+        before = ArrivalTime::now();
+        trial->send("?");
+    };
+    trial->send("!");
+    QTRY_VERIFY(heard.bytes.endsWith('?'));
+    QCOMPARE(heard.bytes, QByteArray("!?"));
+    QVERIFY(before.monotonicNs <= heard.times.constLast().monotonicNs);
 }
 
 void TestLinkConformance::lossIsToldOnce()

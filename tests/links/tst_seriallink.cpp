@@ -272,15 +272,17 @@ void TestSerialLink::piecesAreHandedUpTogether()
     SerialLink link(longestRead);
     QVERIFY(link.open(at(port)));
     QSignalSpy arrived(&link, &SerialLink::arrived);
-    bool more = false;
+    qint64 firstReadBy = 0;
     connect(portOf(link), &QSerialPort::readyRead, this, [&] {
-        if (!std::exchange(more, true)) {
+        if (firstReadBy == 0) {
+            firstReadBy = ArrivalTime::now().monotonicNs;
             port.send("second");
         }
     });
     port.send("first ");
     QVERIFY(arrived.wait());
     QCOMPARE(arrived.at(0).at(0).toByteArray(), QByteArray("first second"));
+    QVERIFY(arrived.at(0).at(1).value<ArrivalTime>().monotonicNs <= firstReadBy);
 }
 
 void TestSerialLink::lookingForMoreIsAlwaysAllowed()
