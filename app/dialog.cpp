@@ -16,8 +16,6 @@
 
 namespace {
 
-constexpr int firstRefreshMs = 1000;
-constexpr int refreshAfterEventMs = 500;
 constexpr int commandStretch = 10;
 constexpr int messageStretch = 8;
 constexpr int tipColumn = LogColumn::Data;
@@ -38,6 +36,7 @@ Dialog::Dialog(QWidget *parent)
     , m_headerField(*m_form->lineEdit_SBytes, m_session, this)
     , m_serialPanel(*m_form, m_session.links().serial(), this)
     , m_hidPanel(*m_form, m_session.links().hid(), this)
+    , m_deviceLists(m_serialPanel, m_hidPanel, this)
     , m_loopPanel(*m_form, this)
     , m_linkStatus(m_status, m_session, this)
     , m_commands(*m_form->tableWidget_Register, this, this)
@@ -51,12 +50,10 @@ Dialog::Dialog(QWidget *parent)
 {
     setUpWindow();
     m_headlines.follow(m_log);
-    m_linkStatus.follow(m_serialPanel);
-    m_linkStatus.follow(m_hidPanel);
     setUpSession();
+    setUpLinks();
     setUpCommands();
     setUpTips();
-    setUpTimer();
     watchDevices();
     m_form->tabWidget->setCurrentIndex(m_settings.linkMode);
     m_files.offerLeftBehind();
@@ -108,7 +105,7 @@ void Dialog::saveSettings()
 void Dialog::wheelEvent(QWheelEvent * /*event*/)
 {
     const QPoint position = mapFromGlobal(QCursor::pos());
-    // The table's geometry is relative to its parent; comparing the two as they are is meant so.
+    // The table's geometry is relative to its parent; the two are compared as they are.
     if (m_form->tableWidget_Register->geometry().contains(position)) {
         m_rowActions.appendRowAtEnd();
     }
@@ -179,23 +176,26 @@ void Dialog::setUpSession()
     connect(&m_session, &Session::linkFailed, this,
             [this](LinkMode mode, const QString &name, const QString &reason) {
                 if (mode == LinkMode::Uart) {
-                    m_timer1.start(refreshAfterEventMs);
+                    m_deviceLists.refreshSoon();
                     showMessage(whyLost(name, reason));
                 }
             });
 }
 
-void Dialog::setUpTimer()
+void Dialog::setUpLinks()
 {
-    connect(&m_timer1, &QTimer::timeout, this, &Dialog::Timer1_Out_Event);
-    m_timer1.start(firstRefreshMs);
+    m_linkStatus.follow(m_serialPanel);
+    m_linkStatus.follow(m_hidPanel);
+    connect(&m_serialPanel, &SerialPanel::failed, this,
+            [] { showOpenFail(QStringLiteral("UART")); });
+    connect(&m_hidPanel, &HidPanel::failed, this, [] { showOpenFail(QStringLiteral("HID")); });
+    connect(&m_deviceLists, &DeviceLists::due, this, &Dialog::Timer1_Out_Event);
 }
 
 void Dialog::watchDevices()
 {
     DeviceWatch &devices = m_session.devices();
-    connect(&devices, &DeviceWatch::listsOutdated, this,
-            [this] { m_timer1.start(refreshAfterEventMs); });
+    connect(&devices, &DeviceWatch::listsOutdated, &m_deviceLists, &DeviceLists::refreshSoon);
     if (!devices.start([this] { return quintptr(winId()); })) {
         QTimer::singleShot(0, this, [this] {
             showMessage(QStringLiteral("The hardware monitoring registration failed, and the "
@@ -214,16 +214,12 @@ void Dialog::on_tabWidget_currentChanged(int index)
 
 void Dialog::on_pushButton_OpenCom_clicked()
 {
-    if (m_session.links().serial().isOpen()) {
-        m_session.links().serial().close();
-    } else {
-        openSerialPort();
-    }
+    m_serialPanel.toggle();
 }
 
 void Dialog::on_comboBox_Comm_activated(int /*index*/)
 {
-    openSerialPort();
+    m_serialPanel.open();
 }
 
 void Dialog::on_comboBox_Baudrate_activated(int index)
@@ -238,11 +234,7 @@ void Dialog::serial_receiveData()
 
 void Dialog::on_pushButton_ConnectHID_clicked()
 {
-    if (m_session.links().hid().isOpen()) {
-        m_session.links().hid().close();
-    } else if (!m_hidPanel.open()) {
-        showOpenFail(QStringLiteral("HID"));
-    }
+    m_hidPanel.toggle();
 }
 
 void Dialog::hid_receiveData(HidPacket packet)
@@ -284,9 +276,7 @@ void Dialog::on_pushButton_Start_Loop_clicked()
 
 void Dialog::Timer1_Out_Event()
 {
-    m_timer1.stop();
-    m_serialPanel.refreshPorts(portsFolder());
-    m_hidPanel.refreshDevices();
+    m_deviceLists.refresh();
 }
 
 void Dialog::Timer2_Out_Event()
@@ -388,11 +378,4 @@ void Dialog::takeCrcFlag()
 void Dialog::showMessage(const QString &text)
 {
     QMessageBox::information(this, tr("Message"), text, QMessageBox::Ok);
-}
-
-void Dialog::openSerialPort()
-{
-    if (!m_serialPanel.open()) {
-        showOpenFail(QStringLiteral("UART"));
-    }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commandtable.h"
+#include "devicelists.h"
 #include "headerfield.h"
 #include "headlines.h"
 #include "hidpanel.h"
@@ -22,7 +23,6 @@
 #include "windowmemory.h"
 
 #include <QDialog>
-#include <QTimer>
 
 #include <memory>
 
@@ -96,12 +96,11 @@ private:
     void setUpCommands();
     void setUpTips();
     void setUpSession();
-    void setUpTimer();
+    void setUpLinks();
     void watchDevices();
     void saveSettings();
 
     void takeCrcFlag();
-    void openSerialPort();
     void showMessage(const QString &text);
 
     std::unique_ptr<Ui::Dialog> m_form;
@@ -116,6 +115,7 @@ private:
     HeaderField m_headerField;
     SerialPanel m_serialPanel;
     HidPanel m_hidPanel;
+    DeviceLists m_deviceLists;
     LoopPanel m_loopPanel;
     LinkStatus m_linkStatus;
     CommandTable m_commands;
@@ -127,5 +127,4 @@ private:
     MessageCopy m_messageCopy;
     ListFiles m_files;
     bool m_isEnding = false;
-    QTimer m_timer1;
 };

@@ -56,16 +56,23 @@ void HidPanel::refreshDevices()
     adjustOpenList(box);
 }
 
-bool HidPanel::open()
+void HidPanel::open()
 {
     const auto reportId =
         static_cast<quint8>(m_form.lineEdit_RpID->text().toUInt(nullptr, hexBase));
     const QString path = m_form.comboBox_Hid_Device->currentText();
     if (!m_link.open(path, reportId)) {
         emit failed(whyHidFailed(path, m_link.idsOf(path), m_link.failure()));
-        return false;
     }
-    return true;
+}
+
+void HidPanel::toggle()
+{
+    if (m_link.isOpen()) {
+        m_link.close();
+    } else {
+        open();
+    }
 }
 
 void HidPanel::showOpen(bool open)

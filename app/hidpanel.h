@@ -19,8 +19,11 @@ public:
     /// Lists the attached devices anew; the one that was chosen stays so if it is still there.
     void refreshDevices();
 
-    /// Opens the chosen device, closing an open one first. Returns whether that succeeded.
-    bool open();
+    /// Opens the chosen device, closing an open one first.
+    void open();
+
+    /// Closes the open device; opens the chosen one where none is open.
+    void toggle();
 
 signals:
     /// The device did not open, for this reason.

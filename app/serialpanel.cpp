@@ -39,15 +39,22 @@ void SerialPanel::refreshPorts(const QString &linksFolder)
     adjustOpenList(box);
 }
 
-bool SerialPanel::open()
+void SerialPanel::open()
 {
     const SerialSettings settings = chosenSettings();
     m_chosenPortName = settings.portName;
     if (!m_link.open(settings)) {
         emit failed(whyPortFailed(settings.portName, m_link.failure()));
-        return false;
     }
-    return true;
+}
+
+void SerialPanel::toggle()
+{
+    if (m_link.isOpen()) {
+        m_link.close();
+    } else {
+        open();
+    }
 }
 
 void SerialPanel::prepareBaudRate(int index)

@@ -20,8 +20,11 @@ public:
     /// Lists the ports anew and selects the chosen one again, without opening any.
     void refreshPorts(const QString &linksFolder);
 
-    /// Opens the selected port, closing an open one first. Returns whether that succeeded.
-    bool open();
+    /// Opens the selected port, closing an open one first.
+    void open();
+
+    /// Closes the open port; opens the selected one where none is open.
+    void toggle();
 
     /// Makes the baud rate box ready for the rate that was picked: "custom" is typed by hand.
     void prepareBaudRate(int index);
