@@ -180,7 +180,7 @@ void TestFileReader::hugeFileIsRefusedUnread()
     const QTemporaryDir dir;
     const QString path = writeFile(dir, {});
     QVERIFY(QFile::resize(path, qint64(1) << 40));
-    QCOMPARE(readFile(path, 8 * 1024 * 1024).outcome, Outcome::TooLarge);
+    QCOMPARE(readFile(path, qint64(8) << 20).outcome, Outcome::TooLarge);
 }
 
 void TestFileReader::fileWithoutEnd()
