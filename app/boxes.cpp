@@ -1,6 +1,6 @@
-#include "boxes.h"
+#include "app/boxes.h"
 
-#include "styles.h"
+#include "app/styles.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>

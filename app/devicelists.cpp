@@ -1,8 +1,8 @@
-#include "devicelists.h"
+#include "app/devicelists.h"
 
-#include "datafolder.h"
-#include "hidpanel.h"
-#include "serialpanel.h"
+#include "app/datafolder.h"
+#include "app/hidpanel.h"
+#include "app/serialpanel.h"
 
 namespace {
 

@@ -1,15 +1,15 @@
-#include "dialog.h"
+#include "app/dialog.h"
 
-#include "boxes.h"
-#include "celltips.h"
-#include "commandcolumns.h"
-#include "datafolder.h"
-#include "linktexts.h"
-#include "logcolumns.h"
+#include "app/boxes.h"
+#include "app/datafolder.h"
+#include "app/linktexts.h"
+#include "app/windowform.h"
+#include "app/windowkeys.h"
+#include "commands/commandcolumns.h"
+#include "log/logcolumns.h"
 #include "ui_dialog.h"
 #include "version.h"
-#include "windowform.h"
-#include "windowkeys.h"
+#include "widgets/celltips.h"
 
 #include <QCloseEvent>
 #include <QMessageBox>

@@ -1,13 +1,13 @@
-#include "fileactions.h"
+#include "app/fileactions.h"
 
-#include "commandfile.h"
-#include "examplesfolder.h"
-#include "filereader.h"
-#include "filesaver.h"
-#include "lastfolders.h"
-#include "localtext.h"
-#include "recoverytext.h"
-#include "saveloss.h"
+#include "files/commandfile.h"
+#include "files/examplesfolder.h"
+#include "files/filesaver.h"
+#include "files/lastfolders.h"
+#include "files/localtext.h"
+#include "files/recoverytext.h"
+#include "files/saveloss.h"
+#include "system/filereader.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "commandrow.h"
-#include "messagefile.h"
+#include "commands/commandrow.h"
+#include "files/messagefile.h"
 
 #include <QCoreApplication>
 #include <QVector>

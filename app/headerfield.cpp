@@ -1,7 +1,7 @@
-#include "headerfield.h"
+#include "app/headerfield.h"
 
-#include "checkedlineedit.h"
-#include "session.h"
+#include "session/session.h"
+#include "widgets/checkedlineedit.h"
 
 static QString headerFault(const QString &text)
 {

@@ -1,8 +1,8 @@
-#include "headlines.h"
+#include "app/headlines.h"
 
-#include "liststate.h"
-#include "messagelog.h"
-#include "recordlog.h"
+#include "app/liststate.h"
+#include "log/messagelog.h"
+#include "log/recordlog.h"
 #include "ui_dialog.h"
 
 #include <QDir>

@@ -1,10 +1,10 @@
-#include "hidpanel.h"
+#include "app/hidpanel.h"
 
-#include "datafolder.h"
-#include "hidlink.h"
-#include "linktexts.h"
-#include "openlist.h"
-#include "styles.h"
+#include "app/datafolder.h"
+#include "app/linktexts.h"
+#include "app/openlist.h"
+#include "app/styles.h"
+#include "links/hid/hidlink.h"
 #include "ui_dialog.h"
 
 #include <QDir>

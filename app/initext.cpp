@@ -1,4 +1,4 @@
-#include "initext.h"
+#include "app/initext.h"
 
 #include <QTextCodec>
 

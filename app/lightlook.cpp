@@ -1,4 +1,4 @@
-#include "lightlook.h"
+#include "app/lightlook.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -1,10 +1,10 @@
-#include "linkstatus.h"
+#include "app/linkstatus.h"
 
-#include "hidpanel.h"
-#include "linktexts.h"
-#include "serialpanel.h"
-#include "session.h"
-#include "statusline.h"
+#include "app/hidpanel.h"
+#include "app/linktexts.h"
+#include "app/serialpanel.h"
+#include "app/statusline.h"
+#include "session/session.h"
 
 static QString describe(const HidLink &link)
 {

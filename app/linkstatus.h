@@ -1,6 +1,6 @@
 #pragma once
 
-#include "linkmode.h"
+#include "links/linkmode.h"
 
 #include <QObject>
 

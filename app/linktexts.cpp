@@ -1,7 +1,7 @@
-#include "linktexts.h"
+#include "app/linktexts.h"
 
-#include "hextext.h"
-#include "seriallink.h"
+#include "frames/hextext.h"
+#include "links/serial/seriallink.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "deviceids.h"
-#include "openfailure.h"
+#include "links/hid/deviceids.h"
+#include "links/openfailure.h"
 
 #include <QString>
 

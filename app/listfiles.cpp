@@ -1,12 +1,12 @@
-#include "listfiles.h"
+#include "app/listfiles.h"
 
-#include "commandtable.h"
-#include "datafolder.h"
-#include "liststate.h"
-#include "logtexts.h"
-#include "recordlog.h"
-#include "settings.h"
-#include "statusline.h"
+#include "app/datafolder.h"
+#include "app/liststate.h"
+#include "app/settings.h"
+#include "app/statusline.h"
+#include "commands/commandtable.h"
+#include "log/logtexts.h"
+#include "log/recordlog.h"
 
 ListFiles::ListFiles(QWidget &window, CommandTable &commands, ListState &list, const RecordLog &log,
                      StatusLine &status)

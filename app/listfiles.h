@@ -1,7 +1,7 @@
 #pragma once
 
-#include "fileactions.h"
-#include "recovery.h"
+#include "app/fileactions.h"
+#include "app/recovery.h"
 
 #include <QObject>
 

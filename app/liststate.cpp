@@ -1,4 +1,4 @@
-#include "liststate.h"
+#include "app/liststate.h"
 
 #include <QFileInfo>
 

@@ -1,9 +1,9 @@
-#include "looppanel.h"
+#include "app/looppanel.h"
 
-#include "countvalidator.h"
-#include "session.h"
-#include "styles.h"
+#include "app/styles.h"
+#include "session/session.h"
 #include "ui_dialog.h"
+#include "widgets/countvalidator.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "linkmode.h"
-#include "sendloop.h"
+#include "frames/sendloop.h"
+#include "links/linkmode.h"
 
 #include <QList>
 #include <QObject>

@@ -1,5 +1,5 @@
-#include "dialog.h"
-#include "endsignals.h"
+#include "app/dialog.h"
+#include "system/endsignals.h"
 
 #include <QApplication>
 

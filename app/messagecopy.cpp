@@ -1,9 +1,9 @@
-#include "messagecopy.h"
+#include "app/messagecopy.h"
 
-#include "logtexts.h"
-#include "messagefile.h"
-#include "messagelog.h"
-#include "recordlog.h"
+#include "files/messagefile.h"
+#include "log/logtexts.h"
+#include "log/messagelog.h"
+#include "log/recordlog.h"
 
 #include <QApplication>
 #include <QClipboard>

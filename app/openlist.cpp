@@ -1,4 +1,4 @@
-#include "openlist.h"
+#include "app/openlist.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

@@ -1,8 +1,8 @@
-#include "recovery.h"
+#include "app/recovery.h"
 
-#include "liststate.h"
-#include "recoverytext.h"
-#include "regularfile.h"
+#include "app/liststate.h"
+#include "files/recoverytext.h"
+#include "system/regularfile.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "commandrow.h"
-#include "lockfile.h"
+#include "commands/commandrow.h"
+#include "system/lockfile.h"
 
 #include <QObject>
 #include <QString>

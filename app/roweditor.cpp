@@ -1,8 +1,8 @@
-#include "roweditor.h"
+#include "app/roweditor.h"
 
-#include "commandcolumns.h"
-#include "commandtable.h"
-#include "placement.h"
+#include "commands/commandcolumns.h"
+#include "commands/commandtable.h"
+#include "widgets/placement.h"
 
 #include <QTableWidget>
 

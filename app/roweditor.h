@@ -1,6 +1,6 @@
 #pragma once
 
-#include "directeditor.h"
+#include "codec/directeditor.h"
 
 #include <QObject>
 

@@ -1,4 +1,4 @@
-#include "scrollablewindow.h"
+#include "app/scrollablewindow.h"
 
 #include <QAbstractItemView>
 #include <QScrollArea>

@@ -1,13 +1,13 @@
-#include "serialpanel.h"
+#include "app/serialpanel.h"
 
-#include "countvalidator.h"
-#include "linktexts.h"
-#include "openlist.h"
-#include "portlist.h"
-#include "seriallink.h"
-#include "serialoptions.h"
-#include "styles.h"
+#include "app/linktexts.h"
+#include "app/openlist.h"
+#include "app/styles.h"
+#include "links/serial/portlist.h"
+#include "links/serial/seriallink.h"
+#include "links/serial/serialoptions.h"
 #include "ui_dialog.h"
+#include "widgets/countvalidator.h"
 
 #include <QSignalBlocker>
 

@@ -1,8 +1,8 @@
-#include "settings.h"
+#include "app/settings.h"
 
-#include "filereader.h"
-#include "filesaver.h"
-#include "settingstext.h"
+#include "app/settingstext.h"
+#include "files/filesaver.h"
+#include "system/filereader.h"
 
 #include <QFileInfo>
 

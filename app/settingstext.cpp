@@ -1,6 +1,6 @@
-#include "settingstext.h"
+#include "app/settingstext.h"
 
-#include "initext.h"
+#include "app/initext.h"
 
 #include <QVector>
 

@@ -1,6 +1,6 @@
-#include "statusline.h"
+#include "app/statusline.h"
 
-#include "wrappinglabel.h"
+#include "widgets/wrappinglabel.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
-#include "windowform.h"
+#include "app/windowform.h"
 
-#include "lightlook.h"
-#include "scrollablewindow.h"
-#include "styles.h"
+#include "app/lightlook.h"
+#include "app/scrollablewindow.h"
+#include "app/styles.h"
 #include "ui_dialog.h"
 
 /// The images live in a static library, so nothing but this brings them in.

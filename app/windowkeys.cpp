@@ -1,7 +1,7 @@
-#include "windowkeys.h"
+#include "app/windowkeys.h"
 
-#include "leavingkeys.h"
 #include "ui_dialog.h"
+#include "widgets/leavingkeys.h"
 
 #include <QShortcut>
 

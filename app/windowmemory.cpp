@@ -1,7 +1,7 @@
-#include "windowmemory.h"
+#include "app/windowmemory.h"
 
-#include "filereader.h"
-#include "filesaver.h"
+#include "files/filesaver.h"
+#include "system/filereader.h"
 
 #include <QEvent>
 #include <QGuiApplication>

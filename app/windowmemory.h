@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windowplace.h"
+#include "app/windowplace.h"
 
 #include <QObject>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "windowplace.h"
+#include "app/windowplace.h"
 
 #include <QHash>
 #include <QMargins>

@@ -1,5 +1,5 @@
-#include "numbercodec.h"
-#include "stringcodec.h"
+#include "codec/numbercodec.h"
+#include "codec/stringcodec.h"
 
 #include <QElapsedTimer>
 #include <QStringList>

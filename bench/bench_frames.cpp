@@ -1,9 +1,9 @@
-#include "crc16.h"
-#include "fieldcutter.h"
 #include "figures.h"
-#include "framebuilder.h"
-#include "framereassembler.h"
-#include "hextext.h"
+#include "frames/crc16.h"
+#include "frames/framebuilder.h"
+#include "frames/hextext.h"
+#include "log/fieldcutter.h"
+#include "log/framereassembler.h"
 
 // The pure halves: bytes and frames a second.
 

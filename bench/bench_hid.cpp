@@ -1,7 +1,7 @@
 #include "fakehid.h"
 #include "figures.h"
 #include "hidwindow.h"
-#include "receiver.h"
+#include "log/receiver.h"
 
 #include <QApplication>
 #include <QDir>

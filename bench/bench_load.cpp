@@ -1,8 +1,8 @@
-#include "commandfile.h"
-#include "commandtable.h"
-#include "commandview.h"
+#include "app/styles.h"
+#include "commands/commandtable.h"
+#include "commands/commandview.h"
 #include "figures.h"
-#include "styles.h"
+#include "files/commandfile.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,7 +1,7 @@
 #include "figures.h"
-#include "logtable.h"
-#include "messagelog.h"
-#include "recordlog.h"
+#include "log/logtable.h"
+#include "log/messagelog.h"
+#include "log/recordlog.h"
 
 #include <QApplication>
 #include <QTableWidget>

@@ -1,6 +1,6 @@
 #include "childprocess.h"
 #include "figures.h"
-#include "receiver.h"
+#include "log/receiver.h"
 #include "windowdriver.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "childprocess.h"
 #include "figures.h"
-#include "receiver.h"
-#include "tableitems.h"
+#include "log/receiver.h"
+#include "widgets/tableitems.h"
 #include "windowdriver.h"
 
 #include <QApplication>

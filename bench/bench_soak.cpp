@@ -1,7 +1,7 @@
 #include "childprocess.h"
 #include "figures.h"
-#include "receiver.h"
-#include "sender.h"
+#include "frames/sender.h"
+#include "log/receiver.h"
 #include "windowdriver.h"
 
 #include <QApplication>

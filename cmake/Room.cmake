@@ -1,5 +1,6 @@
-# A room is a static library with an include folder of its own. Its half that knows no widget is a target
-# of the room's name, the widgets around it are a second one, ROOM_widgets, of the same folder.
+# A room is a static library. Who includes a header of it names the room: "frames/link.h". Its half that
+# knows no widget is a target of the room's name, the widgets around it are a second one, ROOM_widgets, of
+# the same folder.
 #
 #   add_room(NAME SOURCES files... [DEPENDS targets...] [PRIVATE targets...])
 #
@@ -9,7 +10,7 @@
 function(add_room name)
   cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;DEPENDS;PRIVATE")
   add_library(${name} STATIC ${room_SOURCES})
-  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${room_DEPENDS} PRIVATE ${room_PRIVATE} tarnwick_options)
   set_target_properties(${name} PROPERTIES TARNWICK_HALF pure AUTOUIC OFF)
   foreach(target ${room_DEPENDS} ${room_PRIVATE})

@@ -1,7 +1,7 @@
-#include "directeditor.h"
+#include "codec/directeditor.h"
 
-#include "hextext.h"
-#include "numbercodec.h"
+#include "codec/numbercodec.h"
+#include "frames/hextext.h"
 #include "ui_directeditor.h"
 
 #include <QScreen>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "stringcodec.h"
+#include "codec/stringcodec.h"
 
 #include <QDialog>
 #include <QString>

@@ -1,6 +1,6 @@
-#include "hexgroups.h"
+#include "codec/hexgroups.h"
 
-#include "hextext.h"
+#include "frames/hextext.h"
 
 namespace {
 

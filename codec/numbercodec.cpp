@@ -1,7 +1,7 @@
-#include "numbercodec.h"
+#include "codec/numbercodec.h"
 
-#include "hexgroups.h"
-#include "hextext.h"
+#include "codec/hexgroups.h"
+#include "frames/hextext.h"
 
 namespace {
 

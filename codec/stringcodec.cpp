@@ -1,7 +1,7 @@
-#include "stringcodec.h"
+#include "codec/stringcodec.h"
 
-#include "hexgroups.h"
-#include "hextext.h"
+#include "codec/hexgroups.h"
+#include "frames/hextext.h"
 
 #include <QStringList>
 #include <QTextCodec>

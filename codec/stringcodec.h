@@ -1,6 +1,6 @@
 #pragma once
 
-#include "valuekind.h"
+#include "codec/valuekind.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
-#include "valuecodec.h"
+#include "codec/valuecodec.h"
 
-#include "hextext.h"
-#include "numbercodec.h"
-#include "stringcodec.h"
+#include "codec/numbercodec.h"
+#include "codec/stringcodec.h"
+#include "frames/hextext.h"
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "valuekind.h"
+#include "codec/valuekind.h"
 
 namespace {
 

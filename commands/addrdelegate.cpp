@@ -1,6 +1,6 @@
-#include "addrdelegate.h"
+#include "commands/addrdelegate.h"
 
-#include "hextext.h"
+#include "frames/hextext.h"
 
 #include <QLineEdit>
 #include <QRegExpValidator>

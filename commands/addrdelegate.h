@@ -1,6 +1,6 @@
 #pragma once
 
-#include "celleditordelegate.h"
+#include "commands/celleditordelegate.h"
 
 /// Edits an address: at most four hex digits.
 class AddrDelegate : public CellEditorDelegate

@@ -1,4 +1,4 @@
-#include "celleditordelegate.h"
+#include "commands/celleditordelegate.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "textdelegate.h"
+#include "commands/textdelegate.h"
 
 /// What the two cell editors have in common: every event on the editor commits its text, Return and
 /// Enter end the editing, and losing the focus does.

@@ -1,9 +1,9 @@
-#include "cellfault.h"
+#include "commands/cellfault.h"
 
-#include "commandcolumns.h"
-#include "delaymarker.h"
-#include "hexfault.h"
-#include "hextext.h"
+#include "commands/commandcolumns.h"
+#include "frames/delaymarker.h"
+#include "frames/hexfault.h"
+#include "frames/hextext.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "cellsinview.h"
+#include "commands/cellsinview.h"
 
 #include <QScrollBar>
 #include <QTableWidget>

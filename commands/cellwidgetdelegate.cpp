@@ -1,4 +1,4 @@
-#include "cellwidgetdelegate.h"
+#include "commands/cellwidgetdelegate.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
-#include "cellwidgets.h"
+#include "commands/cellwidgets.h"
 
-#include "cellsinview.h"
+#include "commands/cellsinview.h"
 
 #include <QCheckBox>
 #include <QEvent>

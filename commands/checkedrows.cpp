@@ -1,4 +1,4 @@
-#include "checkedrows.h"
+#include "commands/checkedrows.h"
 
 QVector<CheckedRow> checkedRows(const QVector<CommandRow> &rows)
 {

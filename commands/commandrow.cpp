@@ -1,9 +1,9 @@
-#include "commandrow.h"
+#include "commands/commandrow.h"
 
-#include "crc16.h"
-#include "delaymarker.h"
-#include "framebuilder.h"
-#include "hextext.h"
+#include "frames/crc16.h"
+#include "frames/delaymarker.h"
+#include "frames/framebuilder.h"
+#include "frames/hextext.h"
 
 namespace {
 

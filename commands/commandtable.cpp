@@ -1,14 +1,14 @@
-#include "commandtable.h"
+#include "commands/commandtable.h"
 
-#include "addrdelegate.h"
-#include "cellwidgetdelegate.h"
-#include "cellwidgets.h"
-#include "commandcolumns.h"
-#include "datadelegate.h"
-#include "hextext.h"
-#include "oneline.h"
-#include "tableitems.h"
-#include "tablelook.h"
+#include "commands/addrdelegate.h"
+#include "commands/cellwidgetdelegate.h"
+#include "commands/cellwidgets.h"
+#include "commands/commandcolumns.h"
+#include "commands/datadelegate.h"
+#include "commands/oneline.h"
+#include "frames/hextext.h"
+#include "widgets/tableitems.h"
+#include "widgets/tablelook.h"
 
 #include <QLineEdit>
 #include <QPushButton>

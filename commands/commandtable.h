@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cellsinview.h"
-#include "commandrow.h"
-#include "sendplan.h"
+#include "commands/cellsinview.h"
+#include "commands/commandrow.h"
+#include "frames/sendplan.h"
 
 #include <QIcon>
 #include <QObject>

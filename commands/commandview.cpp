@@ -1,4 +1,4 @@
-#include "commandview.h"
+#include "commands/commandview.h"
 
 #include <QHeaderView>
 #include <QScrollBar>

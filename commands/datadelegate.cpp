@@ -1,4 +1,4 @@
-#include "datadelegate.h"
+#include "commands/datadelegate.h"
 
 #include <QLineEdit>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "celleditordelegate.h"
+#include "commands/celleditordelegate.h"
 
 /// Edits the data of a command in the table's usual line edit.
 class DataDelegate : public CellEditorDelegate

@@ -1,6 +1,6 @@
-#include "onelineedit.h"
+#include "commands/onelineedit.h"
 
-#include "oneline.h"
+#include "commands/oneline.h"
 
 #include <QLineEdit>
 

@@ -1,8 +1,8 @@
-#include "rowactions.h"
+#include "commands/rowactions.h"
 
-#include "commandcolumns.h"
-#include "commandtable.h"
-#include "delaymarker.h"
+#include "commands/commandcolumns.h"
+#include "commands/commandtable.h"
+#include "frames/delaymarker.h"
 
 #include <QContextMenuEvent>
 #include <QScrollBar>

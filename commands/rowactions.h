@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rowmenus.h"
+#include "commands/rowmenus.h"
 
 #include <QObject>
 #include <QPersistentModelIndex>

@@ -1,4 +1,4 @@
-#include "rowmenus.h"
+#include "commands/rowmenus.h"
 
 #include <QCoreApplication>
 #include <QWidget>

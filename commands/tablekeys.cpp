@@ -1,9 +1,9 @@
-#include "tablekeys.h"
+#include "commands/tablekeys.h"
 
-#include "cellwidgets.h"
-#include "commandcolumns.h"
-#include "commandtable.h"
-#include "rowactions.h"
+#include "commands/cellwidgets.h"
+#include "commands/commandcolumns.h"
+#include "commands/commandtable.h"
+#include "commands/rowactions.h"
 
 #include <QAbstractButton>
 #include <QApplication>

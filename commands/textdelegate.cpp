@@ -1,8 +1,8 @@
-#include "textdelegate.h"
+#include "commands/textdelegate.h"
 
-#include "cellfault.h"
-#include "commandcolumns.h"
-#include "onelineedit.h"
+#include "commands/cellfault.h"
+#include "commands/commandcolumns.h"
+#include "commands/onelineedit.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plaincelldelegate.h"
+#include "widgets/plaincelldelegate.h"
 
 class QLineEdit;
 

@@ -1,4 +1,4 @@
-#include "unitlineedit.h"
+#include "commands/unitlineedit.h"
 
 #include <QFontMetrics>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
-#include "commandfile.h"
+#include "files/commandfile.h"
 
-#include "commandline.h"
-#include "recoverytext.h"
+#include "files/commandline.h"
+#include "files/recoverytext.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "commandrow.h"
-#include "linedecoder.h"
+#include "commands/commandrow.h"
+#include "files/linedecoder.h"
 
 #include <QByteArray>
 #include <QVector>

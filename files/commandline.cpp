@@ -1,7 +1,7 @@
-#include "commandline.h"
+#include "files/commandline.h"
 
-#include "delaymarker.h"
-#include "hextext.h"
+#include "frames/delaymarker.h"
+#include "frames/hextext.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
-#include "filesaver.h"
+#include "files/filesaver.h"
 
-#include "overwriting.h"
-#include "regularfile.h"
+#include "files/overwriting.h"
+#include "system/regularfile.h"
 
 #include <QFileInfo>
 #include <QSaveFile>

@@ -1,8 +1,8 @@
-#include "lastfolders.h"
+#include "files/lastfolders.h"
 
-#include "filereader.h"
-#include "filesaver.h"
-#include "linedecoder.h"
+#include "files/filesaver.h"
+#include "files/linedecoder.h"
+#include "system/filereader.h"
 
 #include <QDir>
 #include <QList>

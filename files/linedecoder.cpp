@@ -1,4 +1,4 @@
-#include "linedecoder.h"
+#include "files/linedecoder.h"
 
 #include <QTextCodec>
 

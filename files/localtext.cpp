@@ -1,4 +1,4 @@
-#include "localtext.h"
+#include "files/localtext.h"
 
 #include <QBuffer>
 #include <QTextStream>

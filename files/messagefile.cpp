@@ -1,4 +1,4 @@
-#include "messagefile.h"
+#include "files/messagefile.h"
 
 QString messageLine(const MessageRow &row)
 {

@@ -1,7 +1,7 @@
-#include "overwriting.h"
+#include "files/overwriting.h"
 
-#include "filereader.h"
-#include "regularfile.h"
+#include "system/filereader.h"
+#include "system/regularfile.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
-#include "recoverytext.h"
+#include "files/recoverytext.h"
 
-#include "commandline.h"
+#include "files/commandline.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

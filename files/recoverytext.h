@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commandrow.h"
+#include "commands/commandrow.h"
 
 #include <QByteArray>
 #include <QVector>

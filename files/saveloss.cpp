@@ -1,8 +1,8 @@
-#include "saveloss.h"
+#include "files/saveloss.h"
 
-#include "commandfile.h"
-#include "commandline.h"
-#include "hextext.h"
+#include "files/commandfile.h"
+#include "files/commandline.h"
+#include "frames/hextext.h"
 
 #include <QStringList>
 #include <QTextCodec>

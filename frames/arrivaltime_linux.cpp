@@ -1,4 +1,4 @@
-#include "arrivaltime.h"
+#include "frames/arrivaltime.h"
 
 #include <ctime>
 

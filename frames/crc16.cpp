@@ -1,4 +1,4 @@
-#include "crc16.h"
+#include "frames/crc16.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
-#include "framebuilder.h"
+#include "frames/framebuilder.h"
 
-#include "crc16.h"
-#include "hextext.h"
+#include "frames/crc16.h"
+#include "frames/hextext.h"
 
 #include <QVarLengthArray>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "startbytes.h"
+#include "frames/startbytes.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framebuilder.h"
+#include "frames/framebuilder.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
-#include "hexfault.h"
+#include "frames/hexfault.h"
 
-#include "hextext.h"
+#include "frames/hextext.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "arrivaltime.h"
+#include "frames/arrivaltime.h"
 
 #include <QByteArray>
 #include <QObject>

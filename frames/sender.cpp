@@ -1,9 +1,9 @@
-#include "sender.h"
+#include "frames/sender.h"
 
-#include "delaymarker.h"
-#include "framesettings.h"
-#include "headernotice.h"
-#include "link.h"
+#include "frames/delaymarker.h"
+#include "frames/framesettings.h"
+#include "frames/headernotice.h"
+#include "frames/link.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "arrivaltime.h"
-#include "sendplan.h"
+#include "frames/arrivaltime.h"
+#include "frames/sendplan.h"
 
 #include <QObject>
 

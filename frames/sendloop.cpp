@@ -1,7 +1,7 @@
-#include "sendloop.h"
+#include "frames/sendloop.h"
 
-#include "alarmclock.h"
-#include "sender.h"
+#include "frames/alarmclock.h"
+#include "frames/sender.h"
 
 namespace {
 

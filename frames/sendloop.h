@@ -1,8 +1,8 @@
 #pragma once
 
-#include "deadlineplan.h"
-#include "headernotice.h"
-#include "sendplan.h"
+#include "frames/deadlineplan.h"
+#include "frames/headernotice.h"
+#include "frames/sendplan.h"
 
 #include <QObject>
 

@@ -1,6 +1,6 @@
-#include "sendplan.h"
+#include "frames/sendplan.h"
 
-#include "delaymarker.h"
+#include "frames/delaymarker.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "startbytes.h"
+#include "frames/startbytes.h"
 
-#include "hextext.h"
+#include "frames/hextext.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "systemclock.h"
+#include "frames/systemclock.h"
 
 #include <QElapsedTimer>
 #include <QWinEventNotifier>

@@ -1,4 +1,4 @@
-#include "exacttiming.h"
+#include "links/exacttiming.h"
 
 #include <windows.h>
 

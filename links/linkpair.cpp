@@ -1,4 +1,4 @@
-#include "linkpair.h"
+#include "links/linkpair.h"
 
 LinkPair::LinkPair(int longestRead, const QString &deviceIdFile, QObject *parent)
     : QObject(parent)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "hidlink.h"
-#include "linkmode.h"
-#include "seriallink.h"
+#include "links/hid/hidlink.h"
+#include "links/linkmode.h"
+#include "links/serial/seriallink.h"
 
 #include <QObject>
 

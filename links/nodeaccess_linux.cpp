@@ -1,4 +1,4 @@
-#include "nodeaccess.h"
+#include "links/nodeaccess.h"
 
 #include <QDir>
 #include <QFileInfo>

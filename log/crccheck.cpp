@@ -1,7 +1,7 @@
-#include "crccheck.h"
+#include "log/crccheck.h"
 
-#include "crc16.h"
-#include "hextext.h"
+#include "frames/crc16.h"
+#include "frames/hextext.h"
 
 QString expectedInsteadOfCrc(const FrameFields &fields)
 {

@@ -1,6 +1,6 @@
-#include "fieldcutter.h"
+#include "log/fieldcutter.h"
 
-#include "hextext.h"
+#include "frames/hextext.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
-#include "logcelldelegate.h"
+#include "log/logcelldelegate.h"
 
-#include "crccheck.h"
-#include "logcolumns.h"
+#include "log/crccheck.h"
+#include "log/logcolumns.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plaincelldelegate.h"
+#include "widgets/plaincelldelegate.h"
 
 /// Paints the cells of the message log; the CRC of a received frame that does not fit is a fault.
 class LogCellDelegate : public PlainCellDelegate

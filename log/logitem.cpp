@@ -1,4 +1,4 @@
-#include "logitem.h"
+#include "log/logitem.h"
 
 #include <QBrush>
 

@@ -1,6 +1,6 @@
-#include "logtable.h"
+#include "log/logtable.h"
 
-#include "stillscrollbar.h"
+#include "log/stillscrollbar.h"
 
 #include <QHeaderView>
 

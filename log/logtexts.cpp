@@ -1,7 +1,7 @@
-#include "logtexts.h"
+#include "log/logtexts.h"
 
-#include "fieldcutter.h"
-#include "hextext.h"
+#include "frames/hextext.h"
+#include "log/fieldcutter.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "logcolumns.h"
-#include "logrecord.h"
+#include "log/logcolumns.h"
+#include "log/logrecord.h"
 
 #include <QVector>
 

@@ -1,11 +1,11 @@
-#include "messagelog.h"
+#include "log/messagelog.h"
 
-#include "logcelldelegate.h"
-#include "logtable.h"
-#include "logtexts.h"
-#include "recordlog.h"
-#include "tableitems.h"
-#include "tablelook.h"
+#include "log/logcelldelegate.h"
+#include "log/logtable.h"
+#include "log/logtexts.h"
+#include "log/recordlog.h"
+#include "widgets/tableitems.h"
+#include "widgets/tablelook.h"
 
 #include <utility>
 

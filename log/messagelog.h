@@ -1,8 +1,8 @@
 #pragma once
 
-#include "displaypace.h"
-#include "logitem.h"
-#include "logrecord.h"
+#include "log/displaypace.h"
+#include "log/logitem.h"
+#include "log/logrecord.h"
 
 #include <QObject>
 

@@ -1,4 +1,4 @@
-#include "receiver.h"
+#include "log/receiver.h"
 
 #include <utility>
 

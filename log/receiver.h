@@ -1,7 +1,7 @@
 #pragma once
 
-#include "arrivaltime.h"
-#include "framereassembler.h"
+#include "frames/arrivaltime.h"
+#include "log/framereassembler.h"
 
 #include <QObject>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "recordlog.h"
+#include "log/recordlog.h"
 
 #include <utility>
 

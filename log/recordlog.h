@@ -1,7 +1,7 @@
 #pragma once
 
-#include "arrivaltime.h"
-#include "logrecord.h"
+#include "frames/arrivaltime.h"
+#include "log/logrecord.h"
 
 #include <QObject>
 #include <QVector>

@@ -1,4 +1,4 @@
-#include "stillscrollbar.h"
+#include "log/stillscrollbar.h"
 
 #include <QStyleOptionSlider>
 

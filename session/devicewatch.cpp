@@ -1,10 +1,10 @@
-#include "devicewatch.h"
+#include "session/devicewatch.h"
 
-#include "devicenames.h"
-#include "hextext.h"
-#include "hidlink.h"
-#include "recordlog.h"
-#include "seriallink.h"
+#include "frames/hextext.h"
+#include "links/hid/hidlink.h"
+#include "links/serial/seriallink.h"
+#include "links/watch/devicenames.h"
+#include "log/recordlog.h"
 
 namespace {
 

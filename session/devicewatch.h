@@ -1,7 +1,7 @@
 #pragma once
 
-#include "devicemonitor.h"
-#include "linkmode.h"
+#include "links/linkmode.h"
+#include "links/watch/devicemonitor.h"
 
 #include <QObject>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framesettings.h"
+#include "frames/framesettings.h"
 
 /// What frames are like: the values that a user has chosen, as the sender asks for them.
 class FrameFormat : public FrameSettings

@@ -1,8 +1,8 @@
-#include "loopcontrol.h"
+#include "session/loopcontrol.h"
 
-#include "alarmclock.h"
-#include "sender.h"
-#include "systemclock.h"
+#include "frames/alarmclock.h"
+#include "frames/sender.h"
+#include "frames/systemclock.h"
 
 namespace {
 

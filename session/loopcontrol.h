@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sendloop.h"
+#include "frames/sendloop.h"
 
 #include <QObject>
 

@@ -1,4 +1,4 @@
-#include "receivedheader.h"
+#include "session/receivedheader.h"
 
 namespace {
 

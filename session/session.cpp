@@ -1,7 +1,7 @@
-#include "session.h"
+#include "session/session.h"
 
-#include "allzero.h"
-#include "headernotice.h"
+#include "frames/headernotice.h"
+#include "log/allzero.h"
 
 Session::Session(const QString &deviceIdFile, const QString &portsFolder, QObject *parent)
     : QObject(parent)

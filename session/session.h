@@ -1,13 +1,13 @@
 #pragma once
 
-#include "devicewatch.h"
-#include "frameformat.h"
-#include "linkpair.h"
-#include "loopcontrol.h"
-#include "receivedheader.h"
-#include "receiver.h"
-#include "recordlog.h"
-#include "sender.h"
+#include "frames/sender.h"
+#include "links/linkpair.h"
+#include "log/receiver.h"
+#include "log/recordlog.h"
+#include "session/devicewatch.h"
+#include "session/frameformat.h"
+#include "session/loopcontrol.h"
+#include "session/receivedheader.h"
 
 #include <QObject>
 

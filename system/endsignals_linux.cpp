@@ -1,5 +1,5 @@
-#include "endsignals.h"
-#include "filedescriptor.h"
+#include "system/endsignals.h"
+#include "system/filedescriptor.h"
 
 #include <QSocketNotifier>
 

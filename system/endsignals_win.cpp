@@ -1,4 +1,4 @@
-#include "endsignals.h"
+#include "system/endsignals.h"
 
 EndSignals::EndSignals(int /*patienceSeconds*/, QObject *parent)
     : QObject(parent)

@@ -1,6 +1,6 @@
-#include "filereader.h"
+#include "system/filereader.h"
 
-#include "regularfile.h"
+#include "system/regularfile.h"
 
 #include <QFile>
 

@@ -1,5 +1,5 @@
-#include "filedescriptor.h"
-#include "lockfile.h"
+#include "system/filedescriptor.h"
+#include "system/lockfile.h"
 
 #include <QByteArray>
 #include <QFile>

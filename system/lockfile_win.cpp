@@ -1,4 +1,4 @@
-#include "lockfile.h"
+#include "system/lockfile.h"
 
 #include <QDir>
 

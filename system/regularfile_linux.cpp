@@ -1,5 +1,5 @@
-#include "filedescriptor.h"
-#include "regularfile.h"
+#include "system/filedescriptor.h"
+#include "system/regularfile.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "regularfile.h"
+#include "system/regularfile.h"
 
 #include <QDir>
 #include <QFile>

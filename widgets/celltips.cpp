@@ -1,7 +1,7 @@
-#include "celltips.h"
+#include "widgets/celltips.h"
 
-#include "celltiptext.h"
-#include "plaincelldelegate.h"
+#include "widgets/celltiptext.h"
+#include "widgets/plaincelldelegate.h"
 
 #include <QCursor>
 #include <QGuiApplication>

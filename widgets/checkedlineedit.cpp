@@ -1,6 +1,6 @@
-#include "checkedlineedit.h"
+#include "widgets/checkedlineedit.h"
 
-#include "faultline.h"
+#include "widgets/faultline.h"
 
 #include <QPainter>
 #include <QStyle>

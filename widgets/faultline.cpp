@@ -1,4 +1,4 @@
-#include "faultline.h"
+#include "widgets/faultline.h"
 
 #include <QPainter>
 

@@ -1,4 +1,4 @@
-#include "leavingkeys.h"
+#include "widgets/leavingkeys.h"
 
 #include <QShortcut>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "pathcombobox.h"
+#include "widgets/pathcombobox.h"
 
 #include <QStylePainter>
 

@@ -1,4 +1,4 @@
-#include "placement.h"
+#include "widgets/placement.h"
 
 #include <QAbstractItemView>
 #include <QScreen>

@@ -1,7 +1,7 @@
-#include "plaincelldelegate.h"
+#include "widgets/plaincelldelegate.h"
 
-#include "faultline.h"
-#include "selectionbar.h"
+#include "widgets/faultline.h"
+#include "widgets/selectionbar.h"
 
 #include <QPainter>
 #include <QStyle>

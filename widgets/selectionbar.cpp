@@ -1,4 +1,4 @@
-#include "selectionbar.h"
+#include "widgets/selectionbar.h"
 
 #include <QPainter>
 #include <QStyleOptionViewItem>

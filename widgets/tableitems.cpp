@@ -1,4 +1,4 @@
-#include "tableitems.h"
+#include "widgets/tableitems.h"
 
 #include <QTableWidget>
 

@@ -1,4 +1,4 @@
-#include "tablelook.h"
+#include "widgets/tablelook.h"
 
 #include <QHeaderView>
 #include <QScrollBar>

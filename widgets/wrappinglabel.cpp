@@ -1,4 +1,4 @@
-#include "wrappinglabel.h"
+#include "widgets/wrappinglabel.h"
 
 #include <QEvent>
 #include <QFocusEvent>

@@ -1,7 +1,7 @@
-#include "deviceids.h"
+#include "links/hid/deviceids.h"
 
-#include "filereader.h"
-#include "hidpacket.h"
+#include "links/hid/hidpacket.h"
+#include "system/filereader.h"
 
 #include <QFileInfo>
 #include <QSaveFile>

@@ -1,4 +1,4 @@
-#include "hiddevices.h"
+#include "links/hid/hiddevices.h"
 
 #include <QHash>
 #include <QSet>

@@ -1,8 +1,8 @@
-#include "hidlink.h"
+#include "links/hid/hidlink.h"
 
-#include "hiddevices.h"
-#include "nodeaccess.h"
-#include "reports.h"
+#include "frames/reports.h"
+#include "links/hid/hiddevices.h"
+#include "links/nodeaccess.h"
 
 #include <QCoreApplication>
 

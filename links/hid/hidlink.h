@@ -1,10 +1,10 @@
 #pragma once
 
-#include "exacttiming.h"
-#include "hidthread.h"
-#include "link.h"
-#include "openfailure.h"
-#include "reportinbox.h"
+#include "frames/link.h"
+#include "links/exacttiming.h"
+#include "links/hid/hidthread.h"
+#include "links/hid/reportinbox.h"
+#include "links/openfailure.h"
 
 #include <QHash>
 

@@ -1,4 +1,4 @@
-#include "hidnode.h"
+#include "links/hid/hidnode.h"
 
 #include <QFileInfo>
 #include <QString>

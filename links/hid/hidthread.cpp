@@ -1,6 +1,6 @@
-#include "hidthread.h"
+#include "links/hid/hidthread.h"
 
-#include "hidnode.h"
+#include "links/hid/hidnode.h"
 
 #include <QMutexLocker>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "arrivaltime.h"
-#include "deviceids.h"
-#include "hidpacket.h"
+#include "frames/arrivaltime.h"
+#include "links/hid/deviceids.h"
+#include "links/hid/hidpacket.h"
 
 #include <QMutex>
 #include <QThread>

@@ -1,4 +1,4 @@
-#include "naturalorder.h"
+#include "links/serial/naturalorder.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "portentry.h"
+#include "links/serial/portentry.h"
 
 QString portNameInData(const QByteArray &data)
 {

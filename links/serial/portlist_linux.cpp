@@ -1,6 +1,6 @@
-#include "naturalorder.h"
-#include "portlist.h"
-#include "portsfolder.h"
+#include "links/serial/naturalorder.h"
+#include "links/serial/portlist.h"
+#include "links/serial/portsfolder.h"
 
 #include <QSerialPortInfo>
 

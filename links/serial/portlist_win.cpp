@@ -1,5 +1,5 @@
-#include "portlist.h"
-#include "portregistry.h"
+#include "links/serial/portlist.h"
+#include "links/serial/portregistry.h"
 
 PortList listPorts(const QString & /*linksFolder*/)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "portlist.h"
+#include "links/serial/portlist.h"
 
 // Windows only: how portlist.h gets its answer there.
 

@@ -1,5 +1,5 @@
-#include "portentry.h"
-#include "portregistry.h"
+#include "links/serial/portentry.h"
+#include "links/serial/portregistry.h"
 
 #include <QSettings>
 

@@ -1,6 +1,6 @@
-#include "portsfolder.h"
+#include "links/serial/portsfolder.h"
 
-#include "naturalorder.h"
+#include "links/serial/naturalorder.h"
 
 #include <QDir>
 

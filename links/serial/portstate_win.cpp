@@ -1,4 +1,4 @@
-#include "portstate.h"
+#include "links/serial/portstate.h"
 
 #include <windows.h>
 

@@ -1,7 +1,7 @@
-#include "seriallink.h"
+#include "links/serial/seriallink.h"
 
-#include "nodeaccess.h"
-#include "portstate.h"
+#include "links/nodeaccess.h"
+#include "links/serial/portstate.h"
 
 #include <utility>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "arrivalwait.h"
-#include "exacttiming.h"
-#include "link.h"
-#include "openfailure.h"
+#include "frames/link.h"
+#include "links/exacttiming.h"
+#include "links/openfailure.h"
+#include "links/serial/arrivalwait.h"
 
 #include <QSerialPort>
 

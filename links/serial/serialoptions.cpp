@@ -1,4 +1,4 @@
-#include "serialoptions.h"
+#include "links/serial/serialoptions.h"
 
 namespace SerialOptions {
 

@@ -1,4 +1,4 @@
-#include "devicebroadcast.h"
+#include "links/watch/devicebroadcast.h"
 
 #include <QtEndian>
 

@@ -1,6 +1,6 @@
-#include "devicemonitor.h"
+#include "links/watch/devicemonitor.h"
 
-#include "portsfolder.h"
+#include "links/serial/portsfolder.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "systemwatch.h"
+#include "links/watch/systemwatch.h"
 
 #include <QFileSystemWatcher>
 #include <QMap>

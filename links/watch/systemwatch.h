@@ -1,6 +1,6 @@
 #pragma once
 
-#include "watcheddevice.h"
+#include "links/watch/watcheddevice.h"
 
 #include <QObject>
 

@@ -1,5 +1,5 @@
-#include "devicenames.h"
-#include "systemwatch.h"
+#include "links/watch/devicenames.h"
+#include "links/watch/systemwatch.h"
 
 #include <QMap>
 #include <QSocketNotifier>

@@ -1,5 +1,5 @@
-#include "devicebroadcast.h"
-#include "systemwatch.h"
+#include "links/watch/devicebroadcast.h"
+#include "links/watch/systemwatch.h"
 
 #include <type_traits>
 #include <windows.h>

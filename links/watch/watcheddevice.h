@@ -1,6 +1,6 @@
 #pragma once
 
-#include "deviceids.h"
+#include "links/hid/deviceids.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fileactions.h"
+#include "app/fileactions.h"
 #include "messageboxes.h"
 
 #include <QTemporaryDir>

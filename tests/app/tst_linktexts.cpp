@@ -1,5 +1,5 @@
-#include "linktexts.h"
-#include "seriallink.h"
+#include "app/linktexts.h"
+#include "links/serial/seriallink.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "liststate.h"
+#include "app/liststate.h"
 
 #include <QSignalSpy>
 #include <QtTest>

@@ -1,7 +1,7 @@
-#include "commandfile.h"
-#include "liststate.h"
-#include "recovery.h"
-#include "recoverytext.h"
+#include "app/liststate.h"
+#include "app/recovery.h"
+#include "files/commandfile.h"
+#include "files/recoverytext.h"
 #include "testfiles.h"
 
 #include <QDateTime>

@@ -1,5 +1,5 @@
-#include "statusline.h"
-#include "wrappinglabel.h"
+#include "app/statusline.h"
+#include "widgets/wrappinglabel.h"
 
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>

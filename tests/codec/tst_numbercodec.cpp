@@ -1,6 +1,6 @@
-#include "hexgroups.h"
-#include "hextext.h"
-#include "numbercodec.h"
+#include "codec/hexgroups.h"
+#include "codec/numbercodec.h"
+#include "frames/hextext.h"
 
 #include <QRandomGenerator>
 #include <QStringList>

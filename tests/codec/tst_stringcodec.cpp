@@ -1,5 +1,5 @@
-#include "hextext.h"
-#include "stringcodec.h"
+#include "codec/stringcodec.h"
+#include "frames/hextext.h"
 
 #include <QRandomGenerator>
 #include <QTextCodec>

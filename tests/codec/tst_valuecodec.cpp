@@ -1,5 +1,5 @@
-#include "hextext.h"
-#include "valuecodec.h"
+#include "codec/valuecodec.h"
+#include "frames/hextext.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>

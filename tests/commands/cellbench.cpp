@@ -1,6 +1,6 @@
 #include "cellbench.h"
 
-#include "tableitems.h"
+#include "widgets/tableitems.h"
 
 #include <QtTest>
 

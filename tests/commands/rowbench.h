@@ -1,8 +1,8 @@
 #pragma once
 
-#include "commandtable.h"
+#include "commands/commandtable.h"
+#include "commands/rowactions.h"
 #include "menuuser.h"
-#include "rowactions.h"
 #include "windowdriver.h"
 
 /// The row menus of a window whose nine commands carry their numbers, 0 to 8, as descriptions.

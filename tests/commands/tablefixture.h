@@ -1,8 +1,8 @@
 #pragma once
 
-#include "commandcolumns.h"
-#include "commandtable.h"
-#include "commandview.h"
+#include "commands/commandcolumns.h"
+#include "commands/commandtable.h"
+#include "commands/commandview.h"
 
 #include <QCheckBox>
 #include <QLayout>

@@ -1,6 +1,6 @@
 #include "cellbench.h"
-#include "commandtable.h"
-#include "tableitems.h"
+#include "commands/commandtable.h"
+#include "widgets/tableitems.h"
 
 #include <QToolTip>
 #include <QtTest>

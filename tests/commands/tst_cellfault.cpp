@@ -1,5 +1,5 @@
-#include "cellfault.h"
-#include "commandcolumns.h"
+#include "commands/cellfault.h"
+#include "commands/commandcolumns.h"
 
 #include <QtTest>
 

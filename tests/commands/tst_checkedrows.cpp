@@ -1,4 +1,4 @@
-#include "checkedrows.h"
+#include "commands/checkedrows.h"
 
 #include <QtTest>
 

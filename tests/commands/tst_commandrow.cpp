@@ -1,4 +1,4 @@
-#include "commandrow.h"
+#include "commands/commandrow.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
-#include "addrdelegate.h"
-#include "datadelegate.h"
+#include "commands/addrdelegate.h"
+#include "commands/datadelegate.h"
 
 #include <QLineEdit>
 #include <QRegExpValidator>

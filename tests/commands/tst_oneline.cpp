@@ -1,4 +1,4 @@
-#include "oneline.h"
+#include "commands/oneline.h"
 
 #include <QtTest>
 

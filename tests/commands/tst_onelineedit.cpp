@@ -1,4 +1,4 @@
-#include "onelineedit.h"
+#include "commands/onelineedit.h"
 
 #include <QLineEdit>
 #include <QtTest>

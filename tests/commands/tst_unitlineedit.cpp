@@ -1,4 +1,4 @@
-#include "unitlineedit.h"
+#include "commands/unitlineedit.h"
 
 #include <QBoxLayout>
 #include <QPushButton>

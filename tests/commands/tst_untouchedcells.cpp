@@ -1,5 +1,5 @@
 #include "cellbench.h"
-#include "commandtable.h"
+#include "commands/commandtable.h"
 
 #include <QClipboard>
 #include <QSignalSpy>

@@ -1,4 +1,4 @@
-#include "commandfile.h"
+#include "files/commandfile.h"
 #include "testfiles.h"
 
 #include <QFileInfo>

@@ -1,5 +1,5 @@
+#include "app/windowplace.h"
 #include "testfiles.h"
-#include "windowplace.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,6 +1,6 @@
-#include "commandfile.h"
-#include "hextext.h"
-#include "localtext.h"
+#include "files/commandfile.h"
+#include "files/localtext.h"
+#include "frames/hextext.h"
 
 #include <QRandomGenerator>
 #include <QTextCodec>

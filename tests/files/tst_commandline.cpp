@@ -1,5 +1,5 @@
-#include "commandline.h"
-#include "delaymarker.h"
+#include "files/commandline.h"
+#include "frames/delaymarker.h"
 
 #include <QtTest>
 

@@ -1,8 +1,8 @@
-#include "commandfile.h"
-#include "delaymarker.h"
-#include "filereader.h"
-#include "framebuilder.h"
-#include "saveloss.h"
+#include "files/commandfile.h"
+#include "files/saveloss.h"
+#include "frames/delaymarker.h"
+#include "frames/framebuilder.h"
+#include "system/filereader.h"
 
 #include <QRegularExpression>
 #include <QTextCodec>

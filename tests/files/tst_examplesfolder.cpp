@@ -1,4 +1,4 @@
-#include "examplesfolder.h"
+#include "files/examplesfolder.h"
 
 #include <QDir>
 #include <QTemporaryDir>

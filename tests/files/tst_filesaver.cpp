@@ -1,4 +1,4 @@
-#include "filesaver.h"
+#include "files/filesaver.h"
 #include "restrictions.h"
 #include "testfiles.h"
 

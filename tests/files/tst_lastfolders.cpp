@@ -1,4 +1,4 @@
-#include "lastfolders.h"
+#include "files/lastfolders.h"
 #include "testfiles.h"
 
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "overwriting.h"
+#include "files/overwriting.h"
 #include "restrictions.h"
 
 #include <QFileInfo>

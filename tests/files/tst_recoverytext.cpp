@@ -1,5 +1,5 @@
-#include "commandfile.h"
-#include "recoverytext.h"
+#include "files/commandfile.h"
+#include "files/recoverytext.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
-#include "linedecoder.h"
-#include "saveloss.h"
+#include "files/linedecoder.h"
+#include "files/saveloss.h"
 
 #include <QTextCodec>
 #include <QtTest>

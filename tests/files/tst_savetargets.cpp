@@ -1,4 +1,4 @@
-#include "filesaver.h"
+#include "files/filesaver.h"
 #include "testfiles.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framesettings.h"
+#include "frames/framesettings.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "link.h"
+#include "frames/link.h"
 
 #include <QVector>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "alarmclock.h"
+#include "frames/alarmclock.h"
 
 #include <algorithm>
 #include <optional>

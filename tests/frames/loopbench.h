@@ -2,9 +2,9 @@
 
 #include "fakeframesettings.h"
 #include "fakelink.h"
+#include "frames/sender.h"
+#include "frames/sendloop.h"
 #include "handclock.h"
-#include "sender.h"
-#include "sendloop.h"
 
 #include <QSignalSpy>
 

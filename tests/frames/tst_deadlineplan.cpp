@@ -1,4 +1,4 @@
-#include "deadlineplan.h"
+#include "frames/deadlineplan.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
-#include "crc16.h"
-#include "framebuilder.h"
-#include "hextext.h"
+#include "frames/crc16.h"
+#include "frames/framebuilder.h"
+#include "frames/hextext.h"
 
 #include <QTextCodec>
 #include <QtTest>

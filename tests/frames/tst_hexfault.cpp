@@ -1,5 +1,5 @@
-#include "framebuilder.h"
-#include "hexfault.h"
+#include "frames/framebuilder.h"
+#include "frames/hexfault.h"
 
 #include <QtTest>
 

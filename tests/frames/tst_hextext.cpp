@@ -1,4 +1,4 @@
-#include "hextext.h"
+#include "frames/hextext.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "reports.h"
+#include "frames/reports.h"
 
 #include <QtTest>
 

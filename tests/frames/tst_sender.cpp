@@ -1,8 +1,8 @@
 #include "fakeframesettings.h"
 #include "fakelink.h"
-#include "headernotice.h"
-#include "hextext.h"
-#include "sender.h"
+#include "frames/headernotice.h"
+#include "frames/hextext.h"
+#include "frames/sender.h"
 
 #include <QSignalSpy>
 #include <QtTest>

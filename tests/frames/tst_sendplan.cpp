@@ -1,6 +1,6 @@
-#include "delaymarker.h"
-#include "hextext.h"
-#include "sendplan.h"
+#include "frames/delaymarker.h"
+#include "frames/hextext.h"
+#include "frames/sendplan.h"
 
 #include <QtTest>
 

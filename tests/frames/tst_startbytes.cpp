@@ -1,4 +1,4 @@
-#include "startbytes.h"
+#include "frames/startbytes.h"
 
 #include <QtTest>
 

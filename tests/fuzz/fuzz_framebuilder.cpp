@@ -1,7 +1,7 @@
-#include "crc16.h"
-#include "framebuilder.h"
+#include "frames/crc16.h"
+#include "frames/framebuilder.h"
+#include "frames/hextext.h"
 #include "fuzzing.h"
-#include "hextext.h"
 
 namespace {
 

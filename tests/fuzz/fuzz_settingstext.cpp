@@ -1,5 +1,5 @@
+#include "app/settingstext.h"
 #include "fuzzing.h"
-#include "settingstext.h"
 
 namespace {
 

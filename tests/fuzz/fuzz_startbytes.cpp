@@ -1,5 +1,5 @@
+#include "frames/startbytes.h"
 #include "fuzzing.h"
-#include "startbytes.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "hextext.h"
-#include "numbercodec.h"
-#include "stringcodec.h"
-#include "valuecodec.h"
+#include "codec/numbercodec.h"
+#include "codec/stringcodec.h"
+#include "codec/valuecodec.h"
+#include "frames/hextext.h"
 
 #include <QStringList>
 

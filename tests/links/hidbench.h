@@ -1,7 +1,7 @@
 #pragma once
 
 #include "fakehid.h"
-#include "hidthread.h"
+#include "links/hid/hidthread.h"
 
 #include <QObject>
 #include <QVector>

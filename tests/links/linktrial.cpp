@@ -2,8 +2,8 @@
 
 #include "fakehid.h"
 #include "fakelink.h"
-#include "hidlink.h"
-#include "seriallink.h"
+#include "links/hid/hidlink.h"
+#include "links/serial/seriallink.h"
 #include "testport.h"
 
 #include <QSignalSpy>

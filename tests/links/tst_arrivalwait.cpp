@@ -1,4 +1,4 @@
-#include "arrivalwait.h"
+#include "links/serial/arrivalwait.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>

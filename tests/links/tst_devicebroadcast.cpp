@@ -1,5 +1,5 @@
 #include "broadcasts.h"
-#include "devicebroadcast.h"
+#include "links/watch/devicebroadcast.h"
 
 #include <QtTest>
 

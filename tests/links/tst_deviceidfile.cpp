@@ -1,4 +1,4 @@
-#include "deviceids.h"
+#include "links/hid/deviceids.h"
 #include "testfiles.h"
 
 #include <QFileInfo>

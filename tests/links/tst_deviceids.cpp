@@ -1,4 +1,4 @@
-#include "deviceids.h"
+#include "links/hid/deviceids.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>

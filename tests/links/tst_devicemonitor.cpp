@@ -1,6 +1,6 @@
-#include "devicemonitor.h"
-#include "hidnode.h"
-#include "portsfolder.h"
+#include "links/hid/hidnode.h"
+#include "links/serial/portsfolder.h"
+#include "links/watch/devicemonitor.h"
 #include "privatesystem.h"
 
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "devicenames.h"
+#include "links/watch/devicenames.h"
 
 #include <QtTest>
 

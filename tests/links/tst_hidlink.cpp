@@ -1,5 +1,5 @@
 #include "fakehid.h"
-#include "hidlink.h"
+#include "links/hid/hidlink.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>

@@ -1,5 +1,5 @@
 #include "fakehid.h"
-#include "hiddevices.h"
+#include "links/hid/hiddevices.h"
 
 #include <QtTest>
 

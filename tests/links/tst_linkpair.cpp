@@ -1,5 +1,5 @@
 #include "fakehid.h"
-#include "linkpair.h"
+#include "links/linkpair.h"
 #include "testport.h"
 
 #include <QTemporaryDir>

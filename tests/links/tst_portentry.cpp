@@ -1,4 +1,4 @@
-#include "portentry.h"
+#include "links/serial/portentry.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "portlist.h"
+#include "links/serial/portlist.h"
 
 #include <QDir>
 #include <QFile>

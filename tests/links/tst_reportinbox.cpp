@@ -1,4 +1,4 @@
-#include "reportinbox.h"
+#include "links/hid/reportinbox.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>

@@ -1,4 +1,4 @@
-#include "seriallink.h"
+#include "links/serial/seriallink.h"
 #include "testport.h"
 
 #include <QSignalSpy>

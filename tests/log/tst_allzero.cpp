@@ -1,4 +1,4 @@
-#include "allzero.h"
+#include "log/allzero.h"
 
 #include <QtTest>
 

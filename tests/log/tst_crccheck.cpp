@@ -1,4 +1,4 @@
-#include "crccheck.h"
+#include "log/crccheck.h"
 
 #include <QtTest>
 

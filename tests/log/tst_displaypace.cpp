@@ -1,4 +1,4 @@
-#include "displaypace.h"
+#include "log/displaypace.h"
 
 #include <QSignalSpy>
 #include <QtTest>

@@ -1,4 +1,4 @@
-#include "fieldcutter.h"
+#include "log/fieldcutter.h"
 
 #include <QtTest>
 

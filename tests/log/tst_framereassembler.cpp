@@ -1,4 +1,4 @@
-#include "framereassembler.h"
+#include "log/framereassembler.h"
 
 #include <QtTest>
 

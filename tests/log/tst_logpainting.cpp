@@ -1,6 +1,6 @@
-#include "logtable.h"
-#include "messagelog.h"
-#include "recordlog.h"
+#include "log/logtable.h"
+#include "log/messagelog.h"
+#include "log/recordlog.h"
 
 #include <QTableWidget>
 #include <QtTest>

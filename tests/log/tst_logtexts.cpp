@@ -1,4 +1,4 @@
-#include "logtexts.h"
+#include "log/logtexts.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
-#include "hextext.h"
-#include "receiver.h"
+#include "frames/hextext.h"
+#include "log/receiver.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>

@@ -1,10 +1,10 @@
 // Sends the selected rows of a command file twice, in a loop without a window, and prints what went
 // over the wire: sendfile COMMANDFILE PORT
 
-#include "checkedrows.h"
-#include "commandfile.h"
-#include "filereader.h"
-#include "session.h"
+#include "commands/checkedrows.h"
+#include "files/commandfile.h"
+#include "session/session.h"
+#include "system/filereader.h"
 
 #include <QCoreApplication>
 #include <QTextStream>

@@ -1,4 +1,4 @@
-#include "frameformat.h"
+#include "session/frameformat.h"
 
 #include <QtTest>
 

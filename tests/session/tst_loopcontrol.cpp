@@ -1,7 +1,7 @@
 #include "fakeframesettings.h"
 #include "fakelink.h"
-#include "loopcontrol.h"
-#include "sender.h"
+#include "frames/sender.h"
+#include "session/loopcontrol.h"
 
 #include <QSignalSpy>
 #include <QtTest>

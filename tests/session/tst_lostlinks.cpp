@@ -1,7 +1,7 @@
-#include "devicenames.h"
 #include "fakehid.h"
 #include "fakesystemwatch.h"
-#include "session.h"
+#include "links/watch/devicenames.h"
+#include "session/session.h"
 #include "testport.h"
 
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "receivedheader.h"
+#include "session/receivedheader.h"
 
 #include <QSignalSpy>
 #include <QtTest>

@@ -1,5 +1,5 @@
 #include "fakehid.h"
-#include "session.h"
+#include "session/session.h"
 #include "testport.h"
 
 #include <QSignalSpy>

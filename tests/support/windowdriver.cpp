@@ -1,6 +1,6 @@
 #include "windowdriver.h"
 
-#include "tableitems.h"
+#include "widgets/tableitems.h"
 
 #include <QLayout>
 #include <QtTest>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "commandcolumns.h"
-#include "dialog.h"
+#include "app/dialog.h"
+#include "commands/commandcolumns.h"
 #include "messageboxes.h"
 #include "testport.h"
 

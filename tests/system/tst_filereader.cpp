@@ -1,4 +1,4 @@
-#include "filereader.h"
+#include "system/filereader.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,5 +1,5 @@
-#include "lockfile.h"
 #include "restrictions.h"
+#include "system/lockfile.h"
 #include "testfiles.h"
 
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "devicewindow.h"
 
-#include "receiver.h"
-#include "sender.h"
-#include "tableitems.h"
+#include "frames/sender.h"
+#include "log/receiver.h"
+#include "widgets/tableitems.h"
 
 #include <QTabWidget>
 

@@ -3,11 +3,11 @@
 // Plugs itself in, prints a line, and answers frames until it is told to end, which pulls it out. A
 // report that isn't of the form that the device has is an error.
 
-#include "deviceparser.h"
-#include "endsignals.h"
-#include "framebuilder.h"
-#include "registerdevice.h"
-#include "reports.h"
+#include "frames/framebuilder.h"
+#include "frames/reports.h"
+#include "simulator/deviceparser.h"
+#include "simulator/registerdevice.h"
+#include "system/endsignals.h"
 #include "uhiddevice.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "datafolder.h"
+#include "app/datafolder.h"
 #include "devicewindow.h"
 #include "emulatedhid.h"
 

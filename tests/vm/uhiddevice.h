@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filedescriptor.h"
+#include "system/filedescriptor.h"
 
 #include <QByteArray>
 

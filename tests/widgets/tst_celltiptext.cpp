@@ -1,4 +1,4 @@
-#include "celltiptext.h"
+#include "widgets/celltiptext.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "countvalidator.h"
+#include "widgets/countvalidator.h"
 
 #include <QLineEdit>
 #include <QtTest>

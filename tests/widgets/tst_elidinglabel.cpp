@@ -1,4 +1,4 @@
-#include "elidinglabel.h"
+#include "widgets/elidinglabel.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
-#include "logitem.h"
-#include "plaincelldelegate.h"
-#include "tablelook.h"
+#include "log/logitem.h"
+#include "widgets/plaincelldelegate.h"
+#include "widgets/tablelook.h"
 
 #include <QSet>
 #include <QTableWidget>

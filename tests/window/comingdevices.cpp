@@ -1,8 +1,8 @@
 #include "comingdevices.h"
 
-#include "devicenames.h"
 #include "fakehid.h"
 #include "fakesystemwatch.h"
+#include "links/watch/devicenames.h"
 
 #include <QtTest>
 

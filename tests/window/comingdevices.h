@@ -1,7 +1,7 @@
 #pragma once
 
-#include "deviceids.h"
-#include "watcheddevice.h"
+#include "links/hid/deviceids.h"
+#include "links/watch/watcheddevice.h"
 
 #include <QByteArray>
 #include <QStringList>

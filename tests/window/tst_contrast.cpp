@@ -1,8 +1,8 @@
+#include "codec/directeditor.h"
+#include "commands/unitlineedit.h"
 #include "contrast.h"
-#include "directeditor.h"
 #include "filedialoguser.h"
 #include "menuuser.h"
-#include "unitlineedit.h"
 #include "windowdriver.h"
 
 #include <QGroupBox>

@@ -1,4 +1,4 @@
-#include "messagelog.h"
+#include "log/messagelog.h"
 #include "windowdriver.h"
 
 #include <QHelpEvent>

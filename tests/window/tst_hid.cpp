@@ -1,7 +1,7 @@
 #include "fakehid.h"
 #include "hidbench.h"
-#include "hidlink.h"
 #include "hidwindow.h"
+#include "links/hid/hidlink.h"
 
 #include <QLabel>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
-#include "commandfile.h"
 #include "filedialoguser.h"
-#include "recoverytext.h"
+#include "files/commandfile.h"
+#include "files/recoverytext.h"
 #include "testfiles.h"
 #include "windowdriver.h"
 

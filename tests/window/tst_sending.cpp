@@ -1,4 +1,4 @@
-#include "sendloop.h"
+#include "frames/sendloop.h"
 #include "windowdriver.h"
 
 #include <QElapsedTimer>

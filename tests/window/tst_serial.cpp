@@ -1,4 +1,4 @@
-#include "seriallink.h"
+#include "links/serial/seriallink.h"
 #include "serialwindow.h"
 
 #include <QIntValidator>

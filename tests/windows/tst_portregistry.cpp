@@ -1,4 +1,4 @@
-#include "portregistry.h"
+#include "links/serial/portregistry.h"
 
 #include <QtTest>
 

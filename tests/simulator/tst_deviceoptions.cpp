@@ -1,4 +1,4 @@
-#include "deviceoptions.h"
+#include "simulator/deviceoptions.h"
 
 #include <QtTest>
 

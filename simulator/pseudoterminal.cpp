@@ -1,4 +1,4 @@
-#include "pseudoterminal.h"
+#include "simulator/pseudoterminal.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
-#include "devicesession.h"
+#include "simulator/devicesession.h"
 
-#include "pseudoterminal.h"
+#include "simulator/pseudoterminal.h"
 
 #include <QtEndian>
 

@@ -1,6 +1,6 @@
-#include "deviceparser.h"
+#include "simulator/deviceparser.h"
 
-#include "crc16.h"
+#include "frames/crc16.h"
 
 namespace {
 

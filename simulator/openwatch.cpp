@@ -1,4 +1,4 @@
-#include "openwatch.h"
+#include "simulator/openwatch.h"
 
 #include <QFile>
 #include <QSocketNotifier>

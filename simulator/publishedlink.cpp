@@ -1,4 +1,4 @@
-#include "publishedlink.h"
+#include "simulator/publishedlink.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "deviceoptions.h"
-#include "deviceparser.h"
-#include "disturbance.h"
-#include "framebuilder.h"
-#include "openwatch.h"
-#include "registerdevice.h"
-#include "transmitter.h"
+#include "frames/framebuilder.h"
+#include "simulator/deviceoptions.h"
+#include "simulator/deviceparser.h"
+#include "simulator/disturbance.h"
+#include "simulator/openwatch.h"
+#include "simulator/registerdevice.h"
+#include "simulator/transmitter.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "frames/startbytes.h"
 #include "runningdevice.h"
-#include "startbytes.h"
 
 #include <QByteArray>
 #include <QVector>

@@ -1,4 +1,4 @@
-#include "registerdevice.h"
+#include "simulator/registerdevice.h"
 
 #include <QtEndian>
 

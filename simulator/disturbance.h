@@ -1,6 +1,6 @@
 #pragma once
 
-#include "deviceoptions.h"
+#include "simulator/deviceoptions.h"
 
 #include <QByteArray>
 #include <QRandomGenerator>

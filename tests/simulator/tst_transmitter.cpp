@@ -1,5 +1,5 @@
-#include "pseudoterminal.h"
-#include "transmitter.h"
+#include "simulator/pseudoterminal.h"
+#include "simulator/transmitter.h"
 
 #include <QFile>
 #include <QtTest>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lockfile.h"
+#include "system/lockfile.h"
 
 #include <QString>
 

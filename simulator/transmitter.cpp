@@ -1,6 +1,6 @@
-#include "transmitter.h"
+#include "simulator/transmitter.h"
 
-#include "pseudoterminal.h"
+#include "simulator/pseudoterminal.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "announcement.h"
+#include "simulator/announcement.h"
 
 #include <algorithm>
 #include <cerrno>

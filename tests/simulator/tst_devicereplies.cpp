@@ -1,5 +1,5 @@
-#include "deviceparser.h"
 #include "devicetalk.h"
+#include "simulator/deviceparser.h"
 
 #include <QElapsedTimer>
 #include <QtTest>

@@ -1,5 +1,5 @@
-#include "deviceparser.h"
-#include "framebuilder.h"
+#include "frames/framebuilder.h"
+#include "simulator/deviceparser.h"
 
 #include <QRandomGenerator>
 #include <QtTest>

@@ -1,4 +1,4 @@
-#include "disturbance.h"
+#include "simulator/disturbance.h"
 
 namespace {
 

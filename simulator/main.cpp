@@ -1,9 +1,9 @@
-#include "announcement.h"
-#include "deviceoptions.h"
-#include "devicesession.h"
-#include "endsignals.h"
-#include "pseudoterminal.h"
-#include "publishedlink.h"
+#include "simulator/announcement.h"
+#include "simulator/deviceoptions.h"
+#include "simulator/devicesession.h"
+#include "simulator/pseudoterminal.h"
+#include "simulator/publishedlink.h"
+#include "system/endsignals.h"
 
 #include <QCoreApplication>
 

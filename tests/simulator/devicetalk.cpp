@@ -1,7 +1,7 @@
 #include "devicetalk.h"
 
-#include "deviceparser.h"
-#include "framebuilder.h"
+#include "frames/framebuilder.h"
+#include "simulator/deviceparser.h"
 
 #include <QtEndian>
 
