@@ -1,0 +1,32 @@
+#pragma once
+
+#include "log/logrecord.h"
+#include "runner/rowresult.h"
+#include "runner/runsummary.h"
+
+#include <QByteArray>
+
+/// Tells of a run in the form of a kind of its own. Each call gives the bytes to be written next.
+class Report
+{
+public:
+    Report() = default;
+    Report(const Report &) = delete;
+    Report &operator=(const Report &) = delete;
+    virtual ~Report() = default;
+
+    virtual QByteArray opening() { return {}; }
+
+    /// The rows of that file follow.
+    virtual QByteArray file(const QString & /*name*/, int /*pass*/) { return {}; }
+
+    /// What went over the wire, and what happened to the link.
+    virtual QByteArray traffic(const LogRecord & /*record*/) { return {}; }
+
+    virtual QByteArray row(const RowResult &result) = 0;
+
+    virtual QByteArray closing(const RunSummary &summary, RunEnd end) = 0;
+};
+
+/// In words, "the link was lost"; empty for a run that is done.
+QString endText(RunEnd end);

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "runner/durations.h"
+
+/// How a run went.
+struct RunSummary
+{
+    qint64 rows = 0;
+    qint64 sent = 0;
+    qint64 replies = 0;
+    qint64 failures = 0;
+    Durations replyTimes;
+    /// How late rows went out that were due at a time of their own.
+    Durations lateness;
+    bool isRealTime = false;
+};
+
+/// Why a run ended.
+enum class RunEnd { Done, FailedFast, LinkLost, TimedOut, Interrupted, Terminated };
