@@ -37,4 +37,6 @@ install(FILES docs/man/tarnwick.1 docs/man/tarnwick-device.1
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 # The program looks for them there; documentation may be left out of an installation.
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DATADIR}/tarnwick)
+install(FILES packaging/wireshark/tarnwick.lua
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/tarnwick/wireshark)
 install(FILES debian/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})

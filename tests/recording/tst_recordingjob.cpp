@@ -1,0 +1,407 @@
+#include "recording/recordingjob.h"
+#include "recordingsamples.h"
+
+#include <QMap>
+#include <QtTest>
+
+class TestRecordingJob : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aRecordingIsWhole();
+    void whatWaitsIsWrittenAtEachPass();
+    void muchIsWrittenAtOnce();
+    void theFileIsSyncedEveryFiveSeconds();
+    void aFullFileIsFollowedByTheNext();
+    void midnightBeginsAFile();
+    void anEventOfTheNextDayBeginsAFile();
+    void aClockThatIsSetBackBeginsNoFile();
+    void theNextFileTellsTheLinkOfItsTime();
+    void nothingIsOverwritten();
+    void aFileThatCannotBeMadeEndsIt();
+    void aFailedWriteEndsIt();
+    void aFailedSyncEndsIt();
+    void aDiskThatFillsUpEndsItInGoodOrder();
+    void aFullDiskLetsNothingBegin();
+    void aDiskThatDoesNotTellIsEnough();
+    void aFileThatIsGoneEndsIt();
+    void dropsAreNotedInTheFile();
+    void nothingIsTakenAfterTheEnd();
+};
+
+namespace {
+
+constexpr qint64 usOfSecond = 1000000;
+
+/// Files in memory, with the faults of a disk.
+class MemorySink : public RecordingSink
+{
+public:
+    Created create(const QString &path) override
+    {
+        if (files.contains(path)) {
+            return Created::NameIsTaken;
+        }
+        if (refusesFiles) {
+            return Created::No;
+        }
+        files.insert(path, {});
+        names.append(path);
+        isOpen = true;
+        return Created::Yes;
+    }
+
+    bool write(const QByteArray &bytes) override
+    {
+        ++writes;
+        if (takesNothing) {
+            return false;
+        }
+        files[names.last()] += bytes;
+        return true;
+    }
+
+    bool sync() override
+    {
+        ++syncs;
+        return !failsToSync;
+    }
+
+    bool isThere() const override { return !isGone; }
+    std::optional<qint64> freeBytes() const override { return free; }
+    void close() override { isOpen = false; }
+    QString error() const override { return "no luck"; }
+
+    ReadFile read(int file) const { return readBytes(files.value(names.at(file))); }
+
+    QMap<QString, QByteArray> files;
+    QStringList names;
+    int writes = 0;
+    int syncs = 0;
+    bool isOpen = false;
+    bool refusesFiles = false;
+    bool takesNothing = false;
+    bool failsToSync = false;
+    bool isGone = false;
+    std::optional<qint64> free = 1LL << 40;
+};
+
+/// A job on such a disk, which has begun at the sample's time.
+class JobBench
+{
+public:
+    explicit JobBench(const QString &path = "/a/run.jsonl")
+    {
+        plan.path = path;
+        plan.head = sampleHead();
+        plan.limits.localTime = [](qint64 utcUs) {
+            return QDateTime::fromMSecsSinceEpoch(utcUs / 1000, Qt::UTC);
+        };
+    }
+
+    RecordingJob &begun()
+    {
+        m_job.emplace(plan, sink).begin(sampleTime());
+        return *m_job;
+    }
+
+    RecordingPlan plan;
+    MemorySink sink;
+
+private:
+    std::optional<RecordingJob> m_job;
+};
+
+RecordEvent frameAt(qint64 us)
+{
+    return sampleEvent(RecordEvent::Kind::Received, "5AA50142", us);
+}
+
+/// Microseconds from the sample's time to midnight: 2 h 15 min 58.876544 s.
+constexpr qint64 toMidnight = ((2 * 60 + 15) * 60 + 58) * usOfSecond + 876544;
+
+} // namespace
+
+void TestRecordingJob::aRecordingIsWhole()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    for (const RecordEvent &event : sampleEvents()) {
+        job.take(event);
+    }
+    job.end(sampleTime(6000));
+    QVERIFY(!job.status().isRunning);
+    QCOMPARE(job.status().error, QString());
+    QCOMPARE(job.status().events, qint64(6));
+    QCOMPARE(job.status().bytes, qint64(bench.sink.files.first().size()));
+    QVERIFY(!bench.sink.isOpen);
+    QCOMPARE(bench.sink.syncs, 1);
+    const ReadFile read = bench.sink.read(0);
+    QVERIFY(areSame(read.events, sampleEvents()));
+    QVERIFY(read.hasTail);
+    QCOMPARE(read.tail.file.sent.bytes, qint64(11));
+    QCOMPARE(read.tail.recording.received.stray, qint64(1));
+}
+
+void TestRecordingJob::whatWaitsIsWrittenAtEachPass()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    const int writes = bench.sink.writes;
+    job.take(frameAt(0));
+    job.take(frameAt(1));
+    QCOMPARE(bench.sink.writes, writes);
+    job.pass(sampleTime(100000));
+    QCOMPARE(bench.sink.writes, writes + 1);
+    QCOMPARE(bench.sink.read(0).events.size(), 2);
+    job.pass(sampleTime(200000));
+    QCOMPARE(bench.sink.writes, writes + 1);
+}
+
+void TestRecordingJob::muchIsWrittenAtOnce()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    const int writes = bench.sink.writes;
+    while (bench.sink.writes == writes) {
+        job.take(frameAt(0));
+    }
+    const int size = bench.sink.files.first().size();
+    QVERIFY(size > 64 * 1024);
+    QVERIFY(size < 65 * 1024);
+}
+
+void TestRecordingJob::theFileIsSyncedEveryFiveSeconds()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    job.pass(sampleTime(4999999));
+    QCOMPARE(bench.sink.syncs, 0);
+    job.pass(sampleTime(5000000));
+    QCOMPARE(bench.sink.syncs, 1);
+    job.pass(sampleTime(9000000));
+    QCOMPARE(bench.sink.syncs, 1);
+    job.pass(sampleTime(10000000));
+    QCOMPARE(bench.sink.syncs, 2);
+}
+
+void TestRecordingJob::aFullFileIsFollowedByTheNext()
+{
+    JobBench bench;
+    bench.plan.limits.fileBytes = 2000;
+    RecordingJob &job = bench.begun();
+    constexpr int count = 100;
+    for (int i = 0; i < count; ++i) {
+        job.take(frameAt(i));
+    }
+    job.end(sampleTime(count));
+    QVERIFY(bench.sink.names.size() > 3);
+    QCOMPARE(bench.sink.names.at(1), QString("/a/run-002.jsonl"));
+    QCOMPARE(bench.sink.names.at(2), QString("/a/run-003.jsonl"));
+    int events = 0;
+    for (int i = 0; i < bench.sink.names.size(); ++i) {
+        const ReadFile read = bench.sink.read(i);
+        QVERIFY(read.hasTail);
+        QCOMPARE(read.head.part, i + 1);
+        QCOMPARE(read.tail.file.received.frames, qint64(read.events.size()));
+        events += read.events.size();
+        QCOMPARE(read.tail.recording.received.frames, qint64(events));
+        const bool isLast = i + 1 == bench.sink.names.size();
+        QCOMPARE(read.tail.reason, isLast ? QString("stopped") : QString("the file is full"));
+    }
+    QCOMPARE(events, count);
+    const QByteArray all = QByteArray::fromHex("5AA50142").repeated(count);
+    QCOMPARE(bench.sink.read(bench.sink.names.size() - 1).tail.recording.received.sha256,
+             QCryptographicHash::hash(all, QCryptographicHash::Sha256).toHex());
+}
+
+void TestRecordingJob::midnightBeginsAFile()
+{
+    JobBench bench("/a/tarnwick-20261121-214401-ttyUSB0-001.jsonl");
+    RecordingJob &job = bench.begun();
+    job.pass(sampleTime(toMidnight - 1));
+    QCOMPARE(bench.sink.names.size(), 1);
+    job.pass(sampleTime(toMidnight));
+    QCOMPARE(bench.sink.names.size(), 2);
+    QCOMPARE(bench.sink.names.at(1), QString("/a/tarnwick-20261122-000000-ttyUSB0-002.jsonl"));
+    QCOMPARE(bench.sink.read(0).tail.reason, QString("midnight"));
+    job.pass(sampleTime(toMidnight + 1));
+    QCOMPARE(bench.sink.names.size(), 2);
+    QVERIFY(job.status().isRunning);
+    QCOMPARE(job.status().path, bench.sink.names.at(1));
+}
+
+void TestRecordingJob::anEventOfTheNextDayBeginsAFile()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    job.take(frameAt(toMidnight - 1));
+    job.take(frameAt(toMidnight));
+    // It happened before midnight, and comes behind one that did not.
+    job.take(frameAt(toMidnight - 1));
+    job.pass(sampleTime(toMidnight + 1));
+    QCOMPARE(bench.sink.names.size(), 2);
+    QCOMPARE(bench.sink.read(0).events.size(), 1);
+    QCOMPARE(bench.sink.read(1).events.size(), 2);
+}
+
+void TestRecordingJob::aClockThatIsSetBackBeginsNoFile()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    job.take(frameAt(-86400 * usOfSecond));
+    job.pass(sampleTime(-86400 * usOfSecond));
+    QCOMPARE(bench.sink.names.size(), 1);
+    QCOMPARE(bench.sink.read(0).events.size(), 1);
+}
+
+void TestRecordingJob::theNextFileTellsTheLinkOfItsTime()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    RecordEvent open = sampleEvent(RecordEvent::Kind::Open);
+    open.link = "hidraw3";
+    open.settings = "64 bytes";
+    job.take(open);
+    job.take(frameAt(toMidnight));
+    job.end(sampleTime(toMidnight + 1));
+    QCOMPARE(bench.sink.read(0).head.link, QString("/dev/ttyUSB0"));
+    QCOMPARE(bench.sink.read(1).head.link, QString("hidraw3"));
+    QCOMPARE(bench.sink.read(1).head.settings, QString("64 bytes"));
+}
+
+void TestRecordingJob::nothingIsOverwritten()
+{
+    JobBench bench;
+    bench.sink.files = {{"/a/run.jsonl", "mine"}, {"/a/run-002.jsonl", "too"}};
+    RecordingJob &job = bench.begun();
+    job.end(sampleTime(1));
+    QCOMPARE(bench.sink.names, QStringList{"/a/run-003.jsonl"});
+    QCOMPARE(job.status().path, QString("/a/run-003.jsonl"));
+    QCOMPARE(bench.sink.files.value("/a/run.jsonl"), QByteArray("mine"));
+    QCOMPARE(bench.sink.files.value("/a/run-002.jsonl"), QByteArray("too"));
+}
+
+void TestRecordingJob::aFileThatCannotBeMadeEndsIt()
+{
+    JobBench bench;
+    bench.sink.refusesFiles = true;
+    RecordingJob job(bench.plan, bench.sink);
+    QVERIFY(!job.begin(sampleTime()));
+    QVERIFY(!job.status().isRunning);
+    QCOMPARE(job.status().error, QString("no luck"));
+    QCOMPARE(bench.sink.writes, 0);
+}
+
+void TestRecordingJob::aFailedWriteEndsIt()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    job.take(frameAt(0));
+    job.pass(sampleTime(1));
+    const QByteArray written = bench.sink.files.first();
+    bench.sink.takesNothing = true;
+    job.take(frameAt(2));
+    job.pass(sampleTime(3));
+    QVERIFY(!job.status().isRunning);
+    QCOMPARE(job.status().error, QString("no luck"));
+    QCOMPARE(job.status().bytes, qint64(written.size()));
+    QVERIFY(!bench.sink.isOpen);
+    job.take(frameAt(4));
+    job.pass(sampleTime(5));
+    job.end(sampleTime(6));
+    QCOMPARE(bench.sink.files.first(), written);
+}
+
+void TestRecordingJob::aFailedSyncEndsIt()
+{
+    JobBench bench;
+    bench.sink.failsToSync = true;
+    RecordingJob &job = bench.begun();
+    job.pass(sampleTime(5 * usOfSecond));
+    QVERIFY(!job.status().isRunning);
+    QCOMPARE(job.status().error, QString("no luck"));
+}
+
+void TestRecordingJob::aDiskThatFillsUpEndsItInGoodOrder()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    job.take(frameAt(0));
+    bench.sink.free = 200LL * 1024 * 1024;
+    job.pass(sampleTime(usOfSecond));
+    QVERIFY(job.status().isRunning);
+    bench.sink.free = 200LL * 1024 * 1024 - 1;
+    job.pass(sampleTime(2 * usOfSecond - 1));
+    QVERIFY(job.status().isRunning);
+    job.pass(sampleTime(2 * usOfSecond));
+    QVERIFY(!job.status().isRunning);
+    QCOMPARE(job.status().error, QString("the disk is nearly full"));
+    const ReadFile read = bench.sink.read(0);
+    QCOMPARE(read.events.size(), 1);
+    QVERIFY(read.hasTail);
+    QCOMPARE(read.tail.reason, QString("the disk is nearly full"));
+}
+
+void TestRecordingJob::aFullDiskLetsNothingBegin()
+{
+    JobBench bench;
+    bench.sink.free = 1000;
+    const RecordingJob &job = bench.begun();
+    QVERIFY(!job.status().isRunning);
+    QCOMPARE(job.status().error, QString("the disk is nearly full"));
+    QVERIFY(!bench.sink.isOpen);
+}
+
+void TestRecordingJob::aDiskThatDoesNotTellIsEnough()
+{
+    JobBench bench;
+    bench.sink.free.reset();
+    RecordingJob &job = bench.begun();
+    job.pass(sampleTime(usOfSecond));
+    QVERIFY(job.status().isRunning);
+}
+
+void TestRecordingJob::aFileThatIsGoneEndsIt()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    bench.sink.isGone = true;
+    job.pass(sampleTime(usOfSecond));
+    QVERIFY(!job.status().isRunning);
+    QCOMPARE(job.status().error, QString("the file is gone"));
+}
+
+void TestRecordingJob::dropsAreNotedInTheFile()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    job.noteDropped(7, 90, sampleTime(1));
+    job.noteDropped(1, 10, sampleTime(2));
+    job.end(sampleTime(3));
+    const ReadFile read = bench.sink.read(0);
+    QCOMPARE(read.events.size(), 2);
+    QCOMPARE(read.events.at(0).kind, RecordEvent::Kind::Note);
+    QCOMPARE(read.events.at(0).text,
+             QString("7 events with 90 bytes dropped: the disk is too slow"));
+    QCOMPARE(read.tail.droppedEvents, qint64(8));
+    QCOMPARE(read.tail.droppedBytes, qint64(100));
+    QCOMPARE(job.status().droppedBytes, qint64(100));
+}
+
+void TestRecordingJob::nothingIsTakenAfterTheEnd()
+{
+    JobBench bench;
+    RecordingJob &job = bench.begun();
+    job.end(sampleTime(1));
+    const QByteArray file = bench.sink.files.first();
+    job.take(frameAt(2));
+    job.pass(sampleTime(toMidnight));
+    job.end(sampleTime(toMidnight));
+    QCOMPARE(bench.sink.files.size(), 1);
+    QCOMPARE(bench.sink.files.first(), file);
+}
+
+QTEST_APPLESS_MAIN(TestRecordingJob)
+#include "tst_recordingjob.moc"
