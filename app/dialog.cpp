@@ -2,11 +2,12 @@
 
 #include "app/boxes.h"
 #include "app/datafolder.h"
+#include "app/headerfield.h"
 #include "app/linktexts.h"
 #include "app/windowform.h"
-#include "app/windowkeys.h"
 #include "commands/commandcolumns.h"
 #include "log/logcolumns.h"
+#include "log/logtable.h"
 #include "ui_dialog.h"
 #include "version.h"
 #include "widgets/celltips.h"
@@ -16,8 +17,6 @@
 
 namespace {
 
-constexpr int commandStretch = 10;
-constexpr int messageStretch = 8;
 constexpr int tipColumn = LogColumn::Data;
 static_assert(tipColumn == CommandColumn::Crc);
 
@@ -30,26 +29,27 @@ Dialog::Dialog(QWidget *parent)
     , m_wheelGuard(*m_form->tabWidget)
     , m_settingsFile(dataFile(QStringLiteral("debuggerConfig.ini")))
     , m_settings(m_settingsFile.load())
-    , m_headlines(*m_form, m_list, this)
-    , m_status({m_form->label_Status, m_form->label_Status_2}, this)
+    , m_status({&m_form->tab->statusLabel(), &m_form->tab_2->statusLabel()}, this)
     , m_session(dataFile(QStringLiteral("hidDeviceID.ini")), portsFolder(), this)
-    , m_headerField(*m_form->lineEdit_SBytes, m_session, this)
-    , m_serialPanel(*m_form, m_session.links().serial(), this)
-    , m_hidPanel(*m_form, m_session.links().hid(), this)
+    , m_serialPanel(*m_form->tab, m_session.links().serial(), this)
+    , m_hidPanel(*m_form->tab_2, m_session.links().hid(), this)
     , m_deviceLists(m_serialPanel, m_hidPanel, this)
-    , m_loopPanel(*m_form, this)
+    , m_loopPanel({*m_form->loopArea, *m_form->tabWidget, *m_form->tab, *m_form->tab_2,
+                   *m_form->commandArea, *m_form->pushButton_SaveMessage},
+                  this)
     , m_linkStatus(m_status, m_session, this)
-    , m_commands(*m_form->tableWidget_Register, this, this)
+    , m_commands(m_form->commandArea->table(), this, this)
     , m_menus(this, m_settings.isEditorFun != 0)
-    , m_rowActions(*m_form->tableWidget_Register, m_commands, m_menus, this)
-    , m_tableKeys(*m_form->tableWidget_Register, m_commands, m_rowActions, m_menus, this)
-    , m_rowEditor(*m_form->tableWidget_Register, m_commands, this)
-    , m_log(*m_form->tableWidget_Message, m_session.log(), this)
-    , m_messageCopy(*m_form->tableWidget_Message, m_log, m_session.log(), this)
+    , m_rowActions(m_form->commandArea->table(), m_commands, m_menus, this)
+    , m_tableKeys(m_form->commandArea->table(), m_commands, m_rowActions, m_menus, this)
+    , m_rowEditor(m_form->commandArea->table(), m_commands, this)
+    , m_log(m_form->messageArea->table(), m_session.log(), this)
+    , m_messageCopy(m_form->messageArea->table(), m_log, m_session.log(), this)
     , m_files(*this, m_commands, m_list, m_session.log(), m_status)
 {
     setUpWindow();
-    m_headlines.follow(m_log);
+    m_form->commandArea->follow(m_list);
+    m_form->messageArea->follow(m_log);
     setUpSession();
     setUpLinks();
     setUpCommands();
@@ -61,7 +61,7 @@ Dialog::Dialog(QWidget *parent)
 
 Dialog::~Dialog()
 {
-    m_form->tableWidget_Register->clearContents();
+    m_form->commandArea->table().clearContents();
 }
 
 void Dialog::closeEvent(QCloseEvent *event)
@@ -106,7 +106,7 @@ void Dialog::wheelEvent(QWheelEvent * /*event*/)
 {
     const QPoint position = mapFromGlobal(QCursor::pos());
     // The table's geometry is relative to its parent; the two are compared as they are.
-    if (m_form->tableWidget_Register->geometry().contains(position)) {
+    if (m_form->commandArea->table().geometry().contains(position)) {
         m_rowActions.appendRowAtEnd();
     }
 }
@@ -124,15 +124,12 @@ void Dialog::setUpWindow()
 {
     setWindowTitle(QLatin1String(windowTitleText));
     setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
-    addWindowKeys(*m_form);
-    m_form->splitter->setStretchFactor(0, commandStretch);
-    m_form->splitter->setStretchFactor(1, messageStretch);
     m_memory.restore();
 }
 
 void Dialog::setUpCommands()
 {
-    QTableWidget *table = m_form->tableWidget_Register;
+    QTableWidget *table = &m_form->commandArea->table();
     connect(&m_menus.rowMenu(), &QMenu::triggered, this, &Dialog::SlotRegisterMenuClicked);
     connect(&m_menus.selectMenu(), &QMenu::triggered, this, &Dialog::SlotSelectMenuClicked);
     connect(&m_menus.cmdMenu(), &QMenu::triggered, this, &Dialog::SlotCmdMenuClicked);
@@ -154,8 +151,8 @@ void Dialog::setUpCommands()
 
 void Dialog::setUpTips()
 {
-    for (QTableWidget *table : std::initializer_list<QTableWidget *>{m_form->tableWidget_Register,
-                                                                     m_form->tableWidget_Message}) {
+    for (QTableWidget *table : std::initializer_list<QTableWidget *>{
+             &m_form->commandArea->table(), &m_form->messageArea->table()}) {
         table->setMouseTracking(true);
         connect(table, &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
         new CellTips(*table, tipColumn, this);
@@ -168,6 +165,7 @@ void Dialog::setUpSession()
     m_session.format().setLength(m_settings.noAppendLength == 0);
     m_session.links().hid().readDeviceTypes();
     m_session.use(static_cast<LinkMode>(m_settings.linkMode));
+    m_form->tab->header().feed(m_session);
     m_loopPanel.follow(m_session);
     m_log.setHold([this] { return m_session.loop().isFrameNear(); });
     m_files.takeFolders(m_settings);
@@ -224,7 +222,7 @@ void Dialog::on_comboBox_Comm_activated(int /*index*/)
 
 void Dialog::on_comboBox_Baudrate_activated(int index)
 {
-    m_serialPanel.prepareBaudRate(index);
+    m_form->tab->prepareBaudRate(index);
 }
 
 void Dialog::serial_receiveData()
@@ -271,7 +269,7 @@ void Dialog::on_pushButton_Start_Loop_clicked()
         return;
     }
     takeCrcFlag();
-    m_session.loop().start(m_commands.checkedRows(), m_loopPanel.timing());
+    m_session.loop().start(m_commands.checkedRows(), m_form->loopArea->timing());
 }
 
 void Dialog::Timer1_Out_Event()
@@ -370,9 +368,8 @@ void Dialog::doMouseTrackTip(const QModelIndex &index)
 /// The CRC box of the tab that is used counts for what is sent and logged from now on.
 void Dialog::takeCrcFlag()
 {
-    const QCheckBox *box = m_session.links().mode() == LinkMode::Uart ? m_form->checkBox_CRC_EN
-                                                                      : m_form->checkBox_CRC_EN_2;
-    m_session.format().setCrc(box->isChecked());
+    const bool isSerial = m_session.links().mode() == LinkMode::Uart;
+    m_session.format().setCrc(isSerial ? m_form->tab->wantsCrc() : m_form->tab_2->wantsCrc());
 }
 
 void Dialog::showMessage(const QString &text)

@@ -1,8 +1,6 @@
 #pragma once
 
 #include "app/devicelists.h"
-#include "app/headerfield.h"
-#include "app/headlines.h"
 #include "app/hidpanel.h"
 #include "app/linkstatus.h"
 #include "app/listfiles.h"
@@ -109,10 +107,8 @@ private:
     SettingsFile m_settingsFile;
     Settings m_settings;
     ListState m_list;
-    Headlines m_headlines;
     StatusLine m_status;
     Session m_session;
-    HeaderField m_headerField;
     SerialPanel m_serialPanel;
     HidPanel m_hidPanel;
     DeviceLists m_deviceLists;

@@ -1,7 +1,6 @@
 #include "app/headerfield.h"
 
 #include "session/session.h"
-#include "widgets/checkedlineedit.h"
 
 static QString headerFault(const QString &text)
 {
@@ -12,11 +11,15 @@ static QString headerFault(const QString &text)
         "No start bytes: write two, as in 0x5A,0xA5. Until then frames begin with A5 5A.");
 }
 
-HeaderField::HeaderField(CheckedLineEdit &field, Session &session, QObject *parent)
-    : QObject(parent)
+HeaderField::HeaderField(QWidget *parent)
+    : CheckedLineEdit(parent)
 {
-    field.setCheck(headerFault);
-    session.setHeaderText(field.text());
-    connect(&field, &QLineEdit::textChanged, &session, &Session::setHeaderText);
-    connect(&field, &QLineEdit::textEdited, &session.receivedHeader(), &ReceivedHeader::noteTyping);
+    setCheck(headerFault);
+}
+
+void HeaderField::feed(Session &session)
+{
+    session.setHeaderText(text());
+    connect(this, &QLineEdit::textChanged, &session, &Session::setHeaderText);
+    connect(this, &QLineEdit::textEdited, &session.receivedHeader(), &ReceivedHeader::noteTyping);
 }

@@ -1,17 +1,18 @@
 #pragma once
 
-#include <QObject>
+#include "widgets/checkedlineedit.h"
 
-class CheckedLineEdit;
 class Session;
 
-/// The field of the serial tab whose text gives the start bytes of both links' frames, in both
-/// directions. The HID tab's own field is never read.
-class HeaderField : public QObject
+/// The field whose text gives the start bytes of both links' frames, in both directions.
+class HeaderField : public CheckedLineEdit
 {
     Q_OBJECT
 
 public:
-    /// Hands the field's text on, now and whenever it changes. Both must outlive this.
-    HeaderField(CheckedLineEdit &field, Session &session, QObject *parent = nullptr);
+    explicit HeaderField(QWidget *parent = nullptr);
+
+    /// Hands the text on to the session, now and whenever it changes. The session must outlive the
+    /// field, or go with it.
+    void feed(Session &session);
 };

@@ -2,19 +2,18 @@
 
 #include <QObject>
 
-namespace Ui {
-class Dialog;
-}
 class HidLink;
+class HidTab;
 
-/// The "HID" tab: the list of devices, the device opened as the tab says, and whether it is open.
+/// Opens and closes the HID device as its tab says, and shows there which devices there are and
+/// whether one is open.
 class HidPanel : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Form and link must outlive the panel.
-    HidPanel(Ui::Dialog &form, HidLink &link, QObject *parent = nullptr);
+    /// Tab and link must outlive the panel.
+    HidPanel(HidTab &tab, HidLink &link, QObject *parent = nullptr);
 
     /// Lists the attached devices anew; the one that was chosen stays so if it is still there.
     void refreshDevices();
@@ -30,8 +29,6 @@ signals:
     void failed(const QString &reason);
 
 private:
-    void showOpen(bool open);
-
-    Ui::Dialog &m_form;
+    HidTab &m_tab;
     HidLink &m_link;
 };

@@ -1,30 +1,18 @@
 #include "app/looppanel.h"
 
-#include "app/styles.h"
+#include "app/commandarea.h"
+#include "app/hidtab.h"
+#include "app/looparea.h"
+#include "app/serialtab.h"
 #include "session/session.h"
-#include "ui_dialog.h"
-#include "widgets/countvalidator.h"
 
-namespace {
+#include <QPushButton>
+#include <QTabWidget>
 
-constexpr int longestMs = 10000;
-
-void setEnabled(const QList<QWidget *> &widgets, bool enabled)
-{
-    for (QWidget *widget : widgets) {
-        widget->setEnabled(enabled);
-    }
-}
-
-} // namespace
-
-LoopPanel::LoopPanel(Ui::Dialog &form, QObject *parent)
+LoopPanel::LoopPanel(const LoopPieces &pieces, QObject *parent)
     : QObject(parent)
-    , m_form(form)
-{
-    prepareTimingFields();
-    showIdleButton();
-}
+    , m_pieces(pieces)
+{}
 
 void LoopPanel::follow(Session &session)
 {
@@ -35,60 +23,43 @@ void LoopPanel::follow(Session &session)
     connect(&loop, &LoopControl::foundNothing, this, &LoopPanel::showNothingToSend);
 }
 
+/// What must not change under a running loop over the link can't be used meanwhile.
 void LoopPanel::showRunning(LinkMode mode)
 {
     m_mode = mode;
-    setEnabled(fileAndTimingWidgets() + linkWidgets(mode), false);
-    m_form.tabWidget->setEnabled(false);
-    showBusy(*m_form.pushButton_Start_Loop, tr("Sending..."));
+    setResting(true);
+    setLinkResting(mode, true);
+    m_pieces.tabs.setEnabled(false);
 }
 
 void LoopPanel::showStopped()
 {
-    setEnabled(fileAndTimingWidgets() + linkWidgets(m_mode), true);
-    m_form.tabWidget->setEnabled(true);
-    m_form.checkBox_CRC_EN->setEnabled(true);
-    showIdleButton();
+    setResting(false);
+    setLinkResting(m_mode, false);
+    m_pieces.tabs.setEnabled(true);
+    m_pieces.serial.enableCrcBox();
 }
 
+/// After a loop that found nothing to send, only the serial tab's widgets come back, whatever the
+/// link, and the tabs stay disabled.
 void LoopPanel::showNothingToSend()
 {
-    setEnabled(fileAndTimingWidgets() + linkWidgets(LinkMode::Uart), true);
-    showIdleButton();
+    setResting(false);
+    setLinkResting(LinkMode::Uart, false);
 }
 
-LoopTiming LoopPanel::timing() const
+void LoopPanel::setResting(bool resting)
 {
-    return {m_form.lineEdit_StepValue->text().toInt(), m_form.lineEdit_CycleTime->text().toInt()};
+    m_pieces.commands.setResting(resting);
+    m_pieces.saveMessages.setDisabled(resting);
+    m_pieces.loop.showRunning(resting);
 }
 
-void LoopPanel::prepareTimingFields()
-{
-    auto *milliseconds = new CountValidator(longestMs, this);
-    for (UnitLineEdit *edit : {m_form.lineEdit_StepValue, m_form.lineEdit_CycleTime}) {
-        edit->setUnit(tr("ms"));
-        edit->setValidator(milliseconds);
-    }
-}
-
-QList<QWidget *> LoopPanel::fileAndTimingWidgets() const
-{
-    return {m_form.pushButton_LoadCommand, m_form.pushButton_ClearCommand,
-            m_form.pushButton_SaveCommand, m_form.pushButton_SaveMessage,
-            m_form.lineEdit_StepValue,     m_form.lineEdit_CycleTime};
-}
-
-QList<QWidget *> LoopPanel::linkWidgets(LinkMode mode) const
+void LoopPanel::setLinkResting(LinkMode mode, bool resting)
 {
     if (mode == LinkMode::Hid) {
-        return {m_form.pushButton_ConnectHID, m_form.checkBox_CRC_EN_2, m_form.pushButton_SendAll_2,
-                m_form.lineEdit_SBytes_2};
+        m_pieces.hid.setResting(resting);
+    } else {
+        m_pieces.serial.setResting(resting);
     }
-    return {m_form.pushButton_OpenCom, m_form.pushButton_SendAll, m_form.checkBox_CRC_EN,
-            m_form.lineEdit_SBytes};
-}
-
-void LoopPanel::showIdleButton()
-{
-    showIdle(*m_form.pushButton_Start_Loop, tr("Auto Send"));
 }

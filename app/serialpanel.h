@@ -2,20 +2,19 @@
 
 #include <QObject>
 
-namespace Ui {
-class Dialog;
-}
 class SerialLink;
-struct SerialSettings;
+class SerialTab;
+struct PortList;
 
-/// The "Uart" tab: its option lists, the port opened as they say, and whether it is open.
+/// Opens and closes the serial port as its tab says, and shows there which ports there are and
+/// whether one is open.
 class SerialPanel : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Fills the option lists. Form and link must outlive the panel.
-    SerialPanel(Ui::Dialog &form, SerialLink &link, QObject *parent = nullptr);
+    /// Tab and link must outlive the panel.
+    SerialPanel(SerialTab &tab, SerialLink &link, QObject *parent = nullptr);
 
     /// Lists the ports anew and selects the chosen one again, without opening any.
     void refreshPorts(const QString &linksFolder);
@@ -26,21 +25,14 @@ public:
     /// Closes the open port; opens the selected one where none is open.
     void toggle();
 
-    /// Makes the baud rate box ready for the rate that was picked: "custom" is typed by hand.
-    void prepareBaudRate(int index);
-
 signals:
     /// The port did not open, for this reason.
     void failed(const QString &reason);
 
 private:
-    void fillOptions();
-    SerialSettings chosenSettings() const;
-    qint32 baudRate() const;
-    void selectPort(int index);
-    void showOpen(bool open);
+    int placeToSelect(const PortList &ports) const;
 
-    Ui::Dialog &m_form;
+    SerialTab &m_tab;
     SerialLink &m_link;
     QString m_chosenPortName;
 };

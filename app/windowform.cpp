@@ -15,9 +15,9 @@ std::unique_ptr<Ui::Dialog> fillWindow(QDialog &window)
 {
     initImages();
     new LightLook(window);
+    window.setStyleSheet(windowStyle());
     auto form = std::make_unique<Ui::Dialog>();
     form->setupUi(&window);
     makeScrollable(window);
-    window.setStyleSheet(windowStyle());
     return form;
 }

@@ -7,6 +7,6 @@ namespace Ui {
 class Dialog;
 }
 
-/// Fills the window from its form, with its pictures, its palette and its style, in that order:
-/// nothing may measure a text before.
+/// Gives the window its pictures, its palette and its style, and then fills it from its form, whose
+/// pieces measure their texts.
 std::unique_ptr<Ui::Dialog> fillWindow(QDialog &window);

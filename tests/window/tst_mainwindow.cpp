@@ -11,8 +11,6 @@ class TestMainWindow : public QObject
 
 private slots:
     void isADialogOfItsOwnWithItsTitle();
-    void widgetsCarryTheirNames_data();
-    void widgetsCarryTheirNames();
     void tabsCarryTheirNames();
     void fileButtonsHavePicturesAndTips_data();
     void fileButtonsHavePicturesAndTips();
@@ -23,64 +21,6 @@ private slots:
     void commandTableHasItsOwnMenus();
 };
 
-namespace {
-
-QString caption(const QWidget *widget)
-{
-    return widget->property("text").toString();
-}
-
-struct NamedWidget
-{
-    const char *name;
-    const char *kind;
-    const char *text;
-};
-
-const NamedWidget namedWidgets[] = {
-    {"label_Comm", "QLabel", "Com Port:"},
-    {"label_Baudrate", "QLabel", "Baudrate:"},
-    {"label_DataBit", "QLabel", "dataBit:"},
-    {"label_StopBit", "QLabel", "stopBit:"},
-    {"label_Parity", "QLabel", "Parity:"},
-    {"label_SBytes", "QLabel", "CMD Header:"},
-    {"label_CRC_EN", "QLabel", "CRC Enable:"},
-    {"label_Hid_Device", "QLabel", "Device:"},
-    {"label_RpID", "QLabel", "Report ID:"},
-    {"label_SBytes_2", "QLabel", "CMD Header:"},
-    {"label_CRC_EN_2", "QLabel", "CRC Enable:"},
-    {"label", "QLabel", "  Command"},
-    {"label_11", "QLabel", "  Message"},
-    {"label_StepValue", "QLabel", "Interval Time:"},
-    {"label_CycleTime", "QLabel", "Cycle Delay:"},
-    {"pushButton_OpenCom", "QPushButton", "Open Com Port"},
-    {"pushButton_SendAll", "QPushButton", "Send selected items"},
-    {"pushButton_ConnectHID", "QPushButton", "Open HID Device"},
-    {"pushButton_SendAll_2", "QPushButton", "Send selected items"},
-    {"pushButton_Start_Loop", "QPushButton", "Auto Send"},
-    {"pushButton_ClearMessage", "QPushButton", "Clear Message"},
-    {"pushButton_SaveMessage", "QPushButton", "Save Message"},
-    {"lineEdit_SBytes", "QLineEdit", "0x5A,0xA5"},
-    {"lineEdit_SBytes_2", "QLineEdit", "0x5A,0xA5"},
-    {"lineEdit_RpID", "QLineEdit", "0x00"},
-    {"lineEdit_StepValue", "UnitLineEdit", "1000"},
-    {"lineEdit_CycleTime", "UnitLineEdit", "1000"},
-    {"checkBox_CRC_EN", "QCheckBox", ""},
-    {"checkBox_CRC_EN_2", "QCheckBox", ""},
-    {"tableWidget_Register", "QTableWidget", ""},
-    {"tableWidget_Message", "QTableWidget", ""},
-    {"splitter", "QSplitter", ""},
-    {"tabWidget", "QTabWidget", ""},
-    {"comboBox_Comm", "QComboBox", ""},
-    {"comboBox_Baudrate", "QComboBox", ""},
-    {"comboBox_DataBit", "QComboBox", ""},
-    {"comboBox_StopBit", "QComboBox", ""},
-    {"comboBox_Parity", "QComboBox", ""},
-    {"comboBox_Hid_Device", "QComboBox", ""},
-};
-
-} // namespace
-
 void TestMainWindow::isADialogOfItsOwnWithItsTitle()
 {
     WindowDriver window;
@@ -90,27 +30,6 @@ void TestMainWindow::isADialogOfItsOwnWithItsTitle()
     other.setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     QCOMPARE(window.window().windowFlags(), other.windowFlags());
     QVERIFY(window.window().parent() == nullptr);
-}
-
-void TestMainWindow::widgetsCarryTheirNames_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("text");
-    for (const NamedWidget &widget : namedWidgets) {
-        QTest::newRow(widget.name) << widget.kind << widget.text;
-    }
-}
-
-void TestMainWindow::widgetsCarryTheirNames()
-{
-    QFETCH(QString, kind);
-    const WindowDriver window;
-    const auto *widget = window.find<QWidget>(QTest::currentDataTag());
-    if (widget == nullptr) {
-        QFAIL("there is no such widget");
-    }
-    QVERIFY(widget->inherits(qPrintable(kind)));
-    QTEST(caption(widget), "text");
 }
 
 void TestMainWindow::tabsCarryTheirNames()

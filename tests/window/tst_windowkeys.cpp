@@ -10,7 +10,6 @@ private slots:
     void enterInAFieldPressesNoButton_data();
     void enterInAFieldPressesNoButton();
     void escapeLeavesTheWindowOpen();
-    void tabKeyGoesFromTopToBottom();
 };
 
 void TestWindowKeys::enterInAFieldPressesNoButton_data()
@@ -54,31 +53,6 @@ void TestWindowKeys::escapeLeavesTheWindowOpen()
     QTest::keyClick(&window.window(), Qt::Key_Escape);
     QTest::keyClick(window.edit("lineEdit_SBytes"), Qt::Key_Escape);
     QVERIFY(window.window().isVisible());
-}
-
-void TestWindowKeys::tabKeyGoesFromTopToBottom()
-{
-    const WindowDriver window;
-    QWidget *first = window.combo("comboBox_Comm");
-    QStringList names;
-    QWidget *widget = first;
-    do {
-        const bool isStop = isOfTheForm(widget) && widget->isVisible() &&
-                            (widget->focusPolicy() & Qt::TabFocus) != 0 &&
-                            widget->focusProxy() == nullptr;
-        if (isStop) {
-            names.append(widget->objectName());
-        }
-        widget = widget->nextInFocusChain();
-    } while (widget != first);
-    QCOMPARE(
-        names,
-        QStringList({"comboBox_Comm", "comboBox_Baudrate", "comboBox_DataBit", "comboBox_StopBit",
-                     "comboBox_Parity", "lineEdit_SBytes", "checkBox_CRC_EN", "pushButton_OpenCom",
-                     "pushButton_SendAll", "pushButton_LoadCommand", "pushButton_SaveCommand",
-                     "pushButton_ClearCommand", "tableWidget_Register", "tableWidget_Message",
-                     "lineEdit_StepValue", "lineEdit_CycleTime", "pushButton_Start_Loop",
-                     "pushButton_ClearMessage", "pushButton_SaveMessage"}));
 }
 
 QTEST_MAIN(TestWindowKeys)
