@@ -13,7 +13,6 @@
 namespace {
 
 constexpr qint64 longestFile = 65536;
-constexpr int splitterAreas = 2;
 
 QVector<QRect> screenRooms()
 {

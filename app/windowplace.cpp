@@ -9,7 +9,6 @@
 namespace {
 
 constexpr int farthest = 32767;
-constexpr int splitterAreas = 2;
 const QByteArray group = "[window]";
 
 /// A title bar and the borders at the other sides, as wide as desktops make them.

@@ -7,6 +7,9 @@
 
 #include <optional>
 
+/// The command table and the log.
+constexpr int splitterAreas = 2;
+
 /// Where a window stands and how its room is divided, in pixels that are scaled as the screen asks.
 struct WindowPlace
 {
@@ -14,7 +17,7 @@ struct WindowPlace
     /// known.
     QRect inside;
     bool maximized = false;
-    /// The heights of the splitter's two areas; empty where they are not known.
+    /// The heights of the splitter's areas; empty where they are not known.
     QList<int> splitter;
 };
 

@@ -1,4 +1,5 @@
 #include "app/settings.h"
+#include "testfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -41,12 +42,6 @@ private:
     rlimit m_former{};
     sighandler_t m_formerHandler;
 };
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "codec/hexgroups.h"
 #include "codec/numbercodec.h"
 #include "frames/hextext.h"
+#include "valuetypes.h"
 
 #include <QRandomGenerator>
 #include <QStringList>
@@ -25,8 +26,6 @@ private:
     static void addRangeRows();
     static void addListRows();
 };
-
-Q_DECLARE_METATYPE(NumberKind)
 
 namespace {
 

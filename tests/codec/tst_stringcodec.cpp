@@ -1,5 +1,6 @@
 #include "codec/stringcodec.h"
 #include "frames/hextext.h"
+#include "valuetypes.h"
 
 #include <QRandomGenerator>
 #include <QTextCodec>
@@ -34,8 +35,6 @@ private slots:
 private:
     static void addCodecRows();
 };
-
-Q_DECLARE_METATYPE(StringEncoding)
 
 void TestStringCodec::codecsAreThere()
 {

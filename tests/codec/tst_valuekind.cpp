@@ -1,4 +1,5 @@
 #include "codec/valuekind.h"
+#include "valuetypes.h"
 
 #include <QtTest>
 
@@ -17,9 +18,6 @@ private slots:
     void everyNumberKindIsFoundByItsNames();
     void stringIsTheLastOfTheEditorsTypes();
 };
-
-Q_DECLARE_METATYPE(ValueKind)
-Q_DECLARE_METATYPE(StringEncoding)
 
 void TestValueKind::kindOfText_data()
 {

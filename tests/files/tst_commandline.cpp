@@ -1,9 +1,8 @@
+#include "commandrows.h"
 #include "files/commandline.h"
 #include "frames/delaymarker.h"
 
 #include <QtTest>
-
-Q_DECLARE_METATYPE(CommandRow)
 
 class TestCommandLine : public QObject
 {

@@ -3,6 +3,7 @@
 #include "frames/delaymarker.h"
 #include "frames/framebuilder.h"
 #include "system/filereader.h"
+#include "testfiles.h"
 
 #include <QRegularExpression>
 #include <QTextCodec>
@@ -23,7 +24,7 @@ namespace {
 
 CommandFile example(const QString &name)
 {
-    const QString path = QStringLiteral(TARNWICK_TREE "/examples/") + name;
+    const QString path = inTree("examples/") + name;
     const FileContent content = readFile(path, largestCommandFile);
     return readCommandFile(content.bytes);
 }

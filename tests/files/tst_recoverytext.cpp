@@ -1,9 +1,8 @@
+#include "commandrows.h"
 #include "files/commandfile.h"
 #include "files/recoverytext.h"
 
 #include <QtTest>
-
-Q_DECLARE_METATYPE(CommandRow)
 
 class TestRecoveryText : public QObject
 {

@@ -1,10 +1,9 @@
+#include "commandrows.h"
 #include "files/linedecoder.h"
 #include "files/saveloss.h"
 
 #include <QTextCodec>
 #include <QtTest>
-
-Q_DECLARE_METATYPE(CommandRow)
 
 class TestSaveLoss : public QObject
 {
@@ -21,8 +20,8 @@ private slots:
 
 namespace {
 
-CommandRow rowOf(const QString &description, const QString &cmd, const QString &addr,
-                 const QString &data)
+CommandRow unsavedRow(const QString &description, const QString &cmd, const QString &addr,
+                      const QString &data)
 {
     CommandRow row;
     row.description = description;
@@ -60,36 +59,38 @@ void TestSaveLoss::oneRow_data()
         QTest::newRow(name) << row << QByteArray(codec) << QString(loss);
     };
 
-    add("ordinary", rowOf("a", "5A", "0001", "01 02"), "");
+    add("ordinary", unsavedRow("a", "5A", "0001", "01 02"), "");
     add("empty", emptyRow(), "");
-    add("only a description", rowOf("a", "", "", ""), "");
-    add("data without blanks", rowOf("a", "5A", "0001", "0102"), "");
+    add("only a description", unsavedRow("a", "", "", ""), "");
+    add("data without blanks", unsavedRow("a", "5A", "0001", "0102"), "");
     add("delay", delayRow(), "");
-    add("short delay", rowOf("a", "++", "", "5"), "");
+    add("short delay", unsavedRow("a", "++", "", "5"), "");
 
-    add("any script in UTF-8", rowOf("é中😀", "5A", "0001", ""), "");
-    add("half a character in UTF-8", rowOf(QString(QChar(0xD83D)), "5A", "0001", ""), "1 encoding");
-    add("Chinese in GBK", rowOf("啊漢", "5A", "0001", ""), "", "GBK");
-    add("not in GBK", rowOf("😀", "5A", "0001", ""), "1 encoding", "GBK");
-    add("not in Latin-1", rowOf("中", "5A", "0001", ""), "1 encoding", "ISO-8859-1");
-    add("not in the encoding, in the data", rowOf("a", "5A", "0001", "é"), "1 encoding",
+    add("any script in UTF-8", unsavedRow("é中😀", "5A", "0001", ""), "");
+    add("half a character in UTF-8", unsavedRow(QString(QChar(0xD83D)), "5A", "0001", ""),
+        "1 encoding");
+    add("Chinese in GBK", unsavedRow("啊漢", "5A", "0001", ""), "", "GBK");
+    add("not in GBK", unsavedRow("😀", "5A", "0001", ""), "1 encoding", "GBK");
+    add("not in Latin-1", unsavedRow("中", "5A", "0001", ""), "1 encoding", "ISO-8859-1");
+    add("not in the encoding, in the data", unsavedRow("a", "5A", "0001", "é"), "1 encoding",
         "windows-1251");
 
-    add("comma", rowOf("a,b", "5A", "0001", ""), "1 unreadable");
-    add("comma alone", rowOf(",", "", "", ""), "1 unreadable");
-    add("comma in the data", rowOf("a", "5A", "0001", "01,02"), "1 unreadable");
-    add("comma and encoding", rowOf("a,中", "5A", "0001", ""), "1 unreadable", "windows-1251");
-    add("comment", rowOf("//a", "5A", "0001", ""), "1 unreadable");
-    add("too long", rowOf(QString(300'000, QLatin1Char('a')), "5A", "0001", ""), "1 unreadable");
+    add("comma", unsavedRow("a,b", "5A", "0001", ""), "1 unreadable");
+    add("comma alone", unsavedRow(",", "", "", ""), "1 unreadable");
+    add("comma in the data", unsavedRow("a", "5A", "0001", "01,02"), "1 unreadable");
+    add("comma and encoding", unsavedRow("a,中", "5A", "0001", ""), "1 unreadable", "windows-1251");
+    add("comment", unsavedRow("//a", "5A", "0001", ""), "1 unreadable");
+    add("too long", unsavedRow(QString(300'000, QLatin1Char('a')), "5A", "0001", ""),
+        "1 unreadable");
 
-    add("line end", rowOf("a\nb", "5A", "0001", ""), "1 changed");
-    add("short CMD", rowOf("a", "5", "0001", ""), "1 changed");
-    add("long CMD", rowOf("a", "5A5A", "0001", ""), "1 changed");
-    add("short address", rowOf("a", "5A", "01", "02"), "1 changed");
-    add("long address", rowOf("a", "5A", "00010002", ""), "1 changed");
-    add("delay of five digits", rowOf("a", "++", "", "10000"), "1 changed");
-    add("delay with an address", rowOf("a", "++", "0001", "1000"), "1 changed");
-    add("punctuation in the data", rowOf("a", "5A", "0001", "01 /02"), "1 changed");
+    add("line end", unsavedRow("a\nb", "5A", "0001", ""), "1 changed");
+    add("short CMD", unsavedRow("a", "5", "0001", ""), "1 changed");
+    add("long CMD", unsavedRow("a", "5A5A", "0001", ""), "1 changed");
+    add("short address", unsavedRow("a", "5A", "01", "02"), "1 changed");
+    add("long address", unsavedRow("a", "5A", "00010002", ""), "1 changed");
+    add("delay of five digits", unsavedRow("a", "++", "", "10000"), "1 changed");
+    add("delay with an address", unsavedRow("a", "++", "0001", "1000"), "1 changed");
+    add("punctuation in the data", unsavedRow("a", "5A", "0001", "01 /02"), "1 changed");
 }
 
 void TestSaveLoss::oneRow()
@@ -101,15 +102,15 @@ void TestSaveLoss::oneRow()
 
 void TestSaveLoss::numbersCountEveryRow()
 {
-    const QVector<CommandRow> rows = {emptyRow(), rowOf("a,b", "", "", ""), emptyRow(), delayRow(),
-                                      rowOf("a", "5", "", "")};
+    const QVector<CommandRow> rows = {emptyRow(), unsavedRow("a,b", "", "", ""), emptyRow(),
+                                      delayRow(), unsavedRow("a", "5", "", "")};
     QCOMPARE(described(affectedRows(rows, utf8Codec())), QStringLiteral("2 unreadable, 5 changed"));
 }
 
 void TestSaveLoss::encodingThatIsReadAsAnother()
 {
     // Latin-1 has the character, but no command file is read as Latin-1.
-    const QVector<CommandRow> rows = {rowOf("café", "5A", "0001", "")};
+    const QVector<CommandRow> rows = {unsavedRow("café", "5A", "0001", "")};
     QCOMPARE(described(affectedRows(rows, codecNamed("ISO-8859-1"))), QStringLiteral("1 changed"));
 }
 

@@ -1,4 +1,5 @@
 #include "frames/deadlineplan.h"
+#include "handclock.h"
 
 #include <QtTest>
 
@@ -12,11 +13,7 @@ private slots:
     void waitsAddUp();
 };
 
-namespace {
-
-constexpr qint64 nsPerMs = 1000000;
-
-} // namespace
+namespace {} // namespace
 
 void TestDeadlinePlan::meeting_data()
 {

@@ -1,4 +1,5 @@
 #include "frames/systemclock.h"
+#include "handclock.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -21,10 +22,9 @@ private slots:
 
 namespace {
 
-constexpr qint64 nsPerMs = 1000000;
 constexpr qint64 longMs = 600000;
 
-class Bench
+class ClockBench
 {
 public:
     void setIn(qint64 ns) { clock->setAlarm(clock->now() + ns); }
@@ -37,7 +37,7 @@ public:
 
 void TestSystemClock::timeGoesOn()
 {
-    const Bench bench;
+    const ClockBench bench;
     const qint64 before = bench.clock->now();
     QTest::qSleep(2);
     QVERIFY(bench.clock->now() - before >= 2 * nsPerMs);
@@ -56,7 +56,7 @@ void TestSystemClock::theAlarmIsNeverEarly_data()
 void TestSystemClock::theAlarmIsNeverEarly()
 {
     QFETCH(qint64, ns);
-    Bench bench;
+    ClockBench bench;
     const qint64 time = bench.clock->now() + ns;
     bench.clock->setAlarm(time);
     QVERIFY(bench.rang.wait());
@@ -65,7 +65,7 @@ void TestSystemClock::theAlarmIsNeverEarly()
 
 void TestSystemClock::theAlarmRingsOnce()
 {
-    Bench bench;
+    ClockBench bench;
     bench.setIn(nsPerMs);
     QVERIFY(bench.rang.wait());
     QVERIFY(!bench.rang.wait(20));
@@ -83,7 +83,7 @@ void TestSystemClock::aTimeThatHasPassedRingsFromTheEventLoop_data()
 void TestSystemClock::aTimeThatHasPassedRingsFromTheEventLoop()
 {
     QFETCH(qint64, ns);
-    Bench bench;
+    ClockBench bench;
     bench.setIn(ns);
     QCOMPARE(bench.rang.count(), 0);
     QVERIFY(bench.rang.wait());
@@ -91,7 +91,7 @@ void TestSystemClock::aTimeThatHasPassedRingsFromTheEventLoop()
 
 void TestSystemClock::theLastTimeCounts()
 {
-    Bench bench;
+    ClockBench bench;
     bench.setIn(longMs * nsPerMs);
     bench.setIn(nsPerMs);
     QVERIFY(bench.rang.wait());
@@ -104,7 +104,7 @@ void TestSystemClock::theLastTimeCounts()
 
 void TestSystemClock::aClearedAlarmIsSilent()
 {
-    Bench bench;
+    ClockBench bench;
     bench.setIn(nsPerMs);
     QTest::qSleep(5);
     bench.clock->clearAlarm();
@@ -115,7 +115,7 @@ void TestSystemClock::aClearedAlarmIsSilent()
 
 void TestSystemClock::theAlarmIsSetFromItsOwnRinging()
 {
-    Bench bench;
+    ClockBench bench;
     connect(bench.clock.get(), &AlarmClock::rang, this, [&] {
         if (bench.rang.count() < 5) {
             bench.setIn(nsPerMs);

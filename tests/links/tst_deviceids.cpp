@@ -1,4 +1,6 @@
+#include "knowntypes.h"
 #include "links/hid/deviceids.h"
+#include "testfiles.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -7,15 +9,6 @@
 Q_DECLARE_METATYPE(DeviceIds)
 
 namespace {
-
-constexpr DeviceIds small{0xEEEF, 0x1616};
-constexpr DeviceIds large{0xEEEF, 0x2929};
-
-bool writeFile(const QString &name, const QByteArray &content)
-{
-    QFile file(name);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
 
 QByteArray readFile(const QString &name)
 {
@@ -127,7 +120,7 @@ void TestDeviceIds::packetSize()
     const QTemporaryDir folder;
     const QString name = folder.filePath("hidDeviceID.ini");
     QCOMPARE(readPacketSize(name, small), 64);
-    QVERIFY(writeFile(name, content));
+    writeFile(name, content);
     QCOMPARE(readPacketSize(name, small), size);
 }
 
@@ -159,7 +152,7 @@ void TestDeviceIds::pairPerLine()
 
     const QTemporaryDir folder;
     const QString name = folder.filePath("hidDeviceID.ini");
-    QVERIFY(writeFile(name, content));
+    writeFile(name, content);
     QVERIFY(readDeviceIdFile(name) == pairs);
 }
 
@@ -183,7 +176,7 @@ void TestDeviceIds::existingFileIsLeftAlone()
 {
     const QTemporaryDir folder;
     const QString name = folder.filePath("hidDeviceID.ini");
-    QVERIFY(writeFile(name, ""));
+    writeFile(name, "");
     QVERIFY(readDeviceIdFile(name).isEmpty());
     QCOMPARE(readFile(name), QByteArray());
 }
@@ -225,7 +218,7 @@ void TestDeviceIds::everyByteValue()
 /// What is listed from the start, and what the udev rules let the user open, are the same.
 void TestDeviceIds::knownTypesMayBeOpened()
 {
-    const QString path = QStringLiteral(TARNWICK_TREE "/packaging/linux/70-tarnwick.rules");
+    const QString path = inTree("packaging/linux/70-tarnwick.rules");
     QStringList rules = QString(readFile(path)).split('\n').filter(QRegularExpression("^[^#]"));
     for (const DeviceIds ids : parseDeviceIdFile(defaultDeviceIdFile())) {
         const QString rule =
@@ -238,4 +231,5 @@ void TestDeviceIds::knownTypesMayBeOpened()
 }
 
 QTEST_APPLESS_MAIN(TestDeviceIds)
+#include "testfiles.h"
 #include "tst_deviceids.moc"

@@ -1,4 +1,5 @@
 #include "fakehid.h"
+#include "knowntypes.h"
 #include "links/hid/hidlink.h"
 
 #include <QSignalSpy>
@@ -15,9 +16,6 @@ namespace {
 const char smallPath[] = R"(\\?\hid#vid_eeef&pid_1616#6&1&0&0000)";
 const char largePath[] = R"(\\?\hid#vid_eeef&pid_2929#6&2&0&0000)";
 const char barePath[] = "/dev/hidraw-bare";
-
-constexpr DeviceIds small{0xEEEF, 0x1616};
-constexpr DeviceIds large{0xEEEF, 0x2929};
 
 } // namespace
 

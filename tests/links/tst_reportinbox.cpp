@@ -30,10 +30,10 @@ QByteArray numbered(int number, int size = reportSize)
 }
 
 /// What an inbox signals, in order: reports by the number they begin with, "-N" for N bytes lost.
-class Heard : public QObject
+class HeardReports : public QObject
 {
 public:
-    explicit Heard(ReportInbox &inbox)
+    explicit HeardReports(ReportInbox &inbox)
     {
         connect(&inbox, &ReportInbox::arrived, this, [this](const QByteArray &report) {
             lines.append(QByteArray(report).replace('.', QByteArray()));
@@ -75,7 +75,7 @@ void TestReportInbox::aReportIsHandedUpAfterAWait()
 void TestReportInbox::reportsKeepTheirOrder()
 {
     ReportInbox inbox;
-    const Heard heard(inbox);
+    const HeardReports heard(inbox);
     QList<QByteArray> expected;
     for (int i = 0; i < 200; ++i) {
         inbox.put(numbered(i), {});
@@ -90,7 +90,7 @@ void TestReportInbox::reportsKeepTheirOrder()
 void TestReportInbox::allCanBeHandedUpAtOnce()
 {
     ReportInbox inbox;
-    const Heard heard(inbox);
+    const HeardReports heard(inbox);
     inbox.put("1", {});
     inbox.put("2", {});
     inbox.handUpAll();
@@ -102,7 +102,7 @@ void TestReportInbox::allCanBeHandedUpAtOnce()
 void TestReportInbox::anEmptyReportIsPassedOver()
 {
     ReportInbox inbox;
-    const Heard heard(inbox);
+    const HeardReports heard(inbox);
     inbox.put("", {});
     inbox.put("1", {});
     QTRY_COMPARE(heard.lines, QList<QByteArray>{"1"});
@@ -111,7 +111,7 @@ void TestReportInbox::anEmptyReportIsPassedOver()
 void TestReportInbox::aBusyHandlerIsNotAskedAgain()
 {
     ReportInbox inbox;
-    Heard heard(inbox);
+    HeardReports heard(inbox);
     int heardWhileBusy = 0;
     heard.whileBusy = [&] {
         inbox.put("2", {});
@@ -130,7 +130,7 @@ void TestReportInbox::beyondTheCapacityReportsAreDroppedAndTold()
     constexpr int most = ReportInbox::capacity / reportSize;
     constexpr int lost = 10;
     ReportInbox inbox;
-    Heard heard(inbox);
+    HeardReports heard(inbox);
     heard.whileBusy = [&] {
         for (int i = 1; i <= most + lost; ++i) {
             inbox.put(numbered(i), {});
@@ -149,7 +149,7 @@ void TestReportInbox::tinyReportsAreBoundedToo()
 {
     constexpr int many = ReportInbox::capacity / 16;
     ReportInbox inbox;
-    Heard heard(inbox);
+    HeardReports heard(inbox);
     heard.whileBusy = [&] {
         for (int i = 0; i < many; ++i) {
             inbox.put("x", {});
@@ -165,7 +165,7 @@ void TestReportInbox::nothingIsDroppedWithoutABusyHandler()
 {
     constexpr int many = 2 * ReportInbox::capacity / reportSize;
     ReportInbox inbox;
-    const Heard heard(inbox);
+    const HeardReports heard(inbox);
     for (int i = 0; i < many; ++i) {
         inbox.put(numbered(i), {});
     }

@@ -1,3 +1,4 @@
+#include "hexbytes.h"
 #include "log/framereassembler.h"
 
 #include <QtTest>
@@ -27,11 +28,6 @@ namespace {
 using Chunks = QStringList;
 
 constexpr StartBytes defaultHeader{0x5A, 0xA5};
-
-QByteArray hex(const QString &text)
-{
-    return QByteArray::fromHex(text.toLatin1());
-}
 
 /// "F 5AA5…" for a frame, "N …" for a notice.
 QString described(const ReceivedPiece &piece)

@@ -16,7 +16,7 @@ private slots:
 
 namespace {
 
-const QByteArray frame = QByteArray::fromHex("5AA503030001");
+const QByteArray paintedFrame = QByteArray::fromHex("5AA503030001");
 
 /// Counts how often a widget is painted.
 class PaintCounter : public QObject
@@ -37,9 +37,9 @@ private:
 };
 
 /// A log on the screen.
-struct ShownLog
+struct PaintedLog
 {
-    ShownLog()
+    PaintedLog()
         : log(table, records)
     {
         table.show();
@@ -56,9 +56,9 @@ struct ShownLog
 
 void TestLogPainting::aRowAfterAQuietTimeIsPaintedAtOnce()
 {
-    ShownLog shown;
+    PaintedLog shown;
     const PaintCounter paints(*shown.table.viewport());
-    shown.records.appendSent(frame, false);
+    shown.records.appendSent(paintedFrame, false);
     QVERIFY(shown.table.updatesEnabled());
     QTRY_VERIFY(paints.count() > 0);
 }
@@ -66,10 +66,10 @@ void TestLogPainting::aRowAfterAQuietTimeIsPaintedAtOnce()
 void TestLogPainting::rowsThatFollowEachOtherSharePaints()
 {
     constexpr int rows = 50;
-    ShownLog shown;
+    PaintedLog shown;
     const PaintCounter paints(*shown.table.viewport());
     for (int row = 0; row < rows; ++row) {
-        shown.records.appendSent(frame, false);
+        shown.records.appendSent(paintedFrame, false);
         QCoreApplication::processEvents();
     }
     const int before = paints.count();

@@ -1,4 +1,5 @@
 #include "frames/hextext.h"
+#include "hexbytes.h"
 #include "log/receiver.h"
 
 #include <QElapsedTimer>
@@ -20,11 +21,6 @@ private slots:
 };
 
 namespace {
-
-QByteArray hex(const QByteArray &text)
-{
-    return QByteArray::fromHex(text);
-}
 
 /// A receiver for the default header, and what it gives out: "F …" for a frame, "N …" for a notice.
 class Heard : public QObject

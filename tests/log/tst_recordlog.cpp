@@ -23,20 +23,20 @@ namespace {
 
 using Kind = LogRecord::Kind;
 
-const QByteArray frame = QByteArray::fromHex("5AA503010203");
+const QByteArray recordedFrame = QByteArray::fromHex("5AA503010203");
 
 void fill(RecordLog &log, int records)
 {
     for (int i = 0; i < records; ++i) {
-        log.appendSent(frame, true);
+        log.appendSent(recordedFrame, true);
     }
 }
 
 /// What a log tells, in order: a record's number, "cleared" or "started over".
-class Heard : public QObject
+class HeardRecords : public QObject
 {
 public:
-    explicit Heard(RecordLog &log)
+    explicit HeardRecords(RecordLog &log)
     {
         connect(&log, &RecordLog::appended, this,
                 [this](const LogRecord &record) { told << QString::number(record.number); });
@@ -52,20 +52,20 @@ public:
 void TestRecordLog::recordsHoldWhatHappened()
 {
     RecordLog log;
-    log.appendSent(frame, true);
-    log.appendReceived(frame, false);
+    log.appendSent(recordedFrame, true);
+    log.appendReceived(recordedFrame, false);
     log.appendStray("x");
     log.appendEvent("HID", "Insert y");
     QCOMPARE(log.count(), 4);
 
     const LogRecord sent = log.records().at(0);
     QCOMPARE(sent.kind, Kind::Sent);
-    QCOMPARE(sent.bytes, frame);
+    QCOMPARE(sent.bytes, recordedFrame);
     QVERIFY(sent.withCrc);
 
     const LogRecord received = log.records().at(1);
     QCOMPARE(received.kind, Kind::Received);
-    QCOMPARE(received.bytes, frame);
+    QCOMPARE(received.bytes, recordedFrame);
     QVERIFY(!received.withCrc);
 
     const LogRecord stray = log.records().at(2);
@@ -82,10 +82,10 @@ void TestRecordLog::recordsHoldWhatHappened()
 void TestRecordLog::eventsTakeNoNumber()
 {
     RecordLog log;
-    const Heard heard(log);
-    log.appendSent(frame, true);
+    const HeardRecords heard(log);
+    log.appendSent(recordedFrame, true);
     log.appendEvent("HID", "Insert y");
-    log.appendReceived(frame, true);
+    log.appendReceived(recordedFrame, true);
     log.appendStray("x");
     QCOMPARE(heard.told, QStringList({"1", "0", "2", "3"}));
 }
@@ -96,8 +96,8 @@ void TestRecordLog::aFullLogStartsOver()
     fill(log, 1025);
     QCOMPARE(log.count(), 1025);
     QCOMPARE(log.records().last().number, 1025);
-    const Heard heard(log);
-    log.appendReceived(frame, true);
+    const HeardRecords heard(log);
+    log.appendReceived(recordedFrame, true);
     QCOMPARE(heard.told, QStringList({"started over", "1"}));
     QCOMPARE(log.count(), 1);
     QCOMPARE(log.records().first().kind, Kind::Received);
@@ -109,9 +109,9 @@ void TestRecordLog::anEventStartsAFullLogOver()
     fill(log, 1024);
     log.appendEvent("Uart", "Remove x");
     QCOMPARE(log.count(), 1025);
-    const Heard heard(log);
+    const HeardRecords heard(log);
     log.appendEvent("Uart", "Insert x");
-    log.appendSent(frame, true);
+    log.appendSent(recordedFrame, true);
     QCOMPARE(heard.told, QStringList({"started over", "0", "1"}));
     QCOMPARE(log.count(), 2);
 }
@@ -120,10 +120,10 @@ void TestRecordLog::clearing()
 {
     RecordLog log;
     fill(log, 3);
-    const Heard heard(log);
+    const HeardRecords heard(log);
     log.clear();
     QCOMPARE(log.count(), 0);
-    log.appendSent(frame, true);
+    log.appendSent(recordedFrame, true);
     QCOMPARE(heard.told, QStringList({"cleared", "1"}));
 }
 
@@ -131,7 +131,7 @@ void TestRecordLog::recordsCarryTheTimeOfTheirClock()
 {
     ArrivalTime now{1000, 50};
     RecordLog log([&now] { return now; });
-    log.appendSent(frame, true);
+    log.appendSent(recordedFrame, true);
     now = {2000, 60};
     log.appendEvent("HID", "Insert y");
     QCOMPARE(log.records().at(0).utcUs, qint64(1000));
@@ -144,8 +144,8 @@ void TestRecordLog::aTimeThatIsKnownIsKept()
 {
     const ArrivalTime known{700, 30};
     RecordLog log([] { return ArrivalTime{1000, 50}; });
-    log.appendSent(frame, true, known);
-    log.appendReceived(frame, true, known);
+    log.appendSent(recordedFrame, true, known);
+    log.appendReceived(recordedFrame, true, known);
     log.appendStray("x", known);
     for (const LogRecord &record : log.records()) {
         QCOMPARE(record.utcUs, known.utcUs);
@@ -157,7 +157,7 @@ void TestRecordLog::theSystemsClocksAreTheUsualOnes()
 {
     const ArrivalTime before = ArrivalTime::now();
     RecordLog log;
-    log.appendSent(frame, true);
+    log.appendSent(recordedFrame, true);
     const ArrivalTime after = ArrivalTime::now();
     const LogRecord record = log.records().first();
     QVERIFY(before.monotonicNs <= record.monotonicNs && record.monotonicNs <= after.monotonicNs);
@@ -172,10 +172,10 @@ void TestRecordLog::listenersHearOfEachRecordInOrder()
         heard.append(record);
         QCOMPARE(heard.size(), log.count());
     });
-    log.appendSent(frame, true);
+    log.appendSent(recordedFrame, true);
     log.appendStray("x");
     QCOMPARE(heard.size(), 2);
-    QCOMPARE(heard.at(0).bytes, frame);
+    QCOMPARE(heard.at(0).bytes, recordedFrame);
     QCOMPARE(heard.at(1).bytes, QByteArray("x"));
 }
 

@@ -66,7 +66,7 @@ QByteArray withCrc(const QByteArray &payload)
 
 QString pluginArgument()
 {
-    return "lua_script:" TARNWICK_TREE "/packaging/wireshark/tarnwick.lua";
+    return "lua_script:" + inTree("packaging/wireshark/tarnwick.lua");
 }
 
 } // namespace

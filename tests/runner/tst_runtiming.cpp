@@ -24,11 +24,11 @@ namespace {
 
 const QByteArray everyTenMs("//@ tarnwick-run 1 interval=10\nOne,select,01 0000\n");
 
-QVector<double> everyStep(double first, double step, int count)
+QVector<double> everyStep(double begin, double step, int count)
 {
     QVector<double> times;
     for (int i = 0; i < count; ++i) {
-        times.append(first + step * i);
+        times.append(begin + step * i);
     }
     return times;
 }

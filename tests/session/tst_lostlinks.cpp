@@ -21,17 +21,17 @@ private slots:
 
 namespace {
 
-const QByteArray hidPath = "/dev/hidraw-of-a-session";
+const QByteArray lostPath = "/dev/hidraw-of-a-session";
 constexpr DeviceIds hidIds{0xEEEF, 0x1616};
 
 /// A session whose links go, with all that it tells and records in one list.
-class Bench
+class LossBench
 {
 public:
-    Bench()
+    LossBench()
     {
         FakeHid::instance().reset();
-        FakeHid::instance().addDevice(hidPath, hidIds.vendor, hidIds.product);
+        FakeHid::instance().addDevice(lostPath, hidIds.vendor, hidIds.product);
         session.links().hid().readDeviceTypes();
         session.links().hid().listDevices();
         session.setHeaderText("0x5A,0xA5");
@@ -66,7 +66,7 @@ public:
     bool loopOverHid()
     {
         session.use(LinkMode::Hid);
-        const bool opened = session.links().hid().open(hidPath, 0);
+        const bool opened = session.links().hid().open(lostPath, 0);
         startLoop();
         return opened;
     }
@@ -90,14 +90,14 @@ private:
 
 WatchedDevice hidDevice()
 {
-    return {DeviceKind::Hid, hidPath, hidDeviceName(hidPath, hidIds)};
+    return {DeviceKind::Hid, lostPath, hidDeviceName(lostPath, hidIds)};
 }
 
 } // namespace
 
 void TestLostLinks::aFailedPortIsClosedAndNamed()
 {
-    Bench bench;
+    LossBench bench;
     QVERIFY(bench.loopOverPort());
     bench.port.unplug();
     QTRY_COMPARE(bench.heard,
@@ -106,17 +106,17 @@ void TestLostLinks::aFailedPortIsClosedAndNamed()
 
 void TestLostLinks::aFailedHidDeviceIsClosedAndNamed()
 {
-    Bench bench;
+    LossBench bench;
     FakeHid::instance().failWrites();
     QVERIFY(bench.loopOverHid());
     QTRY_COMPARE(bench.heard.size(), 1);
-    QVERIFY(bench.heard.at(0).startsWith("failed HID " + hidPath + ": "));
+    QVERIFY(bench.heard.at(0).startsWith("failed HID " + lostPath + ": "));
     QCOMPARE(FakeHid::instance().openHandles(), 0);
 }
 
 void TestLostLinks::aPortThatGoesIsClosedBeforeItsRow()
 {
-    Bench bench;
+    LossBench bench;
     QVERIFY(bench.loopOverPort());
     FakeSystem::instance().pullOut({DeviceKind::Port, bench.port.path(), bench.port.path()});
     QCOMPARE(bench.heard,
@@ -125,16 +125,16 @@ void TestLostLinks::aPortThatGoesIsClosedBeforeItsRow()
 
 void TestLostLinks::aHidDeviceThatGoesIsClosedBeforeItsRow()
 {
-    Bench bench;
+    LossBench bench;
     QVERIFY(bench.loopOverHid());
     FakeSystem::instance().pullOut(hidDevice());
     QCOMPARE(bench.heard,
-             (QStringList{"gone HID " + hidPath, "HID Remove " + hidDevice().name.toUpper()}));
+             (QStringList{"gone HID " + lostPath, "HID Remove " + hidDevice().name.toUpper()}));
 }
 
 void TestLostLinks::otherDevicesAreOnlyRecorded()
 {
-    Bench bench;
+    LossBench bench;
     QVERIFY(bench.loopOverPort());
     FakeSystem::instance().plugIn(hidDevice());
     FakeSystem::instance().pullOut(hidDevice());

@@ -1,4 +1,5 @@
 #include "runningdevice.h"
+#include "testfiles.h"
 
 #include <QProcess>
 #include <QtTest>
@@ -33,7 +34,7 @@ void TestSendFile::anExampleIsSentTwiceAndAnswered()
     RunningDevice device;
     QVERIFY(device.startOnly());
     const QStringList lines =
-        linesOf(SENDFILE, {TARNWICK_TREE "/examples/loop.txt", device.printedPath()});
+        linesOf(SENDFILE, {inTree("examples/loop.txt"), device.printedPath()});
     const QStringList pass = lines.mid(0, lines.size() / 2);
     QVERIFY2(lines.size() % 2 == 0 && !pass.isEmpty(), qPrintable(lines.join('\n')));
     QCOMPARE(lines.filter(QRegularExpression("^tx")).size(),
@@ -55,4 +56,5 @@ void TestSendFile::nothingOfItKnowsWidgets()
 
 QTEST_GUILESS_MAIN(TestSendFile)
 
+#include "testfiles.h"
 #include "tst_sendfile.moc"

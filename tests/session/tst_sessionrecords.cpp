@@ -28,10 +28,10 @@ namespace {
 const QByteArray hidPath = "/dev/hidraw-of-a-session";
 
 /// A session with the default header, and a serial port and a HID device that it can open.
-class Bench
+class RecordBench
 {
 public:
-    Bench()
+    RecordBench()
     {
         FakeHid::instance().reset();
         FakeHid::instance().addDevice(hidPath, 0xEEEF, 0x1616);
@@ -79,7 +79,7 @@ QVector<CheckedRow> twoRows()
 
 void TestSessionRecords::aClosedLinkIsTold()
 {
-    Bench bench;
+    RecordBench bench;
     bench.session.sender().sendOne("0310");
     QCOMPARE(bench.notices.count(), 1);
     QCOMPARE(bench.notices.at(0).at(0).toString(), bench.session.links().serial().closedMessage());
@@ -91,7 +91,7 @@ void TestSessionRecords::aClosedLinkIsTold()
 
 void TestSessionRecords::whatIsSentIsRecorded()
 {
-    Bench bench;
+    RecordBench bench;
     QVERIFY(bench.openPort());
     bench.session.sender().sendOne("0310");
     QTRY_COMPARE(bench.port.received(), QByteArray::fromHex("5AA5020310"));
@@ -100,7 +100,7 @@ void TestSessionRecords::whatIsSentIsRecorded()
 
 void TestSessionRecords::aBlockIsRecordedFrameByFrame()
 {
-    Bench bench;
+    RecordBench bench;
     QVERIFY(bench.openPort());
     bench.session.sender().sendAll(twoRows());
     QTRY_COMPARE(bench.port.received(), QByteArray::fromHex("5AA50203105AA5020311"));
@@ -109,7 +109,7 @@ void TestSessionRecords::aBlockIsRecordedFrameByFrame()
 
 void TestSessionRecords::whatIsReceivedIsRecorded()
 {
-    Bench bench;
+    RecordBench bench;
     QVERIFY(bench.openPort());
     bench.port.send(QByteArray::fromHex("01025AA5020310"));
     QTRY_COMPARE(bench.records(), (QStringList{"stray 1 0102", "received 2 5aa5020310"}));
@@ -118,7 +118,7 @@ void TestSessionRecords::whatIsReceivedIsRecorded()
 
 void TestSessionRecords::theCrcFlagIsThatOfTheMoment()
 {
-    Bench bench;
+    RecordBench bench;
     QVERIFY(bench.openPort());
     bench.session.sender().sendOne("0310");
     bench.session.format().setCrc(true);
@@ -131,7 +131,7 @@ void TestSessionRecords::theCrcFlagIsThatOfTheMoment()
 
 void TestSessionRecords::zerosOfAHidDeviceAreNoStrayBytes()
 {
-    Bench bench;
+    RecordBench bench;
     QVERIFY(bench.openHid());
     FakeHid::instance().sendReport(QByteArray::fromHex("5AA5020310").leftJustified(64, '\0'));
     FakeHid::instance().sendReport(QByteArray::fromHex("5AA5020311").leftJustified(64, '\7'));
@@ -148,7 +148,7 @@ void TestSessionRecords::zerosOfAHidDeviceAreNoStrayBytes()
 
 void TestSessionRecords::oneLinkIsInUse()
 {
-    Bench bench;
+    RecordBench bench;
     QCOMPARE(bench.session.links().mode(), LinkMode::Uart);
     QVERIFY(bench.openPort());
     bench.session.use(LinkMode::Uart);
@@ -164,7 +164,7 @@ void TestSessionRecords::oneLinkIsInUse()
 
 void TestSessionRecords::aBadHeaderIsToldOnTheReceivePathOnce()
 {
-    Bench bench;
+    RecordBench bench;
     QVERIFY(bench.openPort());
     bench.session.setHeaderText("0x5A");
     bench.port.send(QByteArray::fromHex("A55A020310"));
@@ -178,7 +178,7 @@ void TestSessionRecords::aBadHeaderIsToldOnTheReceivePathOnce()
 
 void TestSessionRecords::aBadHeaderIsToldAtEachSend()
 {
-    Bench bench;
+    RecordBench bench;
     QVERIFY(bench.openPort());
     bench.session.setHeaderText("0x5A");
     bench.session.sender().sendOne("0310");
@@ -190,7 +190,7 @@ void TestSessionRecords::aBadHeaderIsToldAtEachSend()
 
 void TestSessionRecords::theEndStopsTheLoopAndClosesTheLink()
 {
-    Bench bench;
+    RecordBench bench;
     QVERIFY(bench.openPort());
     bench.session.loop().start(twoRows(), {1, 0});
     QTRY_VERIFY(bench.records().size() >= 4);

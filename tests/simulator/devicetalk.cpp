@@ -5,11 +5,6 @@
 
 #include <QtEndian>
 
-QByteArray hex(const char *digits)
-{
-    return QByteArray::fromHex(digits);
-}
-
 QByteArray frame(const QByteArray &payload)
 {
     FrameLayout layout;

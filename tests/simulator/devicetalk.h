@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frames/startbytes.h"
+#include "hexbytes.h"
 #include "runningdevice.h"
 
 #include <QByteArray>
@@ -8,9 +9,6 @@
 
 /// The header that a device speaks with if nothing else is asked for.
 constexpr StartBytes defaultHeader{0x5A, 0xA5};
-
-/// Bytes of hex digits; blanks do not matter.
-QByteArray hex(const char *digits);
 
 /// The frame of a payload, without CRC.
 QByteArray frame(const QByteArray &payload);

@@ -1,4 +1,5 @@
 #include "frames/framebuilder.h"
+#include "hexbytes.h"
 #include "simulator/deviceparser.h"
 
 #include <QRandomGenerator>
@@ -7,11 +8,6 @@
 namespace {
 
 constexpr StartBytes header{0x5A, 0xA5};
-
-QByteArray hex(const char *digits)
-{
-    return QByteArray::fromHex(digits);
-}
 
 QVector<QByteArray> payloads(std::initializer_list<const char *> texts)
 {
@@ -22,7 +18,7 @@ QVector<QByteArray> payloads(std::initializer_list<const char *> texts)
     return result;
 }
 
-QByteArray frame(const QByteArray &payload, bool withCrc = false)
+QByteArray frameOf(const QByteArray &payload, bool withCrc = false)
 {
     FrameLayout layout;
     layout.startBytes = header;
@@ -84,7 +80,7 @@ void TestDeviceParser::findsFrames_data()
     const QByteArray longPayload = QByteArray(1, '\x10') + QByteArray(299, '\x5A');
     for (const bool withCrc : {false, true}) {
         QTest::newRow(withCrc ? "long form with CRC" : "long form")
-            << withCrc << frame(longPayload, withCrc) << QVector<QByteArray>{longPayload};
+            << withCrc << frameOf(longPayload, withCrc) << QVector<QByteArray>{longPayload};
     }
 }
 
@@ -128,7 +124,7 @@ void TestDeviceParser::findsRandomFramesInRandomPieces()
             byte = static_cast<char>(random.bounded(256));
         }
         sent.append(payload);
-        stream += QByteArray(random.bounded(4), '\x11') + frame(payload, withCrc);
+        stream += QByteArray(random.bounded(4), '\x11') + frameOf(payload, withCrc);
     }
     DeviceParser parser(header, withCrc);
     QVector<QByteArray> found;
@@ -183,7 +179,7 @@ void TestDeviceParser::understandsTheLongestFrame()
 {
     const QByteArray payload(0xFFFF, '\x10');
     DeviceParser parser(header, false);
-    QCOMPARE(parser.take(frame(payload)), QVector<QByteArray>{payload});
+    QCOMPARE(parser.take(frameOf(payload)), QVector<QByteArray>{payload});
 }
 
 QTEST_APPLESS_MAIN(TestDeviceParser)

@@ -19,7 +19,7 @@ private slots:
 
 namespace {
 
-const QByteArray frame = QByteArray::fromHex("5AA503420102");
+const QByteArray disturbedFrame = QByteArray::fromHex("5AA503420102");
 
 DeviceOptions garbageOptions(int every, quint32 seed = 1)
 {
@@ -35,7 +35,7 @@ void TestDisturbance::leavesFramesAloneByDefault()
 {
     Disturbance disturbance{DeviceOptions()};
     for (int i = 0; i < 100; ++i) {
-        QCOMPARE(disturbance.withGarbage(frame), frame);
+        QCOMPARE(disturbance.withGarbage(disturbedFrame), disturbedFrame);
     }
 }
 
@@ -51,10 +51,10 @@ void TestDisturbance::garbageComesBeforeEachNthFrame()
     QFETCH(int, every);
     Disturbance disturbance(garbageOptions(every));
     for (int i = 1; i <= 300; ++i) {
-        const QByteArray block = disturbance.withGarbage(frame);
-        QVERIFY(block.endsWith(frame));
-        QCOMPARE(block.size() > frame.size(), i % every == 0);
-        QVERIFY(block.size() <= frame.size() + 16);
+        const QByteArray block = disturbance.withGarbage(disturbedFrame);
+        QVERIFY(block.endsWith(disturbedFrame));
+        QCOMPARE(block.size() > disturbedFrame.size(), i % every == 0);
+        QVERIFY(block.size() <= disturbedFrame.size() + 16);
     }
 }
 
@@ -63,8 +63,8 @@ void TestDisturbance::garbageHasAllBytesButTheFirstStartByte()
     Disturbance disturbance(garbageOptions(1));
     QSet<char> seen;
     for (int i = 0; i < 2000; ++i) {
-        QByteArray block = disturbance.withGarbage(frame);
-        block.chop(frame.size());
+        QByteArray block = disturbance.withGarbage(disturbedFrame);
+        block.chop(disturbedFrame.size());
         for (const char byte : block) {
             seen.insert(byte);
         }
@@ -116,7 +116,7 @@ void TestDisturbance::sameSeedSameChoices()
         Disturbance disturbance(garbageOptions(1, seed));
         QByteArray all;
         for (int i = 0; i < 20; ++i) {
-            all += disturbance.withGarbage(frame);
+            all += disturbance.withGarbage(disturbedFrame);
         }
         return all;
     };

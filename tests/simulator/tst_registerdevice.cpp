@@ -1,3 +1,4 @@
+#include "hexbytes.h"
 #include "simulator/registerdevice.h"
 
 #include <QtTest>
@@ -20,11 +21,6 @@ private slots:
 namespace {
 
 constexpr int longest = 255;
-
-QByteArray hex(const char *digits)
-{
-    return QByteArray::fromHex(digits);
-}
 
 } // namespace
 

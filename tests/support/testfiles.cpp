@@ -4,6 +4,11 @@
 #include <QFile>
 #include <QtTest>
 
+QString inTree(const QString &path)
+{
+    return QStringLiteral(TARNWICK_TREE "/") + path;
+}
+
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);

@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+/// The path of a file of the source tree, given from its root.
+QString inTree(const QString &path);
+
 /// What a file holds; "unreadable" if it cannot be read.
 QByteArray contentOf(const QString &path);
 

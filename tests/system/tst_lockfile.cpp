@@ -25,7 +25,7 @@ private slots:
     void saysWhyItFails();
 };
 
-using Outcome = LockFile::Outcome;
+using Locking = LockFile::Outcome;
 
 void TestLockFile::holdsUntilItIsUnlocked()
 {
@@ -33,16 +33,16 @@ void TestLockFile::holdsUntilItIsUnlocked()
     const QString path = dir.filePath(QStringLiteral("lock"));
     LockFile first(path);
     QVERIFY(!QFileInfo::exists(path));
-    QCOMPARE(first.tryLock(), Outcome::Locked);
-    QCOMPARE(first.tryLock(), Outcome::Locked);
+    QCOMPARE(first.tryLock(), Locking::Locked);
+    QCOMPARE(first.tryLock(), Locking::Locked);
     LockFile second(path);
-    QCOMPARE(second.tryLock(), Outcome::HeldByAnother);
+    QCOMPARE(second.tryLock(), Locking::HeldByAnother);
     QVERIFY(!second.isLocked());
     second.unlock();
     QVERIFY(QFileInfo::exists(path));
     first.unlock();
     QVERIFY(!QFileInfo::exists(path));
-    QCOMPARE(second.tryLock(), Outcome::Locked);
+    QCOMPARE(second.tryLock(), Locking::Locked);
 }
 
 void TestLockFile::goesWithItsProcess()
@@ -53,11 +53,11 @@ void TestLockFile::goesWithItsProcess()
     other.start(QCoreApplication::applicationFilePath(), {"--hold", path});
     QVERIFY(other.waitForReadyRead());
     LockFile lock(path);
-    QCOMPARE(lock.tryLock(), Outcome::HeldByAnother);
+    QCOMPARE(lock.tryLock(), Locking::HeldByAnother);
     other.kill();
     QVERIFY(other.waitForFinished());
     QVERIFY(QFileInfo::exists(path));
-    QCOMPARE(lock.tryLock(), Outcome::Locked);
+    QCOMPARE(lock.tryLock(), Locking::Locked);
 }
 
 void TestLockFile::takesOverWhateverIsInIt_data()
@@ -76,7 +76,7 @@ void TestLockFile::takesOverWhateverIsInIt()
     const QString path = dir.filePath(QStringLiteral("lock"));
     writeFile(path, content);
     LockFile lock(path);
-    QCOMPARE(lock.tryLock(), Outcome::Locked);
+    QCOMPARE(lock.tryLock(), Locking::Locked);
     QCOMPARE(contentOf(path), QByteArray::number(getpid()) + '\n');
 }
 
@@ -90,7 +90,7 @@ void TestLockFile::takesOverWhatNobodyCanRead()
     const OrdinaryUser user;
     QVERIFY(user.isInForce());
     LockFile lock(path);
-    QCOMPARE(lock.tryLock(), Outcome::Locked);
+    QCOMPARE(lock.tryLock(), Locking::Locked);
 }
 
 void TestLockFile::locksWhatItCanOnlyRead()
@@ -100,9 +100,9 @@ void TestLockFile::locksWhatItCanOnlyRead()
     const OrdinaryUser user;
     QVERIFY(user.isInForce());
     LockFile first(folder.filePath());
-    QCOMPARE(first.tryLock(), Outcome::Locked);
+    QCOMPARE(first.tryLock(), Locking::Locked);
     LockFile second(folder.filePath());
-    QCOMPARE(second.tryLock(), Outcome::HeldByAnother);
+    QCOMPARE(second.tryLock(), Locking::HeldByAnother);
 }
 
 void TestLockFile::saysWhyItFails_data()
@@ -121,7 +121,7 @@ void TestLockFile::saysWhyItFails()
     QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("folder")));
     QCOMPARE(mkfifo(qUtf8Printable(dir.filePath(QStringLiteral("pipe"))), 0600), 0);
     LockFile lock(dir.filePath(name));
-    QCOMPARE(lock.tryLock(), Outcome::Failed);
+    QCOMPARE(lock.tryLock(), Locking::Failed);
     QVERIFY(!lock.error().isEmpty());
     QCOMPARE(filesIn(dir.path()), QStringList("pipe"));
 }
@@ -131,7 +131,7 @@ int main(int argc, char *argv[])
     const QCoreApplication app(argc, argv);
     if (QCoreApplication::arguments().value(1) == QLatin1String("--hold")) {
         LockFile lock(QCoreApplication::arguments().value(2));
-        puts(lock.tryLock() == Outcome::Locked ? "locked" : "failed");
+        puts(lock.tryLock() == Locking::Locked ? "locked" : "failed");
         fflush(stdout);
         return QCoreApplication::exec();
     }

@@ -25,7 +25,7 @@ private slots:
 namespace {
 
 constexpr int columns = 2;
-constexpr int rows = 3;
+constexpr int lines = 3;
 constexpr int barWidth = 4;
 const QColor barColour(0x00, 0x6F, 0xCF);
 const QColor received(0, 130, 255);
@@ -33,10 +33,10 @@ const QColor received(0, 130, 255);
 void fill(QTableWidget &table, const QString &text, LogItem::Colour colour, Qt::Alignment alignment,
           int width)
 {
-    styleTable(table, columns, rows);
+    styleTable(table, columns, lines);
     for (int column = 0; column < columns; ++column) {
         table.setColumnWidth(column, width);
-        for (int row = 0; row < rows; ++row) {
+        for (int row = 0; row < lines; ++row) {
             table.setItem(row, column, new LogItem(text, alignment, colour));
         }
     }
@@ -121,7 +121,7 @@ void TestPlainCellDelegate::aSelectedRowIsMarkedInItsFirstCell()
     table.setItemDelegate(&plainDelegate);
     table.selectRow(1);
     const QImage look = picture(table, 1);
-    for (int row = 0; row < rows; ++row) {
+    for (int row = 0; row < lines; ++row) {
         const QRect cell = table.visualRect(table.model()->index(row, 0));
         const QRect bar(cell.topLeft(), QSize(barWidth, cell.height()));
         QImage expected(bar.size(), look.format());

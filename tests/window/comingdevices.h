@@ -4,6 +4,7 @@
 #include "links/watch/watcheddevice.h"
 
 #include <QByteArray>
+#include <QMetaType>
 #include <QStringList>
 
 // Devices that come and go at a window: the HID library lists them and the system's watch announces
@@ -29,3 +30,5 @@ void pullOutSmall();
 
 /// The log's row about a device.
 QStringList deviceRow(const QString &link, const QString &text);
+
+Q_DECLARE_METATYPE(WatchedDevice)

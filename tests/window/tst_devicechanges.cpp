@@ -36,8 +36,6 @@ int listings()
 
 } // namespace
 
-Q_DECLARE_METATYPE(WatchedDevice)
-
 void TestDeviceChanges::init()
 {
     attachBoth();

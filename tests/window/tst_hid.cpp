@@ -1,4 +1,5 @@
 #include "fakehid.h"
+#include "hexbytes.h"
 #include "hidbench.h"
 #include "hidwindow.h"
 #include "links/hid/hidlink.h"
@@ -42,11 +43,6 @@ namespace {
 const QByteArray smallDevice = "fake#VID_EEEF&PID_1616#1";
 const QByteArray largeDevice = "fake#VID_EEEF&PID_2929#1";
 constexpr int smallReport = 64;
-
-QByteArray hex(const QString &text)
-{
-    return QByteArray::fromHex(text.toLatin1());
-}
 
 QByteArray report(const QByteArray &frame, char reportId = 0, int size = smallReport)
 {

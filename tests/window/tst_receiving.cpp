@@ -1,3 +1,4 @@
+#include "hexbytes.h"
 #include "windowdriver.h"
 
 #include <QElapsedTimer>
@@ -35,11 +36,6 @@ private slots:
 namespace {
 
 const QColor receivedColour(0, 130, 255);
-
-QByteArray hex(const QString &text)
-{
-    return QByteArray::fromHex(text.toLatin1());
-}
 
 QByteArray numberedFrame(int number)
 {

@@ -115,7 +115,6 @@ using Removal = std::function<void(OpenWindow &)>;
 
 } // namespace
 
-Q_DECLARE_METATYPE(WatchedDevice)
 Q_DECLARE_METATYPE(Removal)
 
 void TestRemoval::init()

@@ -1,4 +1,5 @@
 #include "frames/sendloop.h"
+#include "hexbytes.h"
 #include "windowdriver.h"
 
 #include <QElapsedTimer>
@@ -30,11 +31,6 @@ private slots:
 };
 
 namespace {
-
-QByteArray hex(const QString &text)
-{
-    return QByteArray::fromHex(text.toLatin1());
-}
 
 const QString hugeData = QString("00").repeated(65535);
 

@@ -32,7 +32,7 @@ private slots:
 
 namespace {
 
-const QByteArray devicePath = "fake#VID_EEEF&PID_1616#1";
+const QByteArray panelDevice = "fake#VID_EEEF&PID_1616#1";
 QStringList printed;
 
 void notePrinted(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const QString &text)
@@ -63,8 +63,8 @@ void showActive(WindowDriver &window)
 void TestSidePanel::init()
 {
     FakeHid::instance().reset();
-    FakeHid::instance().addDevice(devicePath, 0xEEEF, 0x1616);
-    FakeHid::instance().addDevice(devicePath + "b", 0xEEEF, 0x1616);
+    FakeHid::instance().addDevice(panelDevice, 0xEEEF, 0x1616);
+    FakeHid::instance().addDevice(panelDevice + "b", 0xEEEF, 0x1616);
 }
 
 void TestSidePanel::numbersTakeDigitsAlone_data()

@@ -43,7 +43,7 @@ private:
 
 namespace {
 
-const QByteArray devicePath = "fake#VID_EEEF&PID_1616#1";
+const QByteArray statusDevice = "fake#VID_EEEF&PID_1616#1";
 
 QString told(const WindowDriver &window, const char *label = "label_Status")
 {
@@ -60,7 +60,7 @@ QString listTitle(const WindowDriver &window)
 void TestStatus::init()
 {
     FakeHid::instance().reset();
-    FakeHid::instance().addDevice(devicePath, 0xEEEF, 0x1616);
+    FakeHid::instance().addDevice(statusDevice, 0xEEEF, 0x1616);
 }
 
 void TestStatus::anOpenPortIsShownWithItsSettings()
@@ -189,8 +189,8 @@ void TestStatus::anOpenDeviceIsShown()
 {
     HidWindow window;
     window.edit("lineEdit_RpID")->setText("0x05");
-    window.openDevice(devicePath);
-    QCOMPARE(told(window, "label_Status_2"), devicePath + ", 64 bytes, report ID 0x05");
+    window.openDevice(statusDevice);
+    QCOMPARE(told(window, "label_Status_2"), statusDevice + ", 64 bytes, report ID 0x05");
     window.click("pushButton_ConnectHID");
     QCOMPARE(told(window, "label_Status_2"), QString());
 }
@@ -198,24 +198,24 @@ void TestStatus::anOpenDeviceIsShown()
 void TestStatus::aDeviceThatFailedSaysWhy()
 {
     MessageBoxes boxes;
-    FakeHid::instance().setOpenable(devicePath, false);
+    FakeHid::instance().setOpenable(statusDevice, false);
     HidWindow window;
-    window.openDevice(devicePath);
+    window.openDevice(statusDevice);
     QCOMPARE(boxes.texts(), QStringList{"Open fail"});
-    QVERIFY2(told(window, "label_Status_2").startsWith(devicePath + ": "),
+    QVERIFY2(told(window, "label_Status_2").startsWith(statusDevice + ": "),
              qPrintable(told(window, "label_Status_2")));
 }
 
 void TestStatus::aLostDeviceIsTold()
 {
     HidWindow window;
-    window.openDevice(devicePath);
+    window.openDevice(statusDevice);
     FakeHid::instance().failWrites();
     window.setRow(0, "01", "0300", "01");
     window.call("SendOne");
     QTRY_COMPARE(window.linkCaption(), QString("Open HID Device"));
     QCOMPARE(told(window, "label_Status_2"),
-             "The connection to " + devicePath + " is lost: it takes nothing any more");
+             "The connection to " + statusDevice + " is lost: it takes nothing any more");
 }
 
 void TestStatus::theOtherTabBeginsClean()

@@ -30,7 +30,7 @@ private slots:
 
 namespace {
 
-QString filePath()
+QString windowFile()
 {
     return QCoreApplication::applicationDirPath() + "/window.ini";
 }
@@ -49,8 +49,8 @@ QSplitter *splitter(const WindowDriver &window)
 
 void TestWindowMemory::init()
 {
-    QDir(filePath()).removeRecursively();
-    QFile::remove(filePath());
+    QDir(windowFile()).removeRecursively();
+    QFile::remove(windowFile());
 }
 
 void TestWindowMemory::theFirstSizeFitsTheScreen()
@@ -106,7 +106,7 @@ void TestWindowMemory::aMaximisedWindowComesBackSo()
 
 void TestWindowMemory::aPlaceOffTheScreensIsBroughtBack()
 {
-    writeFile(filePath(), "[window]\nx=-5000\ny=9000\nwidth=300\nheight=200\n");
+    writeFile(windowFile(), "[window]\nx=-5000\ny=9000\nwidth=300\nheight=200\n");
     WindowDriver window;
     QVERIFY(screenRoom(window).contains(window.window().geometry()));
     QCOMPARE(window.window().size(), QSize(300, 200));
@@ -119,7 +119,7 @@ void TestWindowMemory::theSettingsFileKeepsItsKeys()
     const QByteArray settings =
         textIn(QCoreApplication::applicationDirPath() + "/debuggerConfig.ini");
     QCOMPARE(settings.count('='), 6);
-    QVERIFY(textIn(filePath()).startsWith("[window]\nx="));
+    QVERIFY(textIn(windowFile()).startsWith("[window]\nx="));
 }
 
 void TestWindowMemory::aBadFileIsNoHarm_data()
@@ -134,25 +134,25 @@ void TestWindowMemory::aBadFileIsNoHarm_data()
 void TestWindowMemory::aBadFileIsNoHarm()
 {
     QFETCH(QByteArray, bytes);
-    writeFile(filePath(), bytes);
+    writeFile(windowFile(), bytes);
     WindowDriver window;
     QCOMPARE(window.window().size(),
              QSize(1120, 760).boundedTo(screenRoom(window).size() - QSize(16, 40)));
     QVERIFY(window.window().close());
-    QVERIFY(textIn(filePath()).startsWith("[window]\nx="));
+    QVERIFY(textIn(windowFile()).startsWith("[window]\nx="));
 }
 
 void TestWindowMemory::aFolderInItsPlaceIsNoHarm()
 {
-    QVERIFY(QDir().mkpath(filePath() + "/inside"));
+    QVERIFY(QDir().mkpath(windowFile() + "/inside"));
     WindowDriver window;
     QVERIFY(window.window().close());
-    QVERIFY(QDir(filePath() + "/inside").exists());
+    QVERIFY(QDir(windowFile() + "/inside").exists());
 }
 
 void TestWindowMemory::aLinkToADeviceIsNoHarm()
 {
-    QVERIFY(QFile::link("/dev/zero", filePath()));
+    QVERIFY(QFile::link("/dev/zero", windowFile()));
     WindowDriver window;
     QVERIFY(window.window().isVisible());
     QVERIFY(window.window().close());
