@@ -248,7 +248,7 @@ void Dialog::Close_HidDevice_From_thread()
 void Dialog::SendOne()
 {
     takeCrcFlag();
-    m_session.sender().sendOne(m_commands.currentFrameText());
+    m_session.sender().sendOne(m_commands.currentRow());
 }
 
 void Dialog::on_pushButton_SendAll_clicked()

@@ -1,6 +1,7 @@
 #include "app/linktexts.h"
 
 #include "frames/hextext.h"
+#include "links/serial/serialline.h"
 #include "links/serial/seriallink.h"
 
 #include <QCoreApplication>
@@ -12,30 +13,6 @@ constexpr int longestPath = 48;
 QString tr(const char *text)
 {
     return QCoreApplication::translate("LinkTexts", text);
-}
-
-QString parityLetter(QSerialPort::Parity parity)
-{
-    switch (parity) {
-    case QSerialPort::EvenParity:
-        return QStringLiteral("E");
-    case QSerialPort::OddParity:
-        return QStringLiteral("O");
-    default:
-        return QStringLiteral("N");
-    }
-}
-
-QString stopBitsText(QSerialPort::StopBits bits)
-{
-    switch (bits) {
-    case QSerialPort::TwoStop:
-        return QStringLiteral("2");
-    case QSerialPort::OneAndHalfStop:
-        return QStringLiteral("1.5");
-    default:
-        return QStringLiteral("1");
-    }
 }
 
 QString shortened(const QString &path)
@@ -55,10 +32,7 @@ QString plainReason(const QString &name, const OpenFailure &failure)
 
 QString describeLink(const SerialSettings &settings)
 {
-    return QStringLiteral("%1 %2 %3%4%5")
-        .arg(settings.portName, QString::number(settings.baudRate),
-             QString::number(settings.dataBits), parityLetter(settings.parity),
-             stopBitsText(settings.stopBits));
+    return settings.portName + QLatin1Char(' ') + describeLine(settings);
 }
 
 QString describeLink(const HidDescription &device)

@@ -167,12 +167,23 @@ QString CommandTable::currentFrameText() const
     return frameText(row(m_table.currentRow()));
 }
 
+CheckedRow CommandTable::currentRow() const
+{
+    return checkedRow(m_table.currentRow());
+}
+
+CheckedRow CommandTable::checkedRow(int row) const
+{
+    const CommandRow command = this->row(row);
+    return {row + 1, frameText(command), command.description};
+}
+
 QVector<CheckedRow> CommandTable::checkedRows() const
 {
     QVector<CheckedRow> checked;
     for (int row = 0; row < m_table.rowCount(); ++row) {
         if (isSelectCellChecked(m_table, row, Column::Select)) {
-            checked.append({row + 1, frameText(this->row(row))});
+            checked.append(checkedRow(row));
         }
     }
     return checked;

@@ -56,6 +56,9 @@ public:
     /// CMD, Addr and Data of the current row joined, without blanks; empty without a current row.
     QString currentFrameText() const;
 
+    /// The current row as it is sent.
+    CheckedRow currentRow() const;
+
     /// The rows whose Select box is checked, in order.
     QVector<CheckedRow> checkedRows() const;
 
@@ -90,6 +93,7 @@ signals:
     void enterPressed();
 
 private:
+    CheckedRow checkedRow(int row) const;
     void installDelegates();
     void insertFilledRow(int row, const CommandRow &content);
     void fillRow(int row, const CommandRow &content);

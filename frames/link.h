@@ -40,6 +40,15 @@ public:
     /// Bytes that still wait to leave the program.
     virtual qint64 unsentBytes() const = 0;
 
+protected:
+    /// Tells that what still waits to leave never will.
+    void tellUnsent()
+    {
+        if (unsentBytes() > 0) {
+            emit unsentDropped(unsentBytes());
+        }
+    }
+
 signals:
     /// What has come in, and when the first of these bytes was read from the system. Times don't go
     /// back from one chunk to the next. While a handler runs, nothing more is handed up.
@@ -48,6 +57,9 @@ signals:
     /// The open link has failed for good, for the reason given. Emitted once, from the event loop,
     /// behind the last bytes. The link is open until somebody closes it.
     void lost(const QString &reason);
+
+    /// So many bytes of what was written never left, since the link is being closed.
+    void unsentDropped(qint64 bytes);
 
     /// The link has been opened or closed.
     void openChanged(bool isOpen);

@@ -40,8 +40,9 @@ bool Sender::requireOpenLink()
     return false;
 }
 
-void Sender::sendOne(const QString &frameText)
+void Sender::sendOne(const CheckedRow &row)
 {
+    const QString &frameText = row.frameText;
     if (!requireOpenLink()) {
         return;
     }
@@ -54,7 +55,7 @@ void Sender::sendOne(const QString &frameText)
         emit message(overlongInstructionWarning(length));
     }
     HeaderNotice notice;
-    tellFrame(handOverText(frameText, notice));
+    tellFrame(handOverText(frameText, notice, {0, row.number, row.description}));
 }
 
 void Sender::sendAll(const QVector<CheckedRow> &rows)
@@ -73,7 +74,7 @@ void Sender::sendAll(const QVector<CheckedRow> &rows)
         emit message(QStringLiteral("Not thing to send!"));
         return;
     }
-    tellBlock(handOverBlock(plan.block));
+    tellBlock(handOverBlock(plan.block, plan.parts));
 }
 
 LoopPlan Sender::planLoop(const QVector<CheckedRow> &rows)
@@ -83,22 +84,24 @@ LoopPlan Sender::planLoop(const QVector<CheckedRow> &rows)
                       [this, &notice](const QString &text) { return makeFrame(text, notice); });
 }
 
-QByteArray Sender::handOverText(const QString &frameText, HeaderNotice &notice)
+QByteArray Sender::handOverText(const QString &frameText, HeaderNotice &notice,
+                                const BlockPart &row)
 {
     const QByteArray frame = makeFrame(frameText, notice);
     if (frame.isEmpty()) {
         tellNothingToSend();
         return {};
     }
-    return handOverBlock(frame);
+    return handOverBlock(frame, {{frame.size(), row.row, row.description}});
 }
 
-QByteArray Sender::handOverBlock(const QByteArray &block)
+QByteArray Sender::handOverBlock(const QByteArray &block, const QVector<BlockPart> &parts)
 {
     if (!isTaken(block)) {
         return {};
     }
     m_handedOver = ArrivalTime::now();
+    m_handedOverParts = parts;
     m_link->write(block);
     return block;
 }
@@ -106,6 +109,7 @@ QByteArray Sender::handOverBlock(const QByteArray &block)
 void Sender::tellFrame(const QByteArray &frame)
 {
     if (!frame.isEmpty()) {
+        emit handedOver(frame, m_handedOverParts, m_handedOver);
         emit sent(frame, m_handedOver);
     }
 }
@@ -115,6 +119,7 @@ void Sender::tellBlock(const QByteArray &block)
     if (block.isEmpty()) {
         return;
     }
+    emit handedOver(block, m_handedOverParts, m_handedOver);
     for (const QByteArray &frame : splitBlock(block, m_settings.startBytes())) {
         emit sent(frame, m_handedOver);
     }

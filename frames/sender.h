@@ -33,7 +33,9 @@ public:
 
     /// Sends one row's frame text; a delay row has nothing to send. A text too long for the link is
     /// sent after a warning.
-    void sendOne(const QString &frameText);
+    void sendOne(const CheckedRow &row);
+    /// The same for a frame text that belongs to no row.
+    void sendOne(const QString &frameText) { sendOne(CheckedRow{0, frameText}); }
 
     /// Sends the rows' frames in one write, without the pauses of delay rows. Refused, as sending
     /// one row is, where more than 1 MiB would wait for a device that takes too little.
@@ -44,11 +46,12 @@ public:
 
     /// Gives the frame of a frame text to the link. A bad header is told where it is news to the
     /// notice. Returns the frame, to be told; nothing where there was none, or no way to send it.
-    QByteArray handOverText(const QString &frameText, HeaderNotice &notice);
+    QByteArray handOverText(const QString &frameText, HeaderNotice &notice,
+                            const BlockPart &row = {});
 
     /// Gives a block of frames to the link. Returns it, to be told; nothing where there was no way
-    /// to send it.
-    QByteArray handOverBlock(const QByteArray &block);
+    /// to send it. Without parts it counts as one frame of an unknown row.
+    QByteArray handOverBlock(const QByteArray &block, const QVector<BlockPart> &parts = {});
 
     /// Tells of a frame that was handed over.
     void tellFrame(const QByteArray &frame);
@@ -63,6 +66,10 @@ signals:
     /// One frame that was handed over, and when, for the log.
     void sent(const QByteArray &frame, ArrivalTime time);
 
+    /// The block that was handed over, and when, for a recording: its frames as they were made, and
+    /// their rows. Emitted before the frames are told.
+    void handedOver(const QByteArray &block, const QVector<BlockPart> &parts, ArrivalTime time);
+
 private:
     QByteArray makeFrame(const QString &frameText, HeaderNotice &notice);
     bool isTaken(const QByteArray &block);
@@ -71,4 +78,5 @@ private:
     FrameSettings &m_settings;
     Link *m_link = nullptr;
     ArrivalTime m_handedOver;
+    QVector<BlockPart> m_handedOverParts;
 };

@@ -127,8 +127,9 @@ void SendLoop::send(const LoopStep &step)
     const unsigned stops = m_stops;
     const bool isText = step.kind == LoopStep::Kind::Text;
     m_sentCount += isText ? 1 : 0;
-    const QByteArray sent = isText ? m_sender.handOverText(step.text, m_headerNotice)
-                                   : m_sender.handOverBlock(step.block);
+    const QByteArray sent =
+        isText ? m_sender.handOverText(step.text, m_headerNotice, step.parts.value(0))
+               : m_sender.handOverBlock(step.block, step.parts);
     if (stops == m_stops) {
         m_deadlines.meet(m_clock.now());
         m_deadlines.wait(step.waitMs);

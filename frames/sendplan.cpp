@@ -18,6 +18,19 @@ bool isOverlong(const QString &frameText, bool withCrc)
     return batchFrameLength(frameText, withCrc) > longestBatchFrame;
 }
 
+void appendPart(QVector<BlockPart> &parts, const QByteArray &frame, const CheckedRow &row)
+{
+    if (!frame.isEmpty()) {
+        parts.append({frame.size(), row.number, row.description});
+    }
+}
+
+void appendText(LoopPlan &plan, const CheckedRow &row)
+{
+    plan.texts.append(row.frameText);
+    plan.textRows.append({0, row.number, row.description});
+}
+
 /// Gathers the entries of a loop's queue, counting them against the limit.
 class QueueBuilder
 {
@@ -26,19 +39,24 @@ public:
         : m_plan(plan)
     {}
 
-    void addFrame(const QByteArray &frame) { m_pending.append(frame); }
+    void addFrame(const QByteArray &frame, const CheckedRow &row)
+    {
+        m_pending.append(frame);
+        appendPart(m_parts, frame, row);
+    }
 
     void addPause(int milliseconds)
     {
         closeBlock();
-        addEntry({{}, milliseconds});
+        addEntry({{}, milliseconds, {}});
     }
 
     void closeBlock()
     {
         if (!m_pending.isEmpty()) {
-            addEntry({m_pending, 0});
+            addEntry({m_pending, 0, m_parts});
             m_pending.clear();
+            m_parts.clear();
         }
     }
 
@@ -51,23 +69,24 @@ private:
 
     LoopPlan &m_plan;
     QByteArray m_pending;
+    QVector<BlockPart> m_parts;
 };
 
 LoopStep pauseStep(int milliseconds)
 {
-    return {LoopStep::Kind::Pause, {}, {}, milliseconds};
+    return {LoopStep::Kind::Pause, {}, {}, milliseconds, {}};
 }
 
-LoopStep textStep(const QString &text, int intervalMs)
+LoopStep textStep(const QString &text, const BlockPart &row, int intervalMs)
 {
     return isDelay(text) ? pauseStep(delayMilliseconds(text))
-                         : LoopStep{LoopStep::Kind::Text, text, {}, intervalMs};
+                         : LoopStep{LoopStep::Kind::Text, text, {}, intervalMs, {row}};
 }
 
 LoopStep queueStep(const QueueEntry &entry)
 {
     return entry.isPause() ? pauseStep(entry.pauseMs)
-                           : LoopStep{LoopStep::Kind::Block, {}, entry.block, 0};
+                           : LoopStep{LoopStep::Kind::Block, {}, entry.block, 0, entry.parts};
 }
 
 } // namespace
@@ -82,7 +101,9 @@ BatchPlan planBatch(const QVector<CheckedRow> &rows, bool withCrc, const MakeFra
         if (isOverlong(row.frameText, withCrc)) {
             plan.overlongRows.append(row.number);
         } else {
-            plan.block.append(makeFrame(row.frameText));
+            const QByteArray frame = makeFrame(row.frameText);
+            plan.block.append(frame);
+            appendPart(plan.parts, frame, row);
         }
     }
     return plan;
@@ -94,13 +115,13 @@ LoopPlan planLoop(const QVector<CheckedRow> &rows, bool withCrc, const MakeFrame
     QueueBuilder queue(plan);
     for (const CheckedRow &row : rows) {
         if (isDelay(row.frameText)) {
-            plan.texts.append(row.frameText);
+            appendText(plan, row);
             queue.addPause(delayMilliseconds(row.frameText));
         } else if (isOverlong(row.frameText, withCrc)) {
             plan.overlongRows.append(row.number);
         } else {
-            plan.texts.append(row.frameText);
-            queue.addFrame(makeFrame(row.frameText));
+            appendText(plan, row);
+            queue.addFrame(makeFrame(row.frameText), row);
         }
         if (plan.tooManyEntries) {
             return plan;
@@ -114,8 +135,8 @@ QVector<LoopStep> loopSteps(const LoopPlan &plan, int intervalMs)
 {
     QVector<LoopStep> steps;
     if (intervalMs > 0) {
-        for (const QString &text : plan.texts) {
-            steps.append(textStep(text, intervalMs));
+        for (int i = 0; i < plan.texts.size(); ++i) {
+            steps.append(textStep(plan.texts.at(i), plan.textRows.value(i), intervalMs));
         }
     } else {
         for (const QueueEntry &entry : plan.queue) {

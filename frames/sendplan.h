@@ -9,12 +9,22 @@
 
 #include <functional>
 
-/// A row that takes part in sending: its number in the table, from 1, and its frame text (CMD, Addr
-/// and Data joined, without blanks).
+/// A row that takes part in sending: its number in the table, from 1, its frame text (CMD, Addr and
+/// Data joined, without blanks), and its description.
 struct CheckedRow
 {
     int number = 0;
     QString frameText;
+    QString description = {};
+};
+
+/// One frame of a block: how long it is, in bytes, and the row that it is made of.
+struct BlockPart
+{
+    int size = 0;
+    /// From 1; 0 where it isn't known.
+    int row = 0;
+    QString description = {};
 };
 
 /// Makes the frame of a frame text; empty when there is nothing to send.
@@ -25,6 +35,8 @@ struct BatchPlan
 {
     QByteArray block;
     QVector<int> overlongRows;
+    /// The block's frames.
+    QVector<BlockPart> parts;
 };
 
 /// One entry of the loop's queue: a block of frames, or a pause where the block is empty.
@@ -32,6 +44,7 @@ struct QueueEntry
 {
     QByteArray block;
     int pauseMs = 0;
+    QVector<BlockPart> parts = {};
 
     bool isPause() const { return block.isEmpty(); }
 };
@@ -40,6 +53,8 @@ struct QueueEntry
 struct LoopPlan
 {
     QStringList texts;
+    /// The row of each text; its size is not known yet.
+    QVector<BlockPart> textRows;
     QVector<QueueEntry> queue;
     QVector<int> overlongRows;
     /// The queue has reached its limit; the rows after that are not planned.
@@ -54,6 +69,7 @@ struct LoopStep
     QString text;
     QByteArray block;
     int waitMs = 0;
+    QVector<BlockPart> parts = {};
 
     bool sends() const { return kind != Kind::Pause; }
 };

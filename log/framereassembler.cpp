@@ -88,8 +88,13 @@ QVector<ReceivedPiece> FrameReassembler::take(const QByteArray &chunk, StartByte
 
 QVector<ReceivedPiece> FrameReassembler::giveUpLoneStartByte()
 {
+    return holdsLoneStartByte() ? giveUpAll() : QVector<ReceivedPiece>();
+}
+
+QVector<ReceivedPiece> FrameReassembler::giveUpAll()
+{
     QVector<ReceivedPiece> pieces;
-    if (holdsLoneStartByte()) {
+    if (!m_buffer.isEmpty()) {
         pieces.append({ReceivedPiece::Kind::Notice, std::exchange(m_buffer, {})});
     }
     return pieces;

@@ -39,6 +39,9 @@ public:
     /// something else waits.
     QVector<ReceivedPiece> giveUpLoneStartByte();
 
+    /// Gives out whatever waits as bytes that belong to no frame.
+    QVector<ReceivedPiece> giveUpAll();
+
     /// Bytes that wait for the rest of their frame.
     int waitingBytes() const { return m_buffer.size(); }
 

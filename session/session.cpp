@@ -10,6 +10,7 @@ Session::Session(const QString &deviceIdFile, const QString &portsFolder, QObjec
     , m_devices(m_links.serial(), m_links.hid(), m_log, portsFolder, this)
     , m_receiver([this] { return m_receivedHeader.startBytes(); }, this)
     , m_sender(m_format, this)
+    , m_tap(m_links, m_sender, m_devices, m_format, this)
     , m_loop(m_sender, this)
 {
     connectLinks();

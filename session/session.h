@@ -8,6 +8,7 @@
 #include "session/frameformat.h"
 #include "session/loopcontrol.h"
 #include "session/receivedheader.h"
+#include "session/wiretap.h"
 
 #include <QObject>
 
@@ -47,6 +48,9 @@ public:
     RecordLog &log() { return m_log; }
     DeviceWatch &devices() { return m_devices; }
 
+    /// Everything that goes over the wire, for a recording.
+    WireTap &tap() { return m_tap; }
+
 signals:
     /// Something the user must be told; handlers may block.
     void notice(const QString &text);
@@ -72,5 +76,6 @@ private:
     DeviceWatch m_devices;
     Receiver m_receiver;
     Sender m_sender;
+    WireTap m_tap;
     LoopControl m_loop;
 };

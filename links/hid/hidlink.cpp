@@ -79,6 +79,7 @@ void HidLink::close()
     // Something waits still where a handler of what has arrived is the one that closes.
     m_inbox.clear();
     if (isOpen()) {
+        tellUnsent();
         shutDown();
         emit openChanged(false);
     }

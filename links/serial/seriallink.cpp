@@ -59,6 +59,7 @@ void SerialLink::close()
     m_wait.cancel();
     m_firstRead.reset();
     if (m_port.isOpen()) {
+        tellUnsent();
         m_port.clear(QSerialPort::AllDirections);
         m_port.close();
         m_timing.reset();
