@@ -8,6 +8,8 @@
 #include "log/logtexts.h"
 #include "log/recordlog.h"
 
+#include <QWidget>
+
 ListFiles::ListFiles(QWidget &window, CommandTable &commands, ListState &list, const RecordLog &log,
                      StatusLine &status)
     : QObject(&window)

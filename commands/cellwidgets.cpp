@@ -1,6 +1,6 @@
 #include "commands/cellwidgets.h"
 
-#include "commands/cellsinview.h"
+#include "commands/cellwidget.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -35,8 +35,8 @@ bool isTabFocus(const QEvent &event)
 class RowButton : public CellWidget<QPushButton>
 {
 public:
-    explicit RowButton(QTableWidget &table)
-        : CellWidget<QPushButton>(table.viewport())
+    RowButton(QTableWidget &table, const QModelIndex &cell)
+        : CellWidget<QPushButton>(table, cell)
         , m_table(table)
     {}
 
@@ -44,8 +44,7 @@ protected:
     bool event(QEvent *event) override
     {
         if (event->type() == QEvent::MouseButtonPress || isTabFocus(*event)) {
-            const QModelIndex index = m_table.indexAt(geometry().center());
-            m_table.setCurrentCell(index.row(), index.column());
+            m_table.setCurrentCell(cell().row(), cell().column());
         }
         return CellWidget<QPushButton>::event(event);
     }
@@ -58,7 +57,7 @@ private:
 
 void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter)
 {
-    auto *container = new CellWidget<QWidget>(table.viewport());
+    auto *container = new CellWidget<QWidget>(table, table.model()->index(row, column));
     auto *layout = new QHBoxLayout(container);
     auto *box = new LateStyled<QCheckBox>(container);
     box->setStyleSheet(QLatin1String(selectStyle));
@@ -86,7 +85,7 @@ bool isSelectCellChecked(const QTableWidget &table, int row, int column)
 
 QPushButton *setSendCell(QTableWidget &table, int row, int column, const QIcon &icon)
 {
-    auto *button = new RowButton(table);
+    auto *button = new RowButton(table, table.model()->index(row, column));
     button->setFlat(true);
     button->setDefault(false);
     button->setAutoDefault(false);

@@ -6,8 +6,6 @@ class QObject;
 class QPushButton;
 class QTableWidget;
 
-// The widgets are CellWidgets: they have to be taken up before they show.
-
 /// Puts a new check box into the cell, centred in a container that `filter` watches.
 void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter);
 

@@ -30,7 +30,6 @@ CommandTable::CommandTable(QTableWidget &table, QObject *window, QObject *parent
     , m_table(table)
     , m_window(window)
     , m_sendIcon(QStringLiteral(":/Image/Send.png"))
-    , m_cellsInView(table, {Column::Select, Column::Send})
 {
     m_table.blockSignals(true);
     styleTable(m_table, Column::Count, leastRows);
@@ -122,10 +121,9 @@ void CommandTable::replaceRows(const QVector<CommandRow> &rows)
     m_table.setRowCount(0);
     m_table.setRowCount(std::max(leastRows, rows.size()));
     for (int row = 0; row < m_table.rowCount(); ++row) {
-        writeRow(row, row < rows.size() ? rows.at(row) : emptyRow());
+        fillRow(row, row < rows.size() ? rows.at(row) : emptyRow());
     }
     m_table.scrollToTop();
-    m_cellsInView.takeUpAll();
     m_table.setUpdatesEnabled(true);
     m_table.blockSignals(false);
 }
@@ -159,7 +157,6 @@ QVector<CommandRow> CommandTable::rows() const
 void CommandTable::setSelected(int row, bool selected)
 {
     setSelectCell(m_table, row, Column::Select, selected, m_window);
-    m_cellsInView.takeUp(row);
 }
 
 QString CommandTable::currentFrameText() const
@@ -283,12 +280,6 @@ void CommandTable::insertFilledRow(int row, const CommandRow &content)
 }
 
 void CommandTable::fillRow(int row, const CommandRow &content)
-{
-    writeRow(row, content);
-    m_cellsInView.takeUp(row);
-}
-
-void CommandTable::writeRow(int row, const CommandRow &content)
 {
     setCentredItem(m_table, row, Column::Description, content.description);
     setSelectCell(m_table, row, Column::Select, content.selected, m_window);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "commands/cellsinview.h"
 #include "commands/commandrow.h"
 #include "frames/sendplan.h"
 
@@ -97,12 +96,10 @@ private:
     void installDelegates();
     void insertFilledRow(int row, const CommandRow &content);
     void fillRow(int row, const CommandRow &content);
-    void writeRow(int row, const CommandRow &content);
     void moveByCopy(int from, int to);
     void edit(int row, int column);
 
     QTableWidget &m_table;
     QObject *m_window;
     QIcon m_sendIcon;
-    CellsInView m_cellsInView;
 };

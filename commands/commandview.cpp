@@ -1,5 +1,6 @@
 #include "commands/commandview.h"
 
+#include <QAbstractItemDelegate>
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -29,6 +30,7 @@ void CommandView::scrollContentsBy(int dx, int dy)
         follow(*verticalHeader(), *verticalScrollBar(), verticalScrollMode());
     }
     moveShownWidgets(before - offset());
+    placeWidgetsInView();
     viewport()->update();
 }
 
@@ -37,12 +39,40 @@ QPoint CommandView::offset() const
     return {horizontalHeader()->offset(), verticalHeader()->offset()};
 }
 
+/// Asked to show itself again, a widget hides where its cell has left the view.
 void CommandView::moveShownWidgets(QPoint by)
 {
     for (QObject *child : viewport()->children()) {
         auto *widget = qobject_cast<QWidget *>(child);
         if (widget != nullptr && !widget->isHidden()) {
             widget->move(widget->pos() + by);
+            widget->show();
         }
     }
+}
+
+void CommandView::placeWidgetsInView()
+{
+    const int height = viewport()->height();
+    for (int row = rowAt(0); row >= 0 && row < rowCount(); ++row) {
+        if (rowViewportPosition(row) >= height) {
+            break;
+        }
+        for (int column = 0; column < columnCount(); ++column) {
+            placeWidget(model()->index(row, column));
+        }
+    }
+}
+
+/// As a layout does it.
+void CommandView::placeWidget(const QModelIndex &cell)
+{
+    QWidget *widget = indexWidget(cell);
+    if (widget == nullptr || !widget->isHidden()) {
+        return;
+    }
+    QStyleOptionViewItem option = viewOptions();
+    option.rect = visualRect(cell);
+    itemDelegate(cell)->updateEditorGeometry(widget, option, cell);
+    widget->setVisible(option.rect.isValid());
 }

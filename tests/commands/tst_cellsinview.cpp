@@ -1,9 +1,14 @@
+#include "commands/cellwidgets.h"
 #include "tablefixture.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QtTest>
+
+#include <functional>
+#include <utility>
 
 class TestCellsInView : public QObject
 {
@@ -19,8 +24,8 @@ private slots:
     void aRestingBoxIsReadAndChecked();
     void aWokenBoxTakesClicks();
     void insertedRowsShowAtOnce();
-    void whatIsShownStandsInItsCell_data();
-    void whatIsShownStandsInItsCell();
+    void widgetsInViewStandInTheirCells_data();
+    void widgetsInViewStandInTheirCells();
     void anOpenEditorMovesAlong();
 };
 
@@ -43,10 +48,131 @@ struct ShownTable : TableFixture
     QWidget *button(int row) const { return table.cellWidget(row, CommandColumn::Send); }
     bool isShown(int row) const { return box(row)->isVisible() && button(row)->isVisible(); }
     bool rests(int row) const { return !box(row)->isVisible() && !button(row)->isVisible(); }
-    int lastRowInView() const { return table.rowAt(table.viewport()->height() - 1); }
+    int firstRowInView() const { return table.rowAt(0); }
+    int lastRowInView() const
+    {
+        const int last = table.rowAt(table.viewport()->height() - 1);
+        return last < 0 ? table.rowCount() - 1 : last;
+    }
+    QScrollBar &bar() const { return *table.verticalScrollBar(); }
+
+    /// The first cell in view whose widget isn't shown at its place; empty where there is none.
+    QString misplacedCell() const
+    {
+        for (int row = firstRowInView(); row >= 0 && row <= lastRowInView(); ++row) {
+            for (const int column : {CommandColumn::Select, CommandColumn::Send}) {
+                const QRect place = table.visualRect(table.model()->index(row, column));
+                const QWidget *widget = table.cellWidget(row, column);
+                if (!place.isEmpty() && (!widget->isVisible() || widget->geometry() != place)) {
+                    return QString("row %1, column %2").arg(row).arg(column);
+                }
+            }
+        }
+        return {};
+    }
+};
+
+void turnWheel(const ShownTable &shown, int delta)
+{
+    const QPoint middle = shown.table.viewport()->rect().center();
+    QWheelEvent event(middle, shown.table.viewport()->mapToGlobal(middle), {}, {0, delta},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(shown.table.viewport(), &event);
+}
+
+/// What a model does that somebody else changes.
+void insertRowIntoModel(ShownTable &shown, int row)
+{
+    shown.table.model()->insertRows(row, 1);
+    setSelectCell(shown.table, row, CommandColumn::Select, true, nullptr);
+    setSendCell(shown.table, row, CommandColumn::Send, {});
+}
+
+using Step = std::function<void(ShownTable &)>;
+
+const std::pair<const char *, void (*)(ShownTable &)> steps[] = {
+    {"row inserted", [](ShownTable &s) { s.rows.insertEmptyRow(s.firstRowInView() + 1); }},
+    {"row inserted above", [](ShownTable &s) { s.rows.insertEmptyRow(0); }},
+    {"row inserted below", [](ShownTable &s) { s.rows.insertEmptyRow(s.table.rowCount()); }},
+    {"delay row", [](ShownTable &s) { s.rows.insertDelayRow(s.lastRowInView()); }},
+    {"clone", [](ShownTable &s) { s.rows.cloneRow(s.firstRowInView()); }},
+    {"moved up", [](ShownTable &s) { s.rows.moveUp(s.firstRowInView()); }},
+    {"moved down", [](ShownTable &s) { s.rows.moveDown(s.lastRowInView()); }},
+    {"cleared", [](ShownTable &s) { s.rows.clear(); }},
+    {"replaced", [](ShownTable &s) { s.rows.replaceRows(QVector<CommandRow>(300)); }},
+    {"replaced by fewer", [](ShownTable &s) { s.rows.replaceRows(QVector<CommandRow>(12)); }},
+    {"new box", [](ShownTable &s) { s.rows.setSelected(s.lastRowInView(), true); }},
+    {"new box out of view", [](ShownTable &s) { s.rows.setSelected(30, true); }},
+    {"row removed", [](ShownTable &s) { s.table.removeRow(s.firstRowInView()); }},
+    {"rows removed above", [](ShownTable &s) { s.table.model()->removeRows(0, 20); }},
+    {"rows removed at the end", [](ShownTable &s) { s.table.setRowCount(40); }},
+    {"row inserted into the model", [](ShownTable &s) { insertRowIntoModel(s, 52); }},
+    {"row put in place of a removed one",
+     [](ShownTable &s) {
+         s.table.model()->removeRows(s.firstRowInView(), 1);
+         insertRowIntoModel(s, s.lastRowInView());
+     }},
+    {"row hidden", [](ShownTable &s) { s.table.hideRow(s.firstRowInView()); }},
+    {"row shown again",
+     [](ShownTable &s) {
+         s.table.hideRow(s.firstRowInView() + 1);
+         QCoreApplication::processEvents();
+         s.table.showRow(s.firstRowInView() + 1);
+     }},
+    {"taller row", [](ShownTable &s) { s.table.setRowHeight(s.firstRowInView(), 100); }},
+    {"wider column", [](ShownTable &s) { s.table.setColumnWidth(0, 250); }},
+    {"column hidden", [](ShownTable &s) { s.table.hideColumn(0); }},
+    {"columns exchanged", [](ShownTable &s) { s.table.horizontalHeader()->moveSection(1, 6); }},
+    {"wheel down", [](ShownTable &s) { turnWheel(s, -360); }},
+    {"wheel up", [](ShownTable &s) { turnWheel(s, 360); }},
+    {"page down", [](ShownTable &s) { QTest::keyClick(&s.table, Qt::Key_PageDown); }},
+    {"page up", [](ShownTable &s) { QTest::keyClick(&s.table, Qt::Key_PageUp); }},
+    {"to the end", [](ShownTable &s) { s.table.scrollToBottom(); }},
+    {"to the top", [](ShownTable &s) { s.table.scrollToTop(); }},
+    {"to an item", [](ShownTable &s) { s.table.scrollToItem(s.table.item(70, 0)); }},
+    {"cell by cell", [](ShownTable &s) { s.table.setCurrentCell(77, CommandColumn::Send); }},
+    {"slider", [](ShownTable &s) { s.bar().setSliderPosition(33); }},
+    {"sideways",
+     [](ShownTable &s) {
+         s.table.resize(420, 400);
+         QCoreApplication::processEvents();
+         s.table.horizontalScrollBar()->setValue(s.table.horizontalScrollBar()->maximum());
+     }},
+    {"scrolled by pixels",
+     [](ShownTable &s) {
+         s.table.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+         QCoreApplication::processEvents();
+         s.bar().setValue(1234);
+     }},
+    {"taller", [](ShownTable &s) { s.table.resize(800, 800); }},
+    {"lower", [](ShownTable &s) { s.table.resize(800, 200); }},
+    {"narrower", [](ShownTable &s) { s.table.resize(600, 400); }},
+    {"other font", [](ShownTable &s) { s.table.setFont(QFont("Sans", 30)); }},
+    {"font of the header",
+     [](ShownTable &s) { s.table.horizontalHeader()->setFont(QFont("Sans", 30)); }},
+    {"style sheet", [](ShownTable &s) { s.table.setStyleSheet("QTableWidget{border:9px solid}"); }},
+    {"hidden and shown",
+     [](ShownTable &s) {
+         s.table.hide();
+         s.bar().setValue(44);
+         s.table.show();
+     }},
+    {"scrolled while rows are replaced",
+     [](ShownTable &s) {
+         s.rows.replaceRows(QVector<CommandRow>(200));
+         s.bar().setValue(150);
+     }},
+    {"inserted and scrolled at once",
+     [](ShownTable &s) {
+         s.rows.insertEmptyRow(s.firstRowInView());
+         s.bar().triggerAction(QAbstractSlider::SliderPageStepAdd);
+         s.table.removeRow(s.firstRowInView());
+     }},
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(Step)
 
 void TestCellsInView::rowsOutOfViewRest()
 {
@@ -140,28 +266,29 @@ void TestCellsInView::insertedRowsShowAtOnce()
     QVERIFY(shown.isShown(3));
 }
 
-void TestCellsInView::whatIsShownStandsInItsCell_data()
+void TestCellsInView::widgetsInViewStandInTheirCells_data()
 {
-    QTest::addColumn<QVector<int>>("places");
+    QTest::addColumn<Step>("step");
 
-    QTest::newRow("a row further") << QVector<int>{1};
-    QTest::newRow("there and back") << QVector<int>{50, 0};
-    QTest::newRow("to the end") << QVector<int>{3, manyRows};
-    QTest::newRow("back from the end") << QVector<int>{manyRows, manyRows / 2};
+    for (const auto &[name, step] : steps) {
+        QTest::newRow(name) << Step(step);
+    }
 }
 
-void TestCellsInView::whatIsShownStandsInItsCell()
+/// Each step at the top of the table, in the middle and at its end, and after it a row further.
+void TestCellsInView::widgetsInViewStandInTheirCells()
 {
-    QFETCH(QVector<int>, places);
-    ShownTable shown;
-    for (const int place : places) {
-        shown.table.verticalScrollBar()->setValue(place);
-    }
-    QVERIFY(shown.table.rowAt(0) >= 0);
-    for (int row = shown.table.rowAt(0); row <= shown.lastRowInView() && row >= 0; ++row) {
-        const QModelIndex cell = shown.table.model()->index(row, CommandColumn::Send);
-        QVERIFY(shown.isShown(row));
-        QCOMPARE(shown.button(row)->geometry(), shown.table.visualRect(cell));
+    QFETCH(Step, step);
+    for (const int top : {0, manyRows / 2, manyRows}) {
+        ShownTable shown;
+        shown.bar().setValue(top);
+        QCOMPARE(shown.misplacedCell(), QString());
+        step(shown);
+        QTRY_COMPARE(shown.misplacedCell(), QString());
+        shown.bar().triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        QCOMPARE(shown.misplacedCell(), QString());
+        shown.bar().triggerAction(QAbstractSlider::SliderPageStepSub);
+        QCOMPARE(shown.misplacedCell(), QString());
     }
 }
 
