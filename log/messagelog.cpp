@@ -14,9 +14,9 @@ namespace {
 constexpr int initialRows = 9;
 constexpr int rowsAtOncePerFrame = 128;
 
-Qt::Alignment alignmentOf(int column)
+Qt::AlignmentFlag alignmentOf(int column)
 {
-    return Qt::AlignVCenter | (column == LogColumn::Data ? Qt::AlignLeft : Qt::AlignHCenter);
+    return column == LogColumn::Data ? Qt::AlignLeft : Qt::AlignHCenter;
 }
 
 } // namespace
@@ -99,7 +99,7 @@ void MessageLog::showBlankTable()
     for (int row = 0; row < initialRows; ++row) {
         for (int column = 0; column < LogColumn::Count; ++column) {
             m_table.setItem(row, column,
-                            new LogItem(QString(), alignmentOf(column), LogItem::Colour::Plain));
+                            m_items.make({}, alignmentOf(column), LogItems::Colour::Plain));
         }
     }
     m_table.scrollToTop();
@@ -110,7 +110,7 @@ void MessageLog::fillRow(int row, const LogRecord &record)
     const LogTexts texts = textsOf(record);
     const auto put = [&](int column, const QString &text) {
         m_table.setItem(row, column,
-                        new LogItem(text, alignmentOf(column), colourOf(record.kind, column)));
+                        m_items.make(text, alignmentOf(column), colourOf(record.kind, column)));
     };
     for (int column = LogColumn::Number; column < LogColumn::Rest; ++column) {
         put(column, texts[static_cast<size_t>(column)]);
@@ -118,11 +118,11 @@ void MessageLog::fillRow(int row, const LogRecord &record)
     put(LogColumn::Rest, {});
 }
 
-LogItem::Colour MessageLog::colourOf(LogRecord::Kind kind, int column)
+LogItems::Colour MessageLog::colourOf(LogRecord::Kind kind, int column)
 {
     const bool coloured = kind == LogRecord::Kind::Received
                               ? column != LogColumn::Rest
                               : kind != LogRecord::Kind::Sent &&
                                     (column == LogColumn::Number || column == LogColumn::Data);
-    return coloured ? LogItem::Colour::Received : LogItem::Colour::Plain;
+    return coloured ? LogItems::Colour::Received : LogItems::Colour::Plain;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "log/displaypace.h"
-#include "log/logitem.h"
+#include "log/logitems.h"
 #include "log/logrecord.h"
 
 #include <QObject>
@@ -42,8 +42,9 @@ private:
     void moveOn();
     void showBlankTable();
     void fillRow(int row, const LogRecord &record);
-    static LogItem::Colour colourOf(LogRecord::Kind kind, int column);
+    static LogItems::Colour colourOf(LogRecord::Kind kind, int column);
 
+    LogItems m_items;
     LogTable &m_table;
     const RecordLog &m_records;
     /// Rows that show a record; of records that are gone, while the table is stale.

@@ -88,9 +88,9 @@ void insertRowIntoModel(ShownTable &shown, int row)
     setSendCell(shown.table, row, CommandColumn::Send, {});
 }
 
-using Step = std::function<void(ShownTable &)>;
+using TableStep = std::function<void(ShownTable &)>;
 
-const std::pair<const char *, void (*)(ShownTable &)> steps[] = {
+const std::pair<const char *, void (*)(ShownTable &)> tableSteps[] = {
     {"row inserted", [](ShownTable &s) { s.rows.insertEmptyRow(s.firstRowInView() + 1); }},
     {"row inserted above", [](ShownTable &s) { s.rows.insertEmptyRow(0); }},
     {"row inserted below", [](ShownTable &s) { s.rows.insertEmptyRow(s.table.rowCount()); }},
@@ -172,7 +172,7 @@ const std::pair<const char *, void (*)(ShownTable &)> steps[] = {
 
 } // namespace
 
-Q_DECLARE_METATYPE(Step)
+Q_DECLARE_METATYPE(TableStep)
 
 void TestCellsInView::rowsOutOfViewRest()
 {
@@ -268,17 +268,17 @@ void TestCellsInView::insertedRowsShowAtOnce()
 
 void TestCellsInView::widgetsInViewStandInTheirCells_data()
 {
-    QTest::addColumn<Step>("step");
+    QTest::addColumn<TableStep>("step");
 
-    for (const auto &[name, step] : steps) {
-        QTest::newRow(name) << Step(step);
+    for (const auto &[name, step] : tableSteps) {
+        QTest::newRow(name) << TableStep(step);
     }
 }
 
 /// Each step at the top of the table, in the middle and at its end, and after it a row further.
 void TestCellsInView::widgetsInViewStandInTheirCells()
 {
-    QFETCH(Step, step);
+    QFETCH(TableStep, step);
     for (const int top : {0, manyRows / 2, manyRows}) {
         ShownTable shown;
         shown.bar().setValue(top);

@@ -1,4 +1,4 @@
-#include "log/logitem.h"
+#include "log/logitems.h"
 #include "widgets/plaincelldelegate.h"
 #include "widgets/tablelook.h"
 
@@ -6,7 +6,7 @@
 #include <QTableWidget>
 #include <QtTest>
 
-Q_DECLARE_METATYPE(LogItem::Colour)
+Q_DECLARE_METATYPE(LogItems::Colour)
 
 class TestPlainCellDelegate : public QObject
 {
@@ -30,14 +30,14 @@ constexpr int barWidth = 4;
 const QColor barColour(0x00, 0x6F, 0xCF);
 const QColor received(0, 130, 255);
 
-void fill(QTableWidget &table, const QString &text, LogItem::Colour colour, Qt::Alignment alignment,
-          int width)
+void fill(QTableWidget &table, const QString &text, LogItems::Colour colour,
+          Qt::AlignmentFlag alignment, int width)
 {
     styleTable(table, columns, lines);
     for (int column = 0; column < columns; ++column) {
         table.setColumnWidth(column, width);
         for (int row = 0; row < lines; ++row) {
-            table.setItem(row, column, new LogItem(text, alignment, colour));
+            table.setItem(row, column, LogItems().make(text, alignment, colour));
         }
     }
     table.resize(columns * width + 20, 180);
@@ -58,7 +58,7 @@ QImage picture(QTableWidget &table, qreal ratio)
 void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<LogItem::Colour>("colour");
+    QTest::addColumn<LogItems::Colour>("colour");
     QTest::addColumn<int>("alignment");
     QTest::addColumn<int>("width");
     QTest::addColumn<qreal>("ratio");
@@ -67,11 +67,11 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem_data()
     struct Look
     {
         const char *name;
-        LogItem::Colour colour;
-        Qt::Alignment alignment;
+        LogItems::Colour colour;
+        Qt::AlignmentFlag alignment;
     };
-    for (const Look &look : {Look{"sent, centred", LogItem::Colour::Plain, Qt::AlignHCenter},
-                             Look{"received, left", LogItem::Colour::Received, Qt::AlignLeft}}) {
+    for (const Look &look : {Look{"sent, centred", LogItems::Colour::Plain, Qt::AlignHCenter},
+                             Look{"received, left", LogItems::Colour::Received, Qt::AlignLeft}}) {
         for (const QString &text : {QString(), QStringLiteral("1025"), data, data.repeated(20)}) {
             for (const int width : {60, 103, 300}) {
                 for (const qreal ratio : {1.0, 2.0}) {
@@ -81,8 +81,7 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem_data()
                                              .arg(width)
                                              .arg(ratio);
                     QTest::newRow(qPrintable(name))
-                        << text << look.colour << int(look.alignment | Qt::AlignVCenter) << width
-                        << ratio;
+                        << text << look.colour << int(look.alignment) << width << ratio;
                 }
             }
         }
@@ -92,15 +91,15 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem_data()
 void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem()
 {
     QFETCH(QString, text);
-    QFETCH(LogItem::Colour, colour);
+    QFETCH(LogItems::Colour, colour);
     QFETCH(int, alignment);
     QFETCH(int, width);
     QFETCH(qreal, ratio);
 
     QTableWidget table;
-    fill(table, text, colour, Qt::Alignment(alignment), width);
+    fill(table, text, colour, Qt::AlignmentFlag(alignment), width);
     // A selected text with a colour of its own is another matter.
-    if (colour == LogItem::Colour::Plain) {
+    if (colour == LogItems::Colour::Plain) {
         table.selectRow(1);
         table.setCurrentCell(1, 1, QItemSelectionModel::NoUpdate);
     }
@@ -116,7 +115,7 @@ void TestPlainCellDelegate::cellsLookAsTheStyleSheetHasThem()
 void TestPlainCellDelegate::aSelectedRowIsMarkedInItsFirstCell()
 {
     QTableWidget table;
-    fill(table, "01", LogItem::Colour::Plain, Qt::AlignCenter, 60);
+    fill(table, "01", LogItems::Colour::Plain, Qt::AlignCenter, 60);
     PlainCellDelegate plainDelegate;
     table.setItemDelegate(&plainDelegate);
     table.selectRow(1);
@@ -135,7 +134,7 @@ void TestPlainCellDelegate::aSelectedRowIsMarkedInItsFirstCell()
 void TestPlainCellDelegate::aColouredTextKeepsItsColourWhenSelected()
 {
     QTableWidget table;
-    fill(table, "8888", LogItem::Colour::Received, Qt::AlignCenter, 60);
+    fill(table, "8888", LogItems::Colour::Received, Qt::AlignCenter, 60);
     PlainCellDelegate delegate;
     table.setItemDelegate(&delegate);
     QFont solid = table.font();
@@ -171,7 +170,7 @@ void TestPlainCellDelegate::whatIsSetOnACellIsShown()
 
     QTableWidget table;
     styleTable(table, 1, 1);
-    table.setItem(0, 0, new LogItem("5A A5", Qt::AlignLeft, LogItem::Colour::Plain));
+    table.setItem(0, 0, LogItems().make("5A A5", Qt::AlignLeft, LogItems::Colour::Plain));
     PlainCellDelegate delegate;
     table.setItemDelegate(&delegate);
     table.show();
@@ -187,7 +186,7 @@ void TestPlainCellDelegate::aNewFontIsTakenUp()
 {
     QTableWidget table;
     styleTable(table, 1, 1);
-    table.setItem(0, 0, new LogItem("5A A5", Qt::AlignHCenter, LogItem::Colour::Plain));
+    table.setItem(0, 0, LogItems().make("5A A5", Qt::AlignHCenter, LogItems::Colour::Plain));
     PlainCellDelegate delegate;
     table.setItemDelegate(&delegate);
     table.show();
