@@ -46,6 +46,7 @@ Dialog::Dialog(QWidget *parent)
     , m_log(m_form->messageArea->table(), m_session.log(), this)
     , m_messageCopy(m_form->messageArea->table(), m_log, m_session.log(), this)
     , m_files(*this, m_commands, m_list, m_session.log(), m_status)
+    , m_recording(*m_form->recordPanel, m_session, m_status, m_memory, this)
 {
     setUpWindow();
     m_form->commandArea->follow(m_list);

@@ -7,6 +7,7 @@
 #include "app/liststate.h"
 #include "app/looppanel.h"
 #include "app/messagecopy.h"
+#include "app/recordcontrol.h"
 #include "app/roweditor.h"
 #include "app/serialpanel.h"
 #include "app/settings.h"
@@ -122,5 +123,6 @@ private:
     MessageLog m_log;
     MessageCopy m_messageCopy;
     ListFiles m_files;
+    RecordControl m_recording;
     bool m_isEnding = false;
 };

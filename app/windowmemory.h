@@ -8,8 +8,9 @@
 class QSplitter;
 class QWidget;
 
-/// Remembers from run to run where the window stood and how its splitter divided it, in a file of
-/// its own. A file that can't be read or written is no error: the window then begins as a new one.
+/// Remembers from run to run where the window stood, how its splitter divided it, and the folder of
+/// recordings, in a file of its own. A file that can't be read or written is no error: the window
+/// then begins as a new one.
 class WindowMemory : public QObject
 {
     Q_OBJECT
@@ -24,6 +25,10 @@ public:
 
     /// Writes down how the window stands.
     void save();
+
+    /// The folder that recordings were last written to; empty where none was chosen yet.
+    QString recordingFolder() const { return m_place.recordings; }
+    void setRecordingFolder(const QString &folder) { m_place.recordings = folder; }
 
     bool eventFilter(QObject *object, QEvent *event) override;
 

@@ -91,6 +91,7 @@ WindowPlace parseWindowPlace(const QByteArray &text)
     place.inside = insideOf(entries);
     place.maximized = entries.value("maximized") == "1";
     place.splitter = splitterOf(entries);
+    place.recordings = QString::fromUtf8(entries.value("recordings"));
     return place;
 }
 
@@ -105,6 +106,11 @@ QByteArray formatWindowPlace(const WindowPlace &place)
     if (place.splitter.size() == splitterAreas) {
         text += "splitter=" + QByteArray::number(place.splitter.at(0)) + ',' +
                 QByteArray::number(place.splitter.at(1)) + '\n';
+    }
+    const QByteArray recordings = place.recordings.toUtf8();
+    // A folder whose name breaks the line, or begins with a blank, would come back as another one.
+    if (!recordings.isEmpty() && !recordings.contains('\n') && recordings == recordings.trimmed()) {
+        text += "recordings=" + recordings + '\n';
     }
     return text;
 }

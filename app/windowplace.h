@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QRect>
+#include <QString>
 #include <QVector>
 
 #include <optional>
@@ -10,7 +11,8 @@
 /// The command table and the log.
 constexpr int splitterAreas = 2;
 
-/// Where a window stands and how its room is divided, in pixels that are scaled as the screen asks.
+/// What a window remembers: where it stands and how its room is divided, in pixels that are scaled
+/// as the screen asks, and the folder of recordings.
 struct WindowPlace
 {
     /// The inside of the window, without its frame, while it is not maximised; null where it is not
@@ -19,6 +21,8 @@ struct WindowPlace
     bool maximized = false;
     /// The heights of the splitter's areas; empty where they are not known.
     QList<int> splitter;
+    /// The folder of recordings; empty where none was chosen yet.
+    QString recordings;
 };
 
 /// Reads what formatWindowPlace() wrote. What is missing or makes no sense stays unknown.

@@ -58,7 +58,7 @@ QByteArray csvLine(const RecordEvent &event, std::optional<ArrivalTime> before)
            csvField(csvWords(event)) + "\r\n";
 }
 
-CsvExport exportCsv(QIODevice &recording, QIODevice &csv)
+CsvExport exportCsv(QIODevice &recording, QIODevice &csv, const std::function<bool()> &mayGoOn)
 {
     const auto reader = makeRecordingReader(recording);
     CsvExport outcome;
@@ -70,6 +70,10 @@ CsvExport exportCsv(QIODevice &recording, QIODevice &csv)
         before = event->time;
         ++outcome.events;
         if (lines.size() >= batchBytes) {
+            if (mayGoOn && !mayGoOn()) {
+                outcome.error = QStringLiteral("it was given up");
+                return outcome;
+            }
             isWritten = csv.write(lines) == lines.size();
             lines.clear();
         }

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 class QIODevice;
@@ -27,5 +28,7 @@ QByteArray csvHead();
 /// before, if there was one.
 QByteArray csvLine(const RecordEvent &event, std::optional<ArrivalTime> before);
 
-/// Writes what is in a recording to a device as CSV; both are open.
-CsvExport exportCsv(QIODevice &recording, QIODevice &csv);
+/// Writes what is in a recording to a device as CSV; both are open. It is given up, which is an
+/// error, where `mayGoOn` says no; it is asked a few times a megabyte.
+CsvExport exportCsv(QIODevice &recording, QIODevice &csv,
+                    const std::function<bool()> &mayGoOn = {});

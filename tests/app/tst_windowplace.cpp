@@ -13,6 +13,7 @@ private slots:
     void whatMakesNoSenseIsUnknown_data();
     void whatMakesNoSenseIsUnknown();
     void foreignLinesAreNoHarm();
+    void aFolderThatWouldBreakTheFileIsLeftOut();
     void theFirstSizeFits_data();
     void theFirstSizeFits();
     void aPlaceIsBroughtOntoTheScreens_data();
@@ -45,6 +46,9 @@ void TestWindowPlace::whatIsWrittenIsRead_data()
     QTest::newRow("left of the first screen") << place(inside.translated(-1920, -300));
     QTest::newRow("maximised") << place(inside, true);
     QTest::newRow("splitter") << place(inside, false, {410, 250});
+    WindowPlace recording = place(inside);
+    recording.recordings = QString::fromUtf8("/home/me/a = b/\u6E29");
+    QTest::newRow("folder of recordings") << recording;
     QTest::newRow("splitter alone") << place({}, true, {1, 700});
 }
 
@@ -55,6 +59,7 @@ void TestWindowPlace::whatIsWrittenIsRead()
     QCOMPARE(read.inside, written.inside);
     QCOMPARE(read.maximized, written.maximized);
     QCOMPARE(read.splitter, written.splitter);
+    QCOMPARE(read.recordings, written.recordings);
 }
 
 void TestWindowPlace::theFileIsPlain()
@@ -100,6 +105,15 @@ void TestWindowPlace::foreignLinesAreNoHarm()
     const WindowPlace read = parseWindowPlace(
         "[other]\r\nx=9\r\n[window]\r\nx=1\r\nmine\r\ny=2\r\nz=3\r\nwidth=4\r\nheight=5\r\n");
     QCOMPARE(read.inside, QRect(1, 2, 4, 5));
+}
+
+void TestWindowPlace::aFolderThatWouldBreakTheFileIsLeftOut()
+{
+    for (const char *folder : {"", "/a\nwidth=1", " /a", "/a\r"}) {
+        WindowPlace place;
+        place.recordings = folder;
+        QCOMPARE(formatWindowPlace(place), QByteArray("[window]\nmaximized=0\n"));
+    }
 }
 
 void TestWindowPlace::theFirstSizeFits_data()

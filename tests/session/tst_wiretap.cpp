@@ -30,7 +30,7 @@ private slots:
 
 namespace {
 
-const QByteArray hidPath = "/dev/hidraw-of-a-session";
+const QByteArray tappedHidPath = "/dev/hidraw-of-a-session";
 
 /// A session that is being recorded, with all that its tap tells.
 class TapBench
@@ -39,7 +39,7 @@ public:
     TapBench()
     {
         FakeHid::instance().reset();
-        FakeHid::instance().addDevice(hidPath, 0xEEEF, 0x1616);
+        FakeHid::instance().addDevice(tappedHidPath, 0xEEEF, 0x1616);
         session.links().hid().readDeviceTypes();
         session.setHeaderText("0x5A,0xA5");
         QObject::connect(&session.tap(), &WireTap::happened, &session,
@@ -220,8 +220,8 @@ void TestWireTap::openingAndClosingAreTold()
     QCOMPARE(bench.events.at(0).settings, QString("115200 8N1"));
     QCOMPARE(bench.events.at(1).link, bench.port.path());
     bench.session.use(LinkMode::Hid);
-    QVERIFY(bench.session.links().hid().open(hidPath, 3));
-    QCOMPARE(bench.events.at(2).link, QString(hidPath));
+    QVERIFY(bench.session.links().hid().open(tappedHidPath, 3));
+    QCOMPARE(bench.events.at(2).link, QString(tappedHidPath));
     QCOMPARE(bench.events.at(2).settings, QString("64 bytes, report ID 0x03"));
 }
 
@@ -266,7 +266,7 @@ void TestWireTap::zerosOfAHidDeviceAreToldToo()
 {
     TapBench bench;
     bench.session.use(LinkMode::Hid);
-    QVERIFY(bench.session.links().hid().open(hidPath, 0));
+    QVERIFY(bench.session.links().hid().open(tappedHidPath, 0));
     FakeHid::instance().sendReport(QByteArray::fromHex("5AA50142000000"));
     QTRY_COMPARE(bench.events.size(), 3);
     QCOMPARE(bench.told().mid(1), (QStringList{"1 5aa50142", "2 000000"}));

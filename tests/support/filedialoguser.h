@@ -24,6 +24,9 @@ public:
     explicit FileDialogUser(QString path = {});
     ~FileDialogUser() override;
 
+    /// Chooses that file from now on.
+    void choose(const QString &path) { m_path = path; }
+
     /// How many dialogs have come up, and how the last one looked.
     int dialogCount() const { return m_dialogCount; }
     const FileDialogLook &look() const { return m_look; }

@@ -78,6 +78,10 @@ const Piece piecesOfTheWindow[] = {
      "No device of a type that is listed in hidDeviceID.ini is attached.\n\n"
      "The header that counts is that of the \"Uart\" tab, for HID too."},
     {"label_Status_2", "QLabel", "tab_2", ""},
+    {"recordPanel", "QWidget", "", ""},
+    {"pushButton_Record", "QPushButton", "recordPanel", "Record…"},
+    {"pushButton_Export", "QPushButton", "recordPanel", "Export…"},
+    {"label_Record", "QLabel", "recordPanel", ""},
     {"splitter", "QSplitter", "", ""},
     {"commandArea", "QWidget", "splitter", ""},
     {"label", "QLabel", "commandArea", "  Command"},
@@ -246,7 +250,9 @@ void TestWindowPieces::piecesStandSideBySide()
     QCOMPARE(tabs.topLeft(), QPoint(margin, margin));
     QCOMPARE(tables.left() - tabs.right() - 1, margin);
     QCOMPARE(tables.top(), margin);
-    QCOMPARE(tables.bottom(), tabs.bottom());
+    QCOMPARE(place("recordPanel").left(), margin);
+    QCOMPARE(place("recordPanel").right(), tabs.right());
+    QCOMPARE(tables.bottom(), place("recordPanel").bottom());
     QCOMPARE(window.width() - tables.right() - 1, margin);
     QCOMPARE(saveMessage.top() - tables.bottom() - 1, margin);
     QCOMPARE(saveMessage.right(), tables.right());
@@ -292,11 +298,12 @@ void TestWindowPieces::theTabKeyVisitsThePieces()
         visited.append(QApplication::focusWidget()->objectName());
     }
     QCOMPARE(visited,
-             tabPieces + QStringList({"pushButton_LoadCommand", "pushButton_SaveCommand",
-                                      "pushButton_ClearCommand", "tableWidget_Register",
-                                      "tableWidget_Message", "lineEdit_StepValue",
-                                      "lineEdit_CycleTime", "pushButton_Start_Loop",
-                                      "pushButton_ClearMessage", "pushButton_SaveMessage"}));
+             tabPieces +
+                 QStringList({"pushButton_Record", "pushButton_Export", "pushButton_LoadCommand",
+                              "pushButton_SaveCommand", "pushButton_ClearCommand",
+                              "tableWidget_Register", "tableWidget_Message", "lineEdit_StepValue",
+                              "lineEdit_CycleTime", "pushButton_Start_Loop",
+                              "pushButton_ClearMessage", "pushButton_SaveMessage"}));
 }
 
 QTEST_MAIN(TestWindowPieces)
