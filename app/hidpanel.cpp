@@ -1,8 +1,8 @@
 #include "app/hidpanel.h"
 
 #include "app/hidtab.h"
-#include "app/linktexts.h"
 #include "links/hid/hidlink.h"
+#include "links/linktexts.h"
 
 HidPanel::HidPanel(HidTab &tab, HidLink &link, QObject *parent)
     : QObject(parent)

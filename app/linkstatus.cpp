@@ -1,9 +1,9 @@
 #include "app/linkstatus.h"
 
 #include "app/hidpanel.h"
-#include "app/linktexts.h"
 #include "app/serialpanel.h"
 #include "app/statusline.h"
+#include "links/linktexts.h"
 #include "session/session.h"
 
 static QString describe(const HidLink &link)

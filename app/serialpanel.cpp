@@ -1,7 +1,7 @@
 #include "app/serialpanel.h"
 
-#include "app/linktexts.h"
 #include "app/serialtab.h"
+#include "links/linktexts.h"
 #include "links/serial/portlist.h"
 
 SerialPanel::SerialPanel(SerialTab &tab, SerialLink &link, QObject *parent)

@@ -14,14 +14,16 @@ execute_process(
 configure_file(${linux_folder}/org.tarnwick.tarnwick.metainfo.xml.in
   org.tarnwick.tarnwick.metainfo.xml @ONLY)
 
-install(TARGETS tarnwick tarnwick-device)
+install(TARGETS tarnwick tarnwick-device tarnwick-run)
 install(FILES ${linux_folder}/tarnwick.desktop
   DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/org.tarnwick.tarnwick.metainfo.xml
   DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${linux_folder}/tarnwick-device.bash
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
-  RENAME tarnwick-device)
+foreach(program tarnwick-device tarnwick-run)
+  install(FILES ${linux_folder}/${program}.bash
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+    RENAME ${program})
+endforeach()
 # udev looks there below /usr and below /usr/local, whatever the folder of libraries is called.
 install(FILES ${linux_folder}/70-tarnwick.rules DESTINATION lib/udev/rules.d)
 
@@ -33,7 +35,7 @@ foreach(size 48 128 256)
     RENAME tarnwick.png)
 endforeach()
 
-install(FILES docs/man/tarnwick.1 docs/man/tarnwick-device.1
+install(FILES docs/man/tarnwick.1 docs/man/tarnwick-device.1 docs/man/tarnwick-run.1
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 # The program looks for them there; documentation may be left out of an installation.
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DATADIR}/tarnwick)

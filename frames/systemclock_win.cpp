@@ -1,6 +1,6 @@
+#include "frames/arrivaltime.h"
 #include "frames/systemclock.h"
 
-#include <QElapsedTimer>
 #include <QWinEventNotifier>
 
 #include <algorithm>
@@ -26,7 +26,6 @@ public:
         : m_timer(createTimer())
         , m_notifier(m_timer)
     {
-        m_sinceStart.start();
         connect(&m_notifier, &QWinEventNotifier::activated, this, [this] { ring(); });
     }
 
@@ -39,7 +38,7 @@ public:
     WaitableTimerClock(const WaitableTimerClock &) = delete;
     WaitableTimerClock &operator=(const WaitableTimerClock &) = delete;
 
-    qint64 now() const override { return m_sinceStart.nsecsElapsed(); }
+    qint64 now() const override { return ArrivalTime::now().monotonicNs; }
 
     void setAlarm(qint64 time) override
     {
@@ -74,7 +73,6 @@ private:
 
     HANDLE m_timer;
     QWinEventNotifier m_notifier;
-    QElapsedTimer m_sinceStart;
     qint64 m_time = 0;
     bool m_isSet = false;
 };

@@ -5,6 +5,7 @@
 namespace {
 
 constexpr int silenceMs = 50;
+constexpr qint64 nsPerMs = 1000000;
 
 } // namespace
 
@@ -15,13 +16,29 @@ Receiver::Receiver(ReadStartBytes readStartBytes, QObject *parent)
     m_silence.setSingleShot(true);
     m_silence.setTimerType(Qt::PreciseTimer);
     m_silence.setInterval(silenceMs);
-    connect(&m_silence, &QTimer::timeout, this,
-            [this] { giveOut(m_reassembler.giveUpLoneStartByte(), m_lastArrival); });
+    connect(&m_silence, &QTimer::timeout, this, [this] {
+        if (m_gapMs) {
+            endRun();
+        } else {
+            giveOut(m_reassembler.giveUpLoneStartByte(), m_lastArrival);
+        }
+    });
+}
+
+void Receiver::setGap(std::optional<int> gapMs)
+{
+    endRun();
+    m_gapMs = gapMs;
+    m_silence.setInterval(gapMs.value_or(silenceMs));
 }
 
 void Receiver::take(const QByteArray &chunk, ArrivalTime time)
 {
     if (chunk.isEmpty()) {
+        return;
+    }
+    if (m_gapMs) {
+        takeIntoRun(chunk, time);
         return;
     }
     m_silence.stop();
@@ -40,5 +57,29 @@ void Receiver::giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time)
         } else {
             emit noticeReceived(piece.bytes, time);
         }
+    }
+}
+
+void Receiver::takeIntoRun(const QByteArray &chunk, ArrivalTime time)
+{
+    const qint64 gapNs = *m_gapMs * nsPerMs;
+    // The timer may be late.
+    if (time.monotonicNs - m_lastArrival.monotonicNs >= gapNs ||
+        m_run.size() + chunk.size() > FrameReassembler::capacity) {
+        endRun();
+    }
+    if (m_run.isEmpty()) {
+        m_runBegan = time;
+    }
+    m_run += chunk;
+    m_lastArrival = time;
+    m_silence.start();
+}
+
+void Receiver::endRun()
+{
+    m_silence.stop();
+    if (!m_run.isEmpty()) {
+        emit frameReceived(std::exchange(m_run, {}), m_runBegan);
     }
 }

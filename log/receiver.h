@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 
 /// Takes in what the links receive and gives out the frames in it, and what belongs to none.
 class Receiver : public QObject
@@ -18,6 +19,10 @@ public:
     using ReadStartBytes = std::function<StartBytes()>;
 
     explicit Receiver(ReadStartBytes readStartBytes, QObject *parent = nullptr);
+
+    /// From now on a run of bytes that so many ms of silence follow is a frame, whatever it holds.
+    /// Nothing stands for frames that are found by their start bytes and length.
+    void setGap(std::optional<int> gapMs);
 
     /// Takes in a chunk that was read at that time. A first start byte at its end that nothing has
     /// followed for 50 ms is given out as a notice.
@@ -32,9 +37,15 @@ signals:
 
 private:
     void giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time);
+    void takeIntoRun(const QByteArray &chunk, ArrivalTime time);
+    void endRun();
 
     ReadStartBytes m_readStartBytes;
     FrameReassembler m_reassembler;
     QTimer m_silence;
     ArrivalTime m_lastArrival;
+    std::optional<int> m_gapMs;
+    /// What has come since the last silence.
+    QByteArray m_run;
+    ArrivalTime m_runBegan;
 };

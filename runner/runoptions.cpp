@@ -227,7 +227,7 @@ ParsedOptions parseRunOptions(const QStringList &arguments)
     QCommandLineParser parser;
     declareRunOptions(parser);
     if (!parser.parse(arguments)) {
-        return {{}, parser.errorText() + QLatin1Char('.')};
+        return {{}, parser.errorText()};
     }
     OptionReader reader(parser);
     RunOptions options;

@@ -31,7 +31,7 @@ QByteArray yamlText(QString text)
 
 QByteArray TapReport::opening()
 {
-    return "TAP version 14\n";
+    return "TAP version 13\n";
 }
 
 QByteArray TapReport::file(const QString &name, int pass)

@@ -2,7 +2,8 @@
 
 #include "runner/report.h"
 
-/// The Test Anything Protocol, version 14: a test for each row.
+/// The Test Anything Protocol: a test for each row. What it says is that of version 14; it calls
+/// itself 13, since harnesses in use refuse a higher number.
 class TapReport : public Report
 {
 public:

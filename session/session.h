@@ -36,6 +36,10 @@ public:
     /// What frames are like besides their start bytes.
     FrameFormat &format() { return m_format; }
 
+    /// From now on a run of bytes that so many ms of silence follow is a received frame. Nothing
+    /// stands for frames that are found by their start bytes and length.
+    void setFrameGap(std::optional<int> gapMs) { m_receiver.setGap(gapMs); }
+
     /// Stops the loop and closes the link.
     void endLink(LinkMode mode);
 

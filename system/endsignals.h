@@ -16,5 +16,6 @@ public:
     explicit EndSignals(int patienceSeconds, QObject *parent = nullptr);
 
 signals:
-    void arrived();
+    /// The number is the signal's.
+    void arrived(int signal);
 };

@@ -18,13 +18,13 @@ static_assert(std::atomic<int>::is_always_lock_free);
 
 /// The alarm ends a program that doesn't get round to its event loop; only the first signal sets
 /// it.
-void passOn(int /*signal*/)
+void passOn(int signal)
 {
     const int errorBefore = errno;
     if (const unsigned seconds = patience.exchange(0)) {
         alarm(seconds);
     }
-    const char mark = 0;
+    const char mark = static_cast<char>(signal);
     // When the pipe is full, the event loop has enough to find.
     [[maybe_unused]] const ssize_t written = write(writeEnd, &mark, 1);
     errno = errorBefore;
@@ -73,7 +73,7 @@ public:
         connect(&m_notifier, &QSocketNotifier::activated, this, [this, parent] {
             std::array<char, 16> marks{};
             if (read(m_reading.get(), marks.data(), marks.size()) > 0) {
-                emit parent->arrived();
+                emit parent->arrived(marks.front());
             }
         });
     }

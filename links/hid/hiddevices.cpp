@@ -15,15 +15,31 @@ namespace {
 /// each.
 constexpr int manyTypes = 64;
 
+using HidChain = std::unique_ptr<hid_device_info, decltype(&hid_free_enumeration)>;
+
+HidChain chainOf(DeviceIds type)
+{
+    return {hid_enumerate(type.vendor, type.product), &hid_free_enumeration};
+}
+
+HidDevice deviceOf(const hid_device_info &info)
+{
+    return {QString::fromLocal8Bit(info.path), {info.vendor_id, info.product_id}};
+}
+
 QVector<HidDevice> enumerate(DeviceIds type)
 {
-    const std::unique_ptr<hid_device_info, decltype(&hid_free_enumeration)> chain(
-        hid_enumerate(type.vendor, type.product), &hid_free_enumeration);
+    const HidChain chain = chainOf(type);
     QVector<HidDevice> devices;
     for (const hid_device_info *info = chain.get(); info != nullptr; info = info->next) {
-        devices.append({QString::fromLocal8Bit(info->path), {info->vendor_id, info->product_id}});
+        devices.append(deviceOf(*info));
     }
     return devices;
+}
+
+QString textOf(const wchar_t *text)
+{
+    return text != nullptr ? QString::fromWCharArray(text) : QString();
 }
 
 bool isOfType(const HidDevice &device, DeviceIds type)
@@ -47,6 +63,17 @@ std::optional<QVector<HidDevice>> everythingIfCheaper(const QVector<DeviceIds> &
 }
 
 } // namespace
+
+QVector<DescribedHidDevice> describedHidDevices()
+{
+    const HidChain chain = chainOf({});
+    QVector<DescribedHidDevice> devices;
+    for (const hid_device_info *info = chain.get(); info != nullptr; info = info->next) {
+        devices.append(
+            {deviceOf(*info), textOf(info->serial_number), textOf(info->product_string)});
+    }
+    return devices;
+}
 
 QVector<HidDevice> attachedHidDevices(const QVector<DeviceIds> &wanted)
 {

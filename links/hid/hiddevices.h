@@ -12,6 +12,17 @@ struct HidDevice
     DeviceIds ids;
 };
 
+/// An attached HID device with what it says about itself; empty where it says nothing.
+struct DescribedHidDevice
+{
+    HidDevice device;
+    QString serialNumber;
+    QString product;
+};
+
+/// All attached devices, in the system's order.
+QVector<DescribedHidDevice> describedHidDevices();
+
 /// The attached devices of the wanted types: in the order of the types, and in the system's order
 /// within one. A type that is wanted twice yields its devices twice; an ID of 0 stands for any.
 ///

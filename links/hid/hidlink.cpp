@@ -66,7 +66,7 @@ bool HidLink::open(const QString &path, quint8 reportId)
     m_openPath = path;
     m_reportId = reportId;
     m_thread.setIds(ids.vendor, ids.product);
-    m_thread.setPacketSize(readPacketSize(m_deviceIdFile, ids));
+    m_thread.setPacketSize(m_reportSize.value_or(readPacketSize(m_deviceIdFile, ids)));
     m_timing.emplace();
     m_thread.start();
     emit openChanged(true);

@@ -31,6 +31,9 @@ public:
 
     /// Opens the device at a path, after closing the one that is open. Returns whether it is open.
     bool open(const QString &path, quint8 reportId);
+    /// The bytes of data in each report, in place of what the device-ID file says; for devices that
+    /// are opened from now on.
+    void setReportSize(std::optional<int> bytes) { m_reportSize = bytes; }
     /// Why the last attempt to open a device failed, if it did.
     const OpenFailure &failure() const { return m_failure; }
 
@@ -68,6 +71,7 @@ private:
     QHash<QString, DeviceIds> m_listedIds;
     QString m_openPath;
     quint8 m_reportId = 0;
+    std::optional<int> m_reportSize;
     OpenFailure m_failure;
     /// Held while a device is open.
     std::optional<ExactTiming> m_timing;

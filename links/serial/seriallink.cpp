@@ -143,7 +143,17 @@ void SerialLink::onReadyRead()
     if (!m_firstRead) {
         m_firstRead = ArrivalTime::now();
     }
-    m_wait.announce();
+    if (m_handsUpAtOnce) {
+        handUp();
+    } else {
+        m_wait.announce();
+    }
+}
+
+bool SerialLink::isDrained() const
+{
+    return !m_port.isOpen() || (m_port.bytesToWrite() == 0 &&
+                                !hasUnsentBytes(const_cast<QSerialPort &>(m_port).handle()));
 }
 
 void SerialLink::onError(QSerialPort::SerialPortError error)

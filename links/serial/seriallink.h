@@ -46,6 +46,13 @@ public:
     /// How the port that was open last was opened.
     const SerialSettings &settings() const { return m_settings; }
 
+    /// From now on what has come in is handed up as soon as the port announces it, in pieces or
+    /// not.
+    void handUpAtOnce() { m_handsUpAtOnce = true; }
+
+    /// Whether all that was written has left the system, too, as far as it tells.
+    bool isDrained() const;
+
     /// Looks for what has come in, as if the port had announced it.
     void receive();
 
@@ -73,6 +80,7 @@ private:
     ArrivalWait m_wait;
     /// When the first of the bytes that are to be handed up was read.
     std::optional<ArrivalTime> m_firstRead;
+    bool m_handsUpAtOnce = false;
     bool m_handsUp = false;
     bool m_isDueMeanwhile = false;
     bool m_failed = false;

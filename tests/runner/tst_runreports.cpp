@@ -159,7 +159,7 @@ void TestRunReports::tap()
     }
     text += report.closing(RunSummary(), RunEnd::Done);
     QCOMPARE(text,
-             QByteArray("TAP version 14\n"
+             QByteArray("TAP version 13\n"
                         "# list.txt\n"
                         "ok 1 - 003 Read status\n"
                         "  ---\n  duration_ms: 3.24\n  ...\n"

@@ -1,4 +1,4 @@
-#include "app/linktexts.h"
+#include "links/linktexts.h"
 #include "links/serial/seriallink.h"
 
 #include <QtTest>

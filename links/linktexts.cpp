@@ -1,4 +1,4 @@
-#include "app/linktexts.h"
+#include "links/linktexts.h"
 
 #include "frames/hextext.h"
 #include "links/serial/serialline.h"

@@ -1,0 +1,134 @@
+#include "runner/pipejob.h"
+
+#include "frames/systemclock.h"
+#include "runner/deviceidfile.h"
+#include "runner/jsonreport.h"
+#include "runner/piperow.h"
+
+PipeJob::PipeJob(const RunOptions &options)
+    : m_options(options)
+    , m_format(emptyPlan(QStringLiteral("-"), options.settings))
+    , m_session(deviceIdFilePath(), {})
+    , m_wire(m_session)
+    , m_clock(makeSystemClock())
+    , m_opener(m_session, options.link)
+    , m_lines(makeLineSource())
+{
+    m_opener.setDeviceFormat(m_format.layout.startBytes, m_format.layout.withCrc);
+    m_totalTime.setSingleShot(true);
+    connect(&m_totalTime, &QTimer::timeout, this, [this] { end(RunEnd::TimedOut); });
+    connect(&m_opener, &LinkOpener::failed, this, [this](const QString &why) {
+        complain(why);
+        finish(ExitCode::LinkNotOpened);
+    });
+    connect(&m_opener, &LinkOpener::opened, this, [this] {
+        m_isReady = true;
+        takeNext();
+    });
+    connect(&m_wire, &Wire::lost, this, [this](const QString &why) {
+        complain(why);
+        finish(ExitCode::LinkLost);
+    });
+    connect(m_lines.get(), &LineSource::arrived, this, &PipeJob::takeLine);
+    connect(m_lines.get(), &LineSource::ended, this, [this] {
+        m_isAtEnd = true;
+        takeNext();
+    });
+}
+
+void PipeJob::start()
+{
+    if (m_options.rules.totalTimeoutSeconds > 0) {
+        constexpr int msPerSecond = 1000;
+        m_totalTime.start(m_options.rules.totalTimeoutSeconds * msPerSecond);
+    }
+    m_opener.start();
+}
+
+void PipeJob::end(RunEnd why)
+{
+    finish(exitCodeOf(why, RunSummary(), true));
+}
+
+void PipeJob::takeLine(const QByteArray &line)
+{
+    m_waiting.push_back(line);
+    takeNext();
+}
+
+void PipeJob::takeNext()
+{
+    while (m_isReady && !m_run && !m_waiting.empty() && !m_isFinished) {
+        const QByteArray line = m_waiting.front();
+        m_waiting.pop_front();
+        ++m_count;
+        const Parsed<TestRow> row = parsePipeRow(line, m_count);
+        if (row.value) {
+            runRow(*row.value);
+        } else {
+            tellFault(row.fault.words);
+        }
+    }
+    if (m_isReady && m_isAtEnd && !m_run && m_waiting.empty()) {
+        finish(m_code);
+    }
+}
+
+void PipeJob::runRow(const TestRow &row)
+{
+    FilePlan plan = m_format;
+    plan.rows = {plannedRow(row, plan.layout)};
+    if (plan.rows.first().isPause()) {
+        tellFault(QStringLiteral("the row holds no whole bytes"));
+        return;
+    }
+    m_isFree = row.expectation.isEmpty();
+    if (m_isFree) {
+        plan.rows.first().expectation.replies = {{anyFrame()}};
+    }
+    RunRules rules = m_options.rules;
+    rules.passes = 1;
+    rules.retries = m_isFree ? 0 : rules.retries;
+    m_run = std::make_unique<Run>(RunPlan{{plan}, rules}, m_wire, *m_clock);
+    connect(m_run.get(), &Run::judged, this, &PipeJob::tell);
+    // Not from within: the run is in the midst of telling.
+    connect(m_run.get(), &Run::ended, this, [this] {
+        QMetaObject::invokeMethod(this, &PipeJob::takeAfterRun, Qt::QueuedConnection);
+    });
+    m_run->start();
+}
+
+void PipeJob::takeAfterRun()
+{
+    m_run.reset();
+    takeNext();
+}
+
+void PipeJob::tell(const RowResult &result)
+{
+    RowResult told = result;
+    if (m_isFree && result.replies.isEmpty() && result.verdict == RowResult::Verdict::Failed) {
+        told.why.clear();
+    }
+    if (m_isFree && told.why.isEmpty()) {
+        told.verdict = RowResult::Verdict::Sent;
+    }
+    if (!told.isGood()) {
+        m_code = m_code == ExitCode::Good ? ExitCode::ExpectationFailed : m_code;
+    }
+    m_output.write(jsonLine(jsonOf(told)));
+}
+
+void PipeJob::tellFault(const QString &why)
+{
+    m_code = ExitCode::WrongInput;
+    m_output.write(
+        jsonLine({{"ev", "verdict"}, {"row", m_count}, {"verdict", "error"}, {"why", why}}));
+}
+
+void PipeJob::finish(ExitCode code)
+{
+    if (!std::exchange(m_isFinished, true)) {
+        emit finished(code == ExitCode::Good && !m_output.isGood() ? ExitCode::NotWritten : code);
+    }
+}

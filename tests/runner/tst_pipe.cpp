@@ -1,0 +1,107 @@
+#include "ranprogram.h"
+#include "runningdevice.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+/// Rows that come one a line, each answered before the next one is given.
+class TestPipe : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void eachLineIsAnswered();
+    void whatIsExpectedIsChecked();
+    void aLineThatIsNoRow();
+    void aRowWithoutAnAnswer();
+    void theLastLineNeedsNoEnd();
+    void theLinkIsNeeded();
+};
+
+namespace {
+
+QJsonObject answerTo(QProcess &process, const QByteArray &line)
+{
+    process.write(line);
+    while (!process.canReadLine()) {
+        if (!process.waitForReadyRead(10000)) {
+            return {};
+        }
+    }
+    return QJsonDocument::fromJson(process.readLine()).object();
+}
+
+} // namespace
+
+void TestPipe::eachLineIsAnswered()
+{
+    QProcess process;
+    process.start(TARNWICK_RUN, {"--sim", "--pipe"});
+    const QJsonObject first = answerTo(process, "Read,select,03 0010 00 01\n");
+    QCOMPARE(first.value("verdict").toString(), QString("sent"));
+    QCOMPARE(first.value("desc").toString(), QString("Read"));
+    QCOMPARE(first.value("sent").toString(), QString("5AA5050300100001"));
+    QCOMPARE(first.value("replies").toArray(), QJsonArray{"0300010010"});
+    QVERIFY(first.value("reply_us").toDouble() > 0);
+    QCOMPARE(answerTo(process, "Read,03 0011 00 01\n").value("row").toInt(), 2);
+    process.closeWriteChannel();
+    QCOMPARE(endOf(process).code, 0);
+}
+
+void TestPipe::whatIsExpectedIsChecked()
+{
+    QProcess process;
+    process.start(TARNWICK_RUN, {"--sim", "--pipe", "--crc"});
+    QCOMPARE(answerTo(process, "Echo,42 0000 01 //? 42 **\n").value("verdict").toString(),
+             QString("pass"));
+    const QJsonObject failed = answerTo(process, "Echo,42 0000 01 //? 43 **  no //! 99\n");
+    QCOMPARE(failed.value("verdict").toString(), QString("fail"));
+    QVERIFY(failed.value("why").toString().startsWith("expected 43 **, got 42 00 00 01"));
+    process.closeWriteChannel();
+    QCOMPARE(endOf(process).code, 1);
+}
+
+void TestPipe::aLineThatIsNoRow()
+{
+    QProcess process;
+    process.start(TARNWICK_RUN, {"--sim", "--pipe"});
+    for (const QByteArray line :
+         {"nonsense\n", "Odd,03 1\n", "Bad,03 0010 //? 0G\n", "\n", "P,++ 1\n"}) {
+        const QJsonObject answer = answerTo(process, line);
+        QCOMPARE(answer.value("verdict").toString(), QString("error"));
+        QVERIFY(!answer.value("why").toString().isEmpty());
+    }
+    QCOMPARE(answerTo(process, "Echo,42 0000 01\n").value("verdict").toString(), QString("sent"));
+    process.closeWriteChannel();
+    QCOMPARE(endOf(process).code, 2);
+}
+
+void TestPipe::aRowWithoutAnAnswer()
+{
+    RunningDevice device;
+    QVERIFY(device.startOnly({"--mute"}));
+    const Ran result =
+        ran({"--port", device.printedPath(), "--pipe", "-t", "30"}, "Echo,42 0000 01\n");
+    QCOMPARE(result.code, 0);
+    const QJsonObject answer = QJsonDocument::fromJson(result.out).object();
+    QCOMPARE(answer.value("verdict").toString(), QString("sent"));
+    QVERIFY(answer.value("replies").toArray().isEmpty());
+    QVERIFY(!answer.contains("why"));
+}
+
+void TestPipe::theLastLineNeedsNoEnd()
+{
+    const Ran result = ran({"--sim", "--pipe"}, "Echo,42 0000 01");
+    QCOMPARE(result.out.count('\n'), 1);
+}
+
+void TestPipe::theLinkIsNeeded()
+{
+    QCOMPARE(ran({"--pipe", "--port", "/nowhere"}, "Echo,42 0000 01\n").code, 3);
+}
+
+QTEST_GUILESS_MAIN(TestPipe)
+
+#include "tst_pipe.moc"
