@@ -1,5 +1,6 @@
 #include "runner/program.h"
 
+#include "runner/conversion.h"
 #include "runner/exitcode.h"
 #include "runner/inputfiles.h"
 #include "runner/lists.h"
@@ -110,6 +111,15 @@ ExitCode runFiles(const RunOptions &options)
     return workOff(job);
 }
 
+ExitCode convert(const RunOptions &options)
+{
+    const Conversion result = convertRecording(options.recording, options.files.first());
+    if (!result.words.isEmpty()) {
+        complain(result.words);
+    }
+    return result.code;
+}
+
 ExitCode perform(const RunOptions &options)
 {
     using Task = RunOptions::Task;
@@ -126,6 +136,8 @@ ExitCode perform(const RunOptions &options)
         PipeJob job(options);
         return workOff(job);
     }
+    case Task::Convert:
+        return convert(options);
     case Task::Run:
     case Task::Check:
     case Task::DryRun:

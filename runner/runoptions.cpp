@@ -50,6 +50,9 @@ void declareRunOptions(QCommandLineParser &parser)
         {"total-timeout", "Ends after that time.", "SECONDS"},
         {"format", "What is printed: text, tap or jsonl.", "FORMAT"},
         {"junit", "Writes a JUnit report.", "FILE"},
+        {"record", "Records what goes over the wire: FILE.jsonl or FILE.pcapng.", "FILE"},
+        {"convert", "Writes a recording anew: to FILE.csv, FILE.jsonl or FILE.pcapng.",
+         "RECORDING"},
         {{"q", "quiet"}, "Prints failures and the closing line."},
         {{"v", "verbose"}, "Prints what goes over the wire, too."},
         {"color", "Colours: auto, always or never.", "WHEN"},
@@ -65,7 +68,7 @@ RunOptions::Task taskOf(const OptionReader &reader)
     static const QVector<QPair<QString, Task>> tasks{
         {"help", Task::Help},        {"version", Task::Version}, {"list-ports", Task::ListPorts},
         {"list-hid", Task::ListHid}, {"check", Task::Check},     {"dry-run", Task::DryRun},
-        {"pipe", Task::Pipe},
+        {"pipe", Task::Pipe},        {"convert", Task::Convert},
     };
     for (const auto &[option, task] : tasks) {
         if (reader.has(option)) {
@@ -179,6 +182,7 @@ void readOutput(OptionReader &reader, OutputOptions &output)
     reader.readChoice("color", {"auto", "always", "never"},
                       {Colour::Auto, Colour::Always, Colour::Never}, output.colour);
     reader.readText("junit", output.junitFile);
+    reader.readText("record", output.recordFile);
     if (reader.has("quiet")) {
         output.detail = OutputOptions::Detail::Quiet;
     } else if (reader.has("verbose")) {
@@ -207,6 +211,10 @@ QString contradictionIn(const RunOptions &options)
     if (readsFiles(options.task) && options.files.isEmpty()) {
         return QStringLiteral("A command file is missing.");
     }
+    if (options.task == RunOptions::Task::Convert) {
+        return options.files.size() == 1 ? QString()
+                                         : QStringLiteral("--convert needs one file to write to.");
+    }
     if (!readsFiles(options.task) && !options.files.isEmpty()) {
         return QStringLiteral("Unexpected argument \"%1\".").arg(options.files.first());
     }
@@ -231,9 +239,10 @@ ParsedOptions parseRunOptions(const QStringList &arguments)
     }
     OptionReader reader(parser);
     RunOptions options;
-    reader.atMostOneOf({"list-ports", "list-hid", "check", "dry-run", "pipe"});
+    reader.atMostOneOf({"list-ports", "list-hid", "check", "dry-run", "pipe", "convert"});
     options.task = taskOf(reader);
     options.asJson = reader.has("json");
+    reader.readText("convert", options.recording);
     options.files = parser.positionalArguments();
     readLink(reader, options.link);
     readFrames(reader, options.settings);

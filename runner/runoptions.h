@@ -56,16 +56,19 @@ struct OutputOptions
     Colour colour = Colour::Auto;
     Detail detail = Detail::Usual;
     QString junitFile;
+    QString recordFile;
 };
 
 /// What the command line asks for.
 struct RunOptions
 {
-    enum class Task { Run, Check, DryRun, ListPorts, ListHid, Pipe, Help, Version };
+    enum class Task { Run, Check, DryRun, ListPorts, ListHid, Pipe, Convert, Help, Version };
 
     Task task = Task::Run;
     bool asJson = false;
     QStringList files;
+    /// The recording that is to be converted.
+    QString recording;
     LinkChoice link;
     /// What goes before the settings in the files.
     FileSettings settings;

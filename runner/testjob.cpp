@@ -91,6 +91,58 @@ void TestJob::end(RunEnd why)
 
 void TestJob::begin()
 {
+    if (m_options.output.recordFile.isEmpty()) {
+        beginRows();
+    } else {
+        record();
+    }
+}
+
+void TestJob::record()
+{
+    const FrameLayout &layout = m_plan.files.first().layout;
+    m_wire.setFormat(layout, m_plan.files.first().gapMs);
+    RecordingPlan recording;
+    recording.path = m_options.output.recordFile;
+    recording.head = m_session.tap().head();
+    recording.head.version = QStringLiteral(TARNWICK_VERSION);
+    connect(&m_session.tap(), &WireTap::happened, &m_recorder, &Recorder::record);
+    connect(&m_recorder, &Recorder::changed, this, &TestJob::noteRecording);
+    m_session.tap().start();
+    m_recorder.start(recording);
+}
+
+/// Nothing is sent where the recording can't begin.
+void TestJob::noteRecording()
+{
+    if (m_hasBegun || m_isFinished) {
+        return;
+    }
+    const RecordingStatus &status = m_recorder.status();
+    if (!status.error.isEmpty()) {
+        fail(ExitCode::NotWritten, status.error);
+    } else if (status.isRunning) {
+        beginRows();
+    }
+}
+
+bool TestJob::endRecording()
+{
+    if (m_options.output.recordFile.isEmpty()) {
+        return true;
+    }
+    m_session.tap().stop();
+    const bool isClosed = m_recorder.finish();
+    const RecordingStatus &status = m_recorder.status();
+    if (!status.error.isEmpty()) {
+        complain(status.error);
+    }
+    return isClosed && status.error.isEmpty() && status.droppedEvents == 0;
+}
+
+void TestJob::beginRows()
+{
+    m_hasBegun = true;
     m_output.write(m_report->opening());
     if (m_plan.keepsIntervals()) {
         m_realTime.emplace();
@@ -119,7 +171,7 @@ void TestJob::finish(RunEnd why)
     summary.isRealTime = m_wasRealTime;
     m_progress.clear();
     m_output.write(m_report->closing(summary, why));
-    bool isWritten = m_output.isGood();
+    bool isWritten = endRecording() && m_output.isGood();
     if (m_junit && !m_junit->finish(summary, why)) {
         complain(QStringLiteral("%1: %2").arg(m_options.output.junitFile, m_junit->errorText()));
         isWritten = false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frames/alarmclock.h"
+#include "recording/recorder.h"
 #include "runner/exitcode.h"
 #include "runner/junitfile.h"
 #include "runner/linkopener.h"
@@ -36,6 +37,10 @@ signals:
 
 private:
     void begin();
+    void record();
+    void noteRecording();
+    void beginRows();
+    bool endRecording();
     void finish(RunEnd why);
     void fail(ExitCode code, const QString &why);
     void tellRow(const RowResult &result);
@@ -52,9 +57,11 @@ private:
     Output m_output;
     std::unique_ptr<Report> m_report;
     std::optional<JunitFile> m_junit;
+    Recorder m_recorder;
     std::optional<RealTime> m_realTime;
     bool m_wasRealTime = false;
     Progress m_progress;
     QTimer m_totalTime;
+    bool m_hasBegun = false;
     bool m_isFinished = false;
 };

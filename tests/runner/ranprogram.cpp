@@ -35,3 +35,9 @@ QString ListFolder::file(const QByteArray &text, const QString &name) const
     file.write(text);
     return path(name);
 }
+
+QByteArray ListFolder::content(const QString &name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}

@@ -29,6 +29,7 @@ class ListFolder
 public:
     /// Writes a file and returns its path.
     QString file(const QByteArray &text, const QString &name = QStringLiteral("list.txt")) const;
+    QByteArray content(const QString &name) const;
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
 private:

@@ -100,6 +100,7 @@ void TestRunOptions::tasks_data()
     QTest::newRow("ports") << "--list-ports --json" << int(Task::ListPorts);
     QTest::newRow("HID") << "--list-hid" << int(Task::ListHid);
     QTest::newRow("pipe") << "--pipe --sim" << int(Task::Pipe);
+    QTest::newRow("convert") << "--convert a.jsonl b.csv" << int(Task::Convert);
     QTest::newRow("help") << "--help" << int(Task::Help);
     QTest::newRow("version") << "--version" << int(Task::Version);
     QTest::newRow("standard input") << "--sim -" << int(Task::Run);
@@ -156,6 +157,8 @@ void TestRunOptions::wrongOnesAreTold_data()
     row("--sim --format xml f", "--format needs one of text, tap, jsonl, not \"xml\".");
     row("--sim --color red f", "--color needs");
     row("--sim --junit= f", "--junit needs a name");
+    row("--convert a.jsonl", "--convert needs one file to write to.");
+    row("--sim --record= f", "--record needs a name");
     row("--port= f", "--port needs a name");
 }
 

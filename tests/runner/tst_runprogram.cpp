@@ -21,6 +21,7 @@ private slots:
     void junitIsReadByOthers();
     void junitFitsTheSchema();
     void tapIsReadByProve();
+    void recordsAndConverts();
     void colours();
     void nothingGrowsInALongRun();
 };
@@ -165,6 +166,24 @@ void TestRunProgram::tapIsReadByProve()
     const Ran failed = ranOther("prove", {"--exec", "cat", bad});
     QCOMPARE(failed.code, 1);
     QVERIFY2(failed.out.contains("Failed 1/3 subtests"), failed.out);
+}
+
+void TestRunProgram::recordsAndConverts()
+{
+    const ListFolder folder;
+    const QString recording = folder.path("r.jsonl");
+    QCOMPARE(ran({"--sim", "--record", recording, folder.file(mixed)}).code, 1);
+    const QByteArray text = folder.content("r.jsonl");
+    QCOMPARE(text.count("5AA50442000001"), 2);
+    QCOMPARE(ran({"--convert", recording, folder.path("r.csv")}).code, 0);
+    QCOMPARE(folder.content("r.csv").count("5A A5 04 42 00 00 01"), 2);
+    QCOMPARE(ran({"--convert", recording, folder.path("r.pcapng")}).code, 0);
+    QCOMPARE(ran({"--convert", folder.path("r.pcapng"), folder.path("again.csv")}).code, 0);
+    QCOMPARE(folder.content("again.csv").count("5A A5 04 42 00 00 01"), 2);
+    QCOMPARE(ran({"--convert", folder.path("missing"), folder.path("x.csv")}).code, 2);
+    QCOMPARE(ran({"--convert", recording, folder.path("missing/x.csv")}).code, 6);
+    QCOMPARE(ran({"--sim", "--record", folder.path("missing/r.jsonl"), folder.file(mixed)}).code,
+             6);
 }
 
 void TestRunProgram::colours()

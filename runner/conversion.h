@@ -1,0 +1,16 @@
+#pragma once
+
+#include "runner/exitcode.h"
+
+#include <QString>
+
+/// What came of a conversion; the words tell what is wrong, or worth knowing.
+struct Conversion
+{
+    ExitCode code = ExitCode::Good;
+    QString words;
+};
+
+/// Writes a recording to another file: as CSV where its name ends in ".csv", otherwise as a
+/// recording of the form that its name asks for.
+Conversion convertRecording(const QString &from, const QString &to);
