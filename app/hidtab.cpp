@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int hexBase = 16;
+constexpr int reportIdBase = 16;
 const QString typesFile = QStringLiteral("hidDeviceID.ini");
 
 /// The paths, each with itself as tool tip, so that a long one can be read in full.
@@ -61,7 +61,7 @@ QString HidTab::devicePath() const
 
 quint8 HidTab::reportId() const
 {
-    return static_cast<quint8>(m_form->lineEdit_RpID->text().toUInt(nullptr, hexBase));
+    return static_cast<quint8>(m_form->lineEdit_RpID->text().toUInt(nullptr, reportIdBase));
 }
 
 void HidTab::showOpen(bool open)

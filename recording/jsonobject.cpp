@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr qint64 nsPerUs = 1000;
 /// Numbers beyond that aren't exact in JSON.
 constexpr double largestExact = 9007199254740992.0;
 

@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr qint64 nsPerUs = 1000;
-
 QByteArray jsonEscape(char character)
 {
     switch (character) {

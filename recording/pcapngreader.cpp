@@ -3,13 +3,13 @@
 #include "recording/jsonobject.h"
 #include "recording/pcapngformat.h"
 #include "recording/pcapngoptions.h"
+#include "recording/utctext.h"
 
 #include <QIODevice>
 #include <QtEndian>
 
 namespace {
 
-constexpr qint64 nsPerUs = 1000;
 /// As far as a time in ns fits, too.
 constexpr quint64 latestUtcUs = 9000000000000000;
 constexpr quint32 longestBlock = 4 * 1024 * 1024;

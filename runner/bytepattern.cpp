@@ -22,6 +22,8 @@ std::optional<std::pair<quint8, quint8>> halfOf(QChar character)
     return value ? std::optional(std::pair(*value, allBits)) : std::nullopt;
 }
 
+} // namespace
+
 /// A row of bits as long as is needed.
 class BitRow
 {
@@ -58,8 +60,6 @@ private:
 
     std::vector<quint64> m_words;
 };
-
-} // namespace
 
 /// Walks through the bytes with all ways to read them at once: bit n is set while the bytes so far
 /// fit the first n elements.
