@@ -26,6 +26,7 @@ class Recorder::Work
 public:
     Work(Recorder &owner, RecordingPlan plan)
         : m_plan(std::move(plan))
+        , m_makeSink(owner.m_makeSink)
         , m_owner(&owner)
     {}
 
@@ -67,6 +68,7 @@ private:
     void publish(const RecordingStatus &status, bool isOver);
 
     const RecordingPlan m_plan;
+    const MakeSink m_makeSink;
     EventQueue m_queue;
     QMutex m_lock;
     QWaitCondition m_end;
@@ -77,8 +79,8 @@ private:
 
 void Recorder::Work::run()
 {
-    RecordingFile file;
-    RecordingJob job(m_plan, file);
+    const std::unique_ptr<RecordingSink> sink = m_makeSink();
+    RecordingJob job(m_plan, *sink);
     if (job.begin(ArrivalTime::now())) {
         publish(job.status(), false);
         writeBatches(job);
@@ -123,7 +125,12 @@ void Recorder::Work::publish(const RecordingStatus &status, bool isOver)
 }
 
 Recorder::Recorder(QObject *parent)
+    : Recorder([] { return std::make_unique<RecordingFile>(); }, parent)
+{}
+
+Recorder::Recorder(MakeSink makeSink, QObject *parent)
     : QObject(parent)
+    , m_makeSink(std::move(makeSink))
 {}
 
 Recorder::~Recorder()

@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 /// Records events into files in a thread of its own, so that nobody waits for a disk.
@@ -15,7 +16,12 @@ class Recorder : public QObject
     Q_OBJECT
 
 public:
+    /// Makes where a recording goes; called in its thread.
+    using MakeSink = std::function<std::unique_ptr<RecordingSink>()>;
+
+    /// Records into files of the system.
     explicit Recorder(QObject *parent = nullptr);
+    explicit Recorder(MakeSink makeSink, QObject *parent = nullptr);
     /// Ends a recording as `finish` does.
     ~Recorder() override;
 
@@ -51,6 +57,7 @@ private:
 
     void takeStatus();
 
+    MakeSink m_makeSink;
     std::shared_ptr<Work> m_work;
     bool m_isRecording = false;
     RecordingStatus m_status;

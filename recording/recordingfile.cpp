@@ -21,11 +21,16 @@ RecordingSink::Created RecordingFile::create(const QString &path)
 
 bool RecordingFile::write(const QByteArray &bytes)
 {
-    const bool isWritten = m_file.write(bytes) == bytes.size();
-    if (!isWritten) {
-        m_error = m_file.errorString();
+    // A disk that fills up takes a part, and tells why only when it is offered the rest.
+    for (qint64 begin = 0; begin < bytes.size();) {
+        const qint64 written = m_file.write(bytes.constData() + begin, bytes.size() - begin);
+        if (written <= 0) {
+            m_error = m_file.errorString();
+            return false;
+        }
+        begin += written;
     }
-    return isWritten;
+    return true;
 }
 
 bool RecordingFile::sync()

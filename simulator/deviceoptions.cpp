@@ -31,6 +31,12 @@ void declareOptions(QCommandLineParser &parser)
         {"chatter", "HZ status frames are sent each second: 53 0000 and a 32-bit counter.", "HZ"},
         {"mute", "Requests are not answered."},
         {"seed", "Pieces and random bytes are those of seed N (default 1).", "N"},
+        {"play",
+         "Answers come from the recording FILE, in place of those of registers, after the time "
+         "that "
+         "they took then.",
+         "FILE"},
+        {"speed", "With --play, everything comes X times as fast (default 1).", "X"},
         {"ports",
          "The folder that the port is published in (default: ports, in the folder of the "
          "program, or of its settings where that can't be written).",
@@ -88,6 +94,30 @@ public:
             return;
         }
         startBytes = *header;
+    }
+
+    void readFile(QString &file)
+    {
+        const QString option = QStringLiteral("play");
+        file = m_parser.value(option);
+        if (m_parser.isSet(option) && file.isEmpty()) {
+            fail(option, QStringLiteral("a recording"));
+        }
+    }
+
+    void readSpeed(double &speed)
+    {
+        constexpr double slowest = 0.001;
+        constexpr double fastest = 1000000;
+        const QString option = QStringLiteral("speed");
+        if (!m_parser.isSet(option)) {
+            return;
+        }
+        bool isNumber = false;
+        speed = m_parser.value(option).toDouble(&isNumber);
+        if (!isNumber || !(speed >= slowest && speed <= fastest)) {
+            fail(option, QStringLiteral("a number from 0.001 to 1000000"));
+        }
     }
 
     void readFolder(QString &folder)
@@ -155,6 +185,8 @@ CommandLine parseCommandLine(const QStringList &arguments)
     values.readNumber("garbage", 1, std::numeric_limits<int>::max(), options.garbageEvery);
     values.readNumber("chatter", 1, highestChatterHz, options.chatterHz);
     values.readNumber("seed", quint32(0), std::numeric_limits<quint32>::max(), options.seed);
+    values.readFile(options.playFile);
+    values.readSpeed(options.playSpeed);
     values.readFolder(options.portsFolder);
     values.readLinkName(options.linkName);
     line.error = values.error();

@@ -21,6 +21,10 @@ struct DeviceOptions
     /// Whether requests are left without a reply.
     bool mute = false;
     quint32 seed = 1;
+    /// The recording that replies come from; empty for those of the register device.
+    QString playFile;
+    /// How many times faster than recorded they come.
+    double playSpeed = 1;
     /// Where the link is published; empty for the usual place.
     QString portsFolder;
     QString linkName = QStringLiteral("simulated");

@@ -1,14 +1,19 @@
+#include "recording/recordingreader.h"
 #include "simulator/announcement.h"
 #include "simulator/deviceoptions.h"
 #include "simulator/devicesession.h"
+#include "simulator/player.h"
 #include "simulator/pseudoterminal.h"
 #include "simulator/publishedlink.h"
 #include "system/endsignals.h"
+#include "system/regularfile.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <csignal>
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -28,6 +33,26 @@ void say(const QString &text)
     std::fflush(stdout);
 }
 
+/// What is in a recording; nothing, after the user was told why, where it can't be read.
+std::optional<PlayScript> readScript(const QString &path)
+{
+    QFile file;
+    if (!openRegularFile(file, path, QIODevice::ReadOnly)) {
+        complain(QStringLiteral("%1 can't be read.").arg(path));
+        return std::nullopt;
+    }
+    const auto reader = makeRecordingReader(file);
+    QVector<RecordEvent> events;
+    while (const auto event = reader->next()) {
+        events.append(*event);
+    }
+    if (!reader->error().isEmpty()) {
+        complain(QStringLiteral("%1, %2.").arg(path, reader->error()));
+        return std::nullopt;
+    }
+    return PlayScript(events);
+}
+
 int runDevice(const DeviceOptions &options)
 {
     // A reader of our output that goes away must not end us before the link is removed.
@@ -43,7 +68,14 @@ int runDevice(const DeviceOptions &options)
     const QString folder = options.portsFolder.isEmpty()
                                ? defaultPortsFolder(QStringLiteral("tarnwick"))
                                : options.portsFolder;
-    const DeviceSession session(options, *terminal);
+    std::unique_ptr<QObject> device;
+    if (options.playFile.isEmpty()) {
+        device = std::make_unique<DeviceSession>(options, *terminal);
+    } else if (const auto script = readScript(options.playFile)) {
+        device = std::make_unique<Player>(*script, options.playSpeed, *terminal);
+    } else {
+        return failed;
+    }
     PublishedLink link(folder, options.linkName);
     const QString error = link.publish(terminal->portPath());
     if (!error.isEmpty()) {

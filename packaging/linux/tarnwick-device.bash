@@ -1,13 +1,14 @@
 # shellcheck shell=bash
-# Completion of tarnwick-device's options, and of the folder that --ports takes.
+# Completion of tarnwick-device's options, of the folder that --ports takes, and of --play's file.
 
 _tarnwick_device() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
-    local options='-h --help --header --crc --delay --split --garbage --chatter --mute --seed --ports --name'
+    local options='-h --help --header --crc --delay --split --garbage --chatter --mute --seed --play --speed --ports --name'
     COMPREPLY=()
     case $before in
         --ports) mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
-        --header | --delay | --garbage | --chatter | --seed | --name) ;;
+        --play) mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+        --header | --delay | --garbage | --chatter | --seed | --speed | --name) ;;
         *) mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word") ;;
     esac
 }

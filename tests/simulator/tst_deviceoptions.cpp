@@ -24,7 +24,7 @@ namespace {
 QString described(const DeviceOptions &options)
 {
     return QStringLiteral("header %1 crc %2 delay %3 split %4 garbage %5 chatter %6 mute %7 "
-                          "seed %8 ports \"%9\" name \"%10\"")
+                          "seed %8 ports \"%9\" name \"%10\" play \"%11\" speed %12")
         .arg(QString::fromLatin1(bytesOf(options.startBytes).toHex(' ').toUpper()))
         .arg(options.withCrc)
         .arg(options.delayMs)
@@ -33,7 +33,8 @@ QString described(const DeviceOptions &options)
         .arg(options.chatterHz)
         .arg(options.mute)
         .arg(options.seed)
-        .arg(options.portsFolder, options.linkName);
+        .arg(options.portsFolder, options.linkName, options.playFile)
+        .arg(options.playSpeed);
 }
 
 CommandLine parse(const QString &arguments)
@@ -70,6 +71,8 @@ void TestDeviceOptions::readsOptions_data()
     row("--seed 0", [](DeviceOptions &o) { o.seed = 0; });
     row("--ports /a/b", [](DeviceOptions &o) { o.portsFolder = "/a/b"; });
     row("--name tunnel", [](DeviceOptions &o) { o.linkName = "tunnel"; });
+    row("--play a/run.jsonl", [](DeviceOptions &o) { o.playFile = "a/run.jsonl"; });
+    row("--speed 2.5", [](DeviceOptions &o) { o.playSpeed = 2.5; });
     row("--crc --mute --delay 5 --delay 7", [](DeviceOptions &o) {
         o.withCrc = true;
         o.mute = true;
@@ -116,6 +119,12 @@ void TestDeviceOptions::refusesWrongOptions_data()
     row("--seed 4294967296", "--seed");
     row("--seed -1", "--seed");
     row("--crc=1", "crc");
+    row("--play=", "--play");
+    row("--speed 0", "--speed");
+    row("--speed -1", "--speed");
+    row("--speed 1000001", "--speed");
+    row("--speed nan", "--speed");
+    row("--speed fast", "--speed");
     row("--ports=", "--ports");
     row("--name=", "--name");
     row("--name a/b", "--name");
@@ -142,7 +151,7 @@ void TestDeviceOptions::helpNamesEveryOption_data()
 {
     QTest::addColumn<QString>("option");
     for (const char *option : {"header", "crc", "delay", "split", "garbage", "chatter", "mute",
-                               "seed", "help", "ports", "name"}) {
+                               "seed", "help", "play", "speed", "ports", "name"}) {
         QTest::newRow(option) << "--" + QString(option);
     }
 }
