@@ -106,7 +106,7 @@ void Dialog::saveSettings()
 void Dialog::wheelEvent(QWheelEvent * /*event*/)
 {
     const QPoint position = mapFromGlobal(QCursor::pos());
-    // The table's geometry is relative to its parent; the two are compared as they are.
+    // See docs/deliberate.md, Wheel's place.
     if (m_form->commandArea->table().geometry().contains(position)) {
         m_rowActions.appendRowAtEnd();
     }

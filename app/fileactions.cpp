@@ -9,6 +9,7 @@
 #include "files/saveloss.h"
 #include "system/filereader.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QTextCodec>
@@ -41,10 +42,10 @@ FileContent readCommandsFile(const QString &path)
 
 } // namespace
 
-FileActions::FileActions(QWidget *window, QString dataFolder, FileActionHooks hooks)
+FileActions::FileActions(QWidget *window, QString dataFolder, FileSources sources)
     : m_window(window)
     , m_dataFolder(std::move(dataFolder))
-    , m_hooks(std::move(hooks))
+    , m_sources(std::move(sources))
 {}
 
 void FileActions::loadCommands()
@@ -69,33 +70,32 @@ bool FileActions::loadCommandsFrom(const QString &fileName)
 {
     const FileContent content = readCommandsFile(fileName);
     if (content.outcome == FileContent::Outcome::Unreadable) {
-        m_hooks.showMessage(QStringLiteral("Read fail,please check the path!"));
+        emit notice(QStringLiteral("Read fail,please check the path!"));
         return false;
     }
     if (content.outcome == FileContent::Outcome::TooLarge) {
-        m_hooks.showMessage(QStringLiteral("The file is too large for a command list!"));
+        emit notice(QStringLiteral("The file is too large for a command list!"));
         return false;
     }
     const CommandFile file = readCommandFile(content.bytes);
     if (file.hasTooManyRows) {
-        m_hooks.showMessage(
-            QStringLiteral("The file has more than %1 commands!").arg(mostCommandRows));
+        emit notice(QStringLiteral("The file has more than %1 commands!").arg(mostCommandRows));
         return false;
     }
     takeCommands(file, fileName);
     if (file.hasInvalidLines) {
-        m_hooks.showMessage(QStringLiteral("Input Register:Invalid format!"));
+        emit notice(QStringLiteral("Input Register:Invalid format!"));
     }
     return !file.isRecovery;
 }
 
 void FileActions::takeCommands(const CommandFile &file, const QString &fileName)
 {
-    m_hooks.replaceCommands(file.rows);
+    emit commandsRead(file.rows);
     if (file.isRecovery) {
-        m_hooks.commandsRecovered(fileName);
+        emit commandsRecovered(fileName);
     } else {
-        m_hooks.commandsStored(fileName);
+        emit commandsStored(fileName);
     }
 }
 
@@ -107,18 +107,18 @@ void FileActions::saveCommands()
     if (fileName.isEmpty()) {
         return;
     }
-    const QVector<CommandRow> rows = m_hooks.commands();
-    if (!save(fileName, commandFileText(rows), m_hooks.beforeOverwriting)) {
+    const QVector<CommandRow> rows = m_sources.commands();
+    if (!save(fileName, commandFileText(rows), [this] { emit overwriting(); })) {
         return;
     }
-    m_hooks.commandsStored(fileName);
-    m_hooks.tell(tr("Commands saved: %1").arg(QDir::toNativeSeparators(fileName)));
+    emit commandsStored(fileName);
+    emit told(tr("Commands saved: %1").arg(QDir::toNativeSeparators(fileName)));
     m_lastSaveFolder = folderOf(fileName);
     recordSaveFolder(m_dataFolder, m_lastSaveFolder);
 
     const QString loss = saveLossMessage(affectedRows(rows, *QTextCodec::codecForLocale()));
     if (!loss.isEmpty()) {
-        m_hooks.showMessage(loss);
+        emit notice(loss);
     }
 }
 
@@ -127,12 +127,12 @@ void FileActions::saveMessages()
     const QString fileName = QFileDialog::getSaveFileName(
         m_window, tr("Save command txt files"), startFolder(m_lastSaveFolder), tr("file(*.txt)"));
     if (!fileName.isEmpty()) {
-        if (!save(fileName, messageFileText(m_hooks.messages()))) {
+        if (!save(fileName, messageFileText(m_sources.messages()))) {
             return;
         }
-        m_hooks.tell(tr("Messages saved: %1").arg(QDir::toNativeSeparators(fileName)));
+        emit told(tr("Messages saved: %1").arg(QDir::toNativeSeparators(fileName)));
     }
-    // No name has no folder: after a cancelled save the next one starts afresh.
+    // No name has no folder. See docs/deliberate.md, Forgotten folder.
     m_lastSaveFolder = folderOf(fileName);
 }
 
@@ -141,7 +141,7 @@ bool FileActions::save(const QString &fileName, const QString &text,
 {
     const bool saved = saveFile(fileName, toLocalText(text), beforeOverwriting);
     if (!saved) {
-        m_hooks.showMessage(QStringLiteral("Save the file failed"));
+        emit notice(QStringLiteral("Save the file failed"));
     }
     return saved;
 }

@@ -3,7 +3,7 @@
 #include "commands/commandrow.h"
 #include "files/messagefile.h"
 
-#include <QCoreApplication>
+#include <QObject>
 #include <QVector>
 
 #include <functional>
@@ -11,33 +11,22 @@
 class QWidget;
 struct CommandFile;
 
-/// What the file actions need of the window around them.
-struct FileActionHooks
+/// What there is to save, asked for when the file is chosen.
+struct FileSources
 {
-    std::function<void(const QString &)> showMessage;
     std::function<QVector<CommandRow>()> commands;
-    /// Makes the given rows the only ones.
-    std::function<void(const QVector<CommandRow> &)> replaceCommands;
-    /// The commands are now as they are in the file.
-    std::function<void(const QString &path)> commandsStored;
-    /// The commands are now those of a recovery file, which are in no other one.
-    std::function<void(const QString &path)> commandsRecovered;
-    /// The commands' file is about to be overwritten: what is in it may be lost on the way.
-    std::function<void()> beforeOverwriting;
-    /// What the user is told without being stopped.
-    std::function<void(const QString &)> tell;
     std::function<QVector<MessageRow>()> messages;
 };
 
 /// Loading and saving as the user sees it: asks for the file, does the work, tells what went wrong,
 /// and remembers the folders for the next time.
-class FileActions
+class FileActions : public QObject
 {
-    Q_DECLARE_TR_FUNCTIONS(FileActions)
+    Q_OBJECT
 
 public:
     /// Dialogs open above the given window. The record of the folders is kept in the data folder.
-    FileActions(QWidget *window, QString dataFolder, FileActionHooks hooks);
+    FileActions(QWidget *window, QString dataFolder, FileSources sources);
 
     void loadCommands();
     /// The same, with the dialog open at a file.
@@ -52,6 +41,25 @@ public:
     QString lastSaveFolder() const { return m_lastSaveFolder; }
     void setLastSaveFolder(const QString &folder) { m_lastSaveFolder = folder; }
 
+signals:
+    /// Something the user must be told; handlers may block.
+    void notice(const QString &text);
+
+    /// What the user is told without being stopped.
+    void told(const QString &text);
+
+    /// The commands in a file, which are the only ones from now on.
+    void commandsRead(const QVector<CommandRow> &rows);
+
+    /// The commands are now as they are in the file.
+    void commandsStored(const QString &path);
+
+    /// The commands are now those of a recovery file, which are in no other one.
+    void commandsRecovered(const QString &path);
+
+    /// The commands' file is about to be overwritten: what is in it may be lost on the way.
+    void overwriting();
+
 private:
     bool loadCommandsFrom(const QString &fileName);
     void takeCommands(const CommandFile &file, const QString &fileName);
@@ -60,7 +68,7 @@ private:
 
     QWidget *m_window;
     QString m_dataFolder;
-    FileActionHooks m_hooks;
+    FileSources m_sources;
     QString m_lastLoadFolder;
     QString m_lastSaveFolder;
 };

@@ -11,7 +11,7 @@ class HidTab;
 class QLabel;
 
 /// The "HID" tab: which device is opened with which report ID, and the box that says whether frames
-/// carry a CRC. Its field of start bytes is never read.
+/// carry a CRC. Its field of start bytes is never read. See docs/deliberate.md, One header field.
 class HidTab : public QWidget
 {
     Q_OBJECT

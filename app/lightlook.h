@@ -8,8 +8,8 @@ class QWidget;
 /// The colours of all that no style sheet colours: message boxes, menus, tips, the texts of cells.
 QPalette lightPalette();
 
-/// Keeps the whole program light on every desktop. Style sheets set white grounds here and there,
-/// on which the white texts of a dark desktop could not be read.
+/// Keeps the whole program light on every desktop. Style sheets set white backgrounds here and
+/// there, on which the white texts of a dark desktop could not be read.
 ///
 /// It serves the application, boxes without a parent included, for as long as a window lives.
 class LightLook : public QObject

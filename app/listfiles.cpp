@@ -17,9 +17,11 @@ ListFiles::ListFiles(QWidget &window, CommandTable &commands, ListState &list, c
     , m_list(list)
     , m_log(log)
     , m_status(status)
-    , m_actions(&window, dataFolder(), hooks())
+    , m_actions(&window, dataFolder(), sources())
     , m_recovery(dataFolder(), m_list, [this] { return m_commands.rows(); })
-{}
+{
+    followActions();
+}
 
 void ListFiles::save()
 {
@@ -48,21 +50,22 @@ void ListFiles::offerLeftBehind()
     }
 }
 
-FileActionHooks ListFiles::hooks()
+FileSources ListFiles::sources() const
 {
-    FileActionHooks hooks;
-    hooks.showMessage = [this](const QString &text) { emit notice(text); };
-    hooks.commands = [this] { return m_commands.rows(); };
-    hooks.replaceCommands = [this](const auto &rows) { m_commands.replaceRows(rows); };
-    hooks.commandsStored = [this](const QString &path) {
+    return {[this] { return m_commands.rows(); }, [this] { return textsOf(m_log.records()); }};
+}
+
+void ListFiles::followActions()
+{
+    connect(&m_actions, &FileActions::notice, this, &ListFiles::notice);
+    connect(&m_actions, &FileActions::told, &m_status, &StatusLine::tell);
+    connect(&m_actions, &FileActions::commandsRead, &m_commands, &CommandTable::replaceRows);
+    connect(&m_actions, &FileActions::commandsStored, this, [this](const QString &path) {
         m_list.setStored(path);
         m_recovery.discard();
-    };
-    hooks.commandsRecovered = [this](const QString &path) { takeRecovered(path); };
-    hooks.beforeOverwriting = [this] { m_recovery.write(); };
-    hooks.tell = [this](const QString &text) { m_status.tell(text); };
-    hooks.messages = [this] { return textsOf(m_log.records()); };
-    return hooks;
+    });
+    connect(&m_actions, &FileActions::commandsRecovered, this, &ListFiles::takeRecovered);
+    connect(&m_actions, &FileActions::overwriting, this, [this] { m_recovery.write(); });
 }
 
 /// Its file goes, so the list is in none.

@@ -5,8 +5,6 @@
 
 #include <QObject>
 
-#include <functional>
-
 class CommandTable;
 class ListState;
 class RecordLog;
@@ -46,7 +44,8 @@ signals:
     void notice(const QString &text);
 
 private:
-    FileActionHooks hooks();
+    FileSources sources() const;
+    void followActions();
     void takeRecovered(const QString &path);
 
     CommandTable &m_commands;

@@ -41,7 +41,7 @@ void LoopPanel::showStopped()
 }
 
 /// After a loop that found nothing to send, only the serial tab's widgets come back, whatever the
-/// link, and the tabs stay disabled.
+/// link, and the tabs stay disabled. See docs/deliberate.md, Half a return.
 void LoopPanel::showNothingToSend()
 {
     setResting(false);

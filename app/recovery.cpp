@@ -140,7 +140,7 @@ QString Recovery::lockPathOf(int number) const
     return QDir(m_folder).filePath(QStringLiteral(".recovery-%1.lock").arg(number));
 }
 
-/// The lock is given back at once: what is left behind may be found by many.
+/// The lock is released at once: several programs may find what is left behind.
 bool Recovery::isLeftBehind(int number) const
 {
     LockFile lock(lockPathOf(number));

@@ -25,7 +25,7 @@ StatusLine::StatusLine(QList<QLabel *> labels, QObject *parent)
     , m_labels(std::move(labels))
 {
     for (const QLabel *label : std::as_const(m_labels)) {
-        connect(label, &QLabel::linkActivated, this, &StatusLine::takeUp, Qt::QueuedConnection);
+        connect(label, &QLabel::linkActivated, this, &StatusLine::runOffer, Qt::QueuedConnection);
     }
     show();
 }
@@ -87,7 +87,7 @@ QString StatusLine::htmlText() const
 }
 
 /// Runs when the label is done with the click, since the action may take the link away.
-void StatusLine::takeUp()
+void StatusLine::runOffer()
 {
     const std::function<void()> action = std::exchange(m_action, nullptr);
     withdrawOffer();

@@ -29,14 +29,14 @@ public:
     /// one does.
     void offer(const QString &text, const QString &linkText, std::function<void()> action);
 
-    /// Ends an offer that was not taken up.
+    /// Ends an offer that the user has not accepted.
     void withdrawOffer();
 
 private:
     void show();
     QString plainText() const;
     QString htmlText() const;
-    void takeUp();
+    void runOffer();
 
     QList<QLabel *> m_labels;
     QString m_link;

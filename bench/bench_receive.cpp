@@ -80,7 +80,7 @@ private:
 struct Tally
 {
     int received = 0;
-    int notices = 0;
+    int stray = 0;
     int outOfOrder = 0;
     QElapsedTimer sinceLast;
 
@@ -90,7 +90,7 @@ struct Tally
             outOfOrder += frame != numberedFrame(received++) ? 1 : 0;
             sinceLast.start();
         });
-        QObject::connect(&receiver, &Receiver::noticeReceived, [this] { ++notices; });
+        QObject::connect(&receiver, &Receiver::strayReceived, [this] { ++stray; });
         sinceLast.start();
     }
 };
@@ -150,10 +150,10 @@ int main(int argc, char *argv[])
     printFigure("resident memory", after.residentMiB, "MiB");
     printFigure("peak memory", after.peakMiB, "MiB");
     const int wrong = wrongRows(*window.messages());
-    if (tally.received != frames || tally.outOfOrder + tally.notices + wrong > 0) {
+    if (tally.received != frames || tally.outOfOrder + tally.stray + wrong > 0) {
         QTextStream(stdout) << "  LOST OR OUT OF ORDER: " << tally.received << " received, "
-                            << tally.outOfOrder << " out of order, " << tally.notices
-                            << " notices, " << wrong << " wrong rows\n";
+                            << tally.outOfOrder << " out of order, " << tally.stray << " stray, "
+                            << wrong << " wrong rows\n";
         return 1;
     }
     QTextStream(stdout) << "  every frame received once, in order, none lost\n";

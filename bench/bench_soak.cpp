@@ -51,7 +51,7 @@ struct Tally
 {
     int sent = 0;
     int received = 0;
-    int notices = 0;
+    int stray = 0;
 
     explicit Tally(const QObject &window)
     {
@@ -59,7 +59,7 @@ struct Tally
         const auto *receiver = window.findChild<Receiver *>();
         QObject::connect(sender, &Sender::sent, [this] { ++sent; });
         QObject::connect(receiver, &Receiver::frameReceived, [this] { ++received; });
-        QObject::connect(receiver, &Receiver::noticeReceived, [this] { ++notices; });
+        QObject::connect(receiver, &Receiver::strayReceived, [this] { ++stray; });
     }
 
     int sum() const { return sent + received; }
@@ -106,9 +106,9 @@ int main(int argc, char *argv[])
     printFigure("frames through the log", tally.sum() / seconds, "1/s");
     printFigure("resident memory after 10000 frames", early, "MiB");
     printFigure("growth until the end", late - early, "MiB", "< 2");
-    if (tally.sum() < enough || !tally.allIsBack() || tally.notices > 0) {
+    if (tally.sum() < enough || !tally.allIsBack() || tally.stray > 0) {
         QTextStream(stdout) << "  LOST: " << tally.sent - tally.received << " frames, "
-                            << tally.notices << " notices; " << boxes.texts().join(' ') << '\n';
+                            << tally.stray << " stray; " << boxes.texts().join(' ') << '\n';
         return 1;
     }
     return 0;

@@ -167,7 +167,7 @@ void DirectEditor::showEvent(QShowEvent *event)
     }
 }
 
-/// By hand: by their names, Qt would not know which of a box's two signals is meant.
+/// Not connected by name: Qt could not tell which of a box's two signals is meant.
 void DirectEditor::connectFields()
 {
     const auto typeChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);

@@ -17,7 +17,7 @@ struct NumberKind
     /// As the editor's type list shows it.
     std::string_view caption;
     /// Hex digits of one value in the text. "CHAR" and "UCHAR" have four although they hold one
-    /// byte: devices expect each value in a word of its own.
+    /// byte. See docs/deliberate.md, Wide characters.
     int digits = 0;
     /// Bits of these digits that carry the value.
     int bits = 0;

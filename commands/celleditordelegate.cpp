@@ -46,7 +46,7 @@ bool CellEditorDelegate::endByKey(QLineEdit *editor, int key)
         return true;
     }
     if (isTab(key)) {
-        // Qt's own way lets nobody out whose text a validator finds unfinished.
+        // Qt itself would not leave an editor whose text a validator finds unfinished.
         announceTab(editor);
         emit commitData(editor);
         emit closeEditor(editor, key == Qt::Key_Tab ? EditNextItem : EditPreviousItem);

@@ -21,6 +21,7 @@ namespace Column = CommandColumn;
 namespace {
 
 constexpr int leastRows = 9;
+/// See docs/deliberate.md, Blocked signals.
 constexpr int lastInsertableRow = 512;
 
 } // namespace

@@ -35,7 +35,7 @@ public:
     void cloneRow(int row);
 
     /// Moves a row by one place by making a new row of it; a row that has left the table (-1) is
-    /// passed over. Returns false for the row at the edge.
+    /// ignored. Returns false for the row at the edge.
     bool moveUp(int row);
     bool moveDown(int row);
 
@@ -62,6 +62,7 @@ public:
     QVector<CheckedRow> checkedRows() const;
 
     /// Brings the CRC cell of the current row up to date, without a signal of the table.
+    /// See docs/deliberate.md, Current row.
     void recomputeCurrentRow();
 
     /// Writes the address of the current cell in its normal form; other cells are left alone.
@@ -85,7 +86,7 @@ signals:
     void sendRequested();
 
     /// The address in the current cell was edited or confirmed. Edited data are not announced like
-    /// this.
+    /// this. See docs/deliberate.md, Silent data.
     void addressCommitted();
 
     /// Enter ended the editing of the current cell.

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-/// Whether a line of a command file is to be passed over: it is empty or a comment ("//").
+/// Whether a line of a command file is to be skipped: it is empty or a comment ("//").
 bool isIgnoredLine(const QString &line);
 
 /// The row that a line of a command file describes, "Description,Selection,Frame" or

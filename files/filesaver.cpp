@@ -29,7 +29,7 @@ enum class Outcome { Saved, Failed, NotAllowed };
 Outcome replaceFile(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);
-    // A buffer would take what the disk then doesn't.
+    // With a buffer, a write would seem to succeed that the disk refuses later.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         return Outcome::NotAllowed;
     }

@@ -37,7 +37,7 @@ QString asciiText(const QByteArray &line)
 
 DecodedLine decodeBytes(const QTextCodec &codec, const QByteArray &line)
 {
-    // Behind a character that is cut off, the line end shows every codec that it is.
+    // The line end shows every codec that the character before it is cut off.
     const QByteArray bytes = line.endsWith('\n') ? line : line + '\n';
     QTextCodec::ConverterState state;
     const QString text = codec.toUnicode(bytes.constData(), bytes.size(), &state);
@@ -50,8 +50,8 @@ QString textOfField(const QTextCodec &codec, const QByteArray &field)
     return isAscii(field) ? asciiText(field) : decodeBytes(codec, field).text;
 }
 
-/// Without ICU, Qt's GBK decoder takes the byte behind a wrong one for lost, too; in a command line
-/// that must not be a comma.
+/// Without ICU, Qt's GBK decoder also drops the byte behind a wrong one. In a line of a command
+/// file that must not be a comma.
 QString decodeByFields(const QTextCodec &codec, const QByteArray &line)
 {
     QString text;
@@ -97,7 +97,7 @@ LineDecoder::LineDecoder(const QTextCodec &first, const QTextCodec &second)
 
 QString LineDecoder::decode(const QByteArray &line)
 {
-    // Asking a codec takes longer than all that is done with a blank line.
+    // Asking a codec would take longer than all the rest for a blank line.
     if (isAscii(line)) {
         return asciiText(line);
     }

@@ -13,11 +13,11 @@ public:
     /// The time now; it never goes back.
     virtual qint64 now() const = 0;
 
-    /// Lets the alarm ring once at that time, in place of any other set before. A time that has
-    /// passed already lets it ring as soon as the event loop gets to it.
+    /// Sets the alarm to ring once at that time, in place of any other. For a time that has passed
+    /// it rings as soon as the event loop gets to it.
     virtual void setAlarm(qint64 time) = 0;
 
-    /// Lets the alarm be silent.
+    /// Cancels the alarm.
     virtual void clearAlarm() = 0;
 
 signals:

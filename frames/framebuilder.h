@@ -18,6 +18,7 @@ struct FrameLayout
     /// Whether a CRC-16/MODBUS of the payload follows the payload, low byte first.
     bool withCrc = false;
     /// The long length field is used only with devices that take instructions of 65535 bytes.
+    /// See docs/deliberate.md, Wrong length.
     int maximumInstructionLength = 65535;
 };
 

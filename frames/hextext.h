@@ -11,7 +11,8 @@ std::optional<quint8> hexDigitValue(char digit);
 /// One byte from two characters, the first one being the high nibble.
 ///
 /// The two are not treated alike: a first character that is no hex digit counts as 0, while a
-/// second one that is no hex digit makes the whole byte 0. Devices' command lists rely on it.
+/// second one that is no hex digit makes the whole byte 0.
+/// See docs/deliberate.md, Unequal digits.
 quint8 hexPairToByte(char high, char low);
 
 /// Each byte as two upper-case hex digits and one blank, so n bytes give 3n characters.

@@ -9,7 +9,7 @@
 /// One live connection to a device. How it is opened is a matter of its kind.
 ///
 /// All signals come in the thread that the link lives in. A link that is destroyed while it is open
-/// closes without a word.
+/// closes without a signal.
 class Link : public QObject
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ bool Sender::requireOpenLink()
     if (isLinkOpen()) {
         return true;
     }
-    emit message(m_link->closedMessage());
+    emit notice(m_link->closedMessage());
     return false;
 }
 
@@ -52,10 +52,10 @@ void Sender::sendOne(const CheckedRow &row)
     }
     const int length = instructionLength(frameText, m_settings.withCrc());
     if (length > m_link->longestInstruction()) {
-        emit message(overlongInstructionWarning(length));
+        emit notice(overlongInstructionWarning(length));
     }
-    HeaderNotice notice;
-    tellFrame(handOverText(frameText, notice, {0, row.number, row.description}));
+    HeaderNotice header;
+    tellFrame(handOverText(frameText, header, {0, row.number, row.description}));
 }
 
 void Sender::sendAll(const QVector<CheckedRow> &rows)
@@ -63,15 +63,15 @@ void Sender::sendAll(const QVector<CheckedRow> &rows)
     if (!requireOpenLink()) {
         return;
     }
-    HeaderNotice notice;
+    HeaderNotice header;
     const BatchPlan plan =
         planBatch(rows, m_settings.withCrc(),
-                  [this, &notice](const QString &text) { return makeFrame(text, notice); });
+                  [this, &header](const QString &text) { return makeFrame(text, header); });
     if (!plan.overlongRows.isEmpty()) {
-        emit message(overlongRowsMessage(plan.overlongRows));
+        emit notice(overlongRowsMessage(plan.overlongRows));
     }
     if (plan.block.isEmpty()) {
-        emit message(QStringLiteral("Not thing to send!"));
+        emit notice(QStringLiteral("Not thing to send!"));
         return;
     }
     tellBlock(handOverBlock(plan.block, plan.parts));
@@ -79,15 +79,15 @@ void Sender::sendAll(const QVector<CheckedRow> &rows)
 
 LoopPlan Sender::planLoop(const QVector<CheckedRow> &rows)
 {
-    HeaderNotice notice;
+    HeaderNotice header;
     return ::planLoop(rows, m_settings.withCrc(),
-                      [this, &notice](const QString &text) { return makeFrame(text, notice); });
+                      [this, &header](const QString &text) { return makeFrame(text, header); });
 }
 
-QByteArray Sender::handOverText(const QString &frameText, HeaderNotice &notice,
+QByteArray Sender::handOverText(const QString &frameText, HeaderNotice &header,
                                 const BlockPart &row)
 {
-    const QByteArray frame = makeFrame(frameText, notice);
+    const QByteArray frame = makeFrame(frameText, header);
     if (frame.isEmpty()) {
         tellNothingToSend();
         return {};
@@ -127,29 +127,29 @@ void Sender::tellBlock(const QByteArray &block)
 
 bool Sender::isTaken(const QByteArray &block)
 {
-    // A message shown since the link was found open may have outlived the link.
+    // The link may have been closed while a message was shown.
     if (!isLinkOpen()) {
         return false;
     }
     const qint64 unsent = m_link->unsentBytes();
     // Where nothing waits, a block of any size goes.
     if (unsent > 0 && unsent + block.size() > mostUnsentBytes) {
-        emit message(unsentBytesMessage(unsent));
+        emit notice(unsentBytesMessage(unsent));
         return false;
     }
     return true;
 }
 
-QByteArray Sender::makeFrame(const QString &frameText, HeaderNotice &notice)
+QByteArray Sender::makeFrame(const QString &frameText, HeaderNotice &header)
 {
     const FrameLayout layout = m_settings.nextFrameLayout();
-    if (notice.isNews(m_settings.unreadableHeader())) {
-        emit message(badHeaderMessage);
+    if (header.isNews(m_settings.unreadableHeader())) {
+        emit notice(badHeaderMessage);
     }
     return buildFrame(frameText, layout);
 }
 
 void Sender::tellNothingToSend()
 {
-    emit message(QStringLiteral("No thing to send!"));
+    emit notice(QStringLiteral("No thing to send!"));
 }

@@ -24,8 +24,7 @@ public:
     /// Whether the active link is open.
     bool isLinkOpen() const;
 
-    /// Whether what was sent still waits to leave the program, so that a loop had better not add
-    /// more.
+    /// Whether what was sent still waits to leave the program, so that a loop should not add more.
     bool isLinkBehind() const;
 
     /// Whether the active link is open; if not, the user is told.
@@ -44,9 +43,10 @@ public:
     /// What the loop sends in each pass over the rows.
     LoopPlan planLoop(const QVector<CheckedRow> &rows);
 
-    /// Gives the frame of a frame text to the link. A bad header is told where it is news to the
-    /// notice. Returns the frame, to be told; nothing where there was none, or no way to send it.
-    QByteArray handOverText(const QString &frameText, HeaderNotice &notice,
+    /// Gives the frame of a frame text to the link. A bad header is told unless the user knows of
+    /// it already. Returns the frame, to be told; nothing where there was none, or no way to send
+    /// it.
+    QByteArray handOverText(const QString &frameText, HeaderNotice &header,
                             const BlockPart &row = {});
 
     /// Gives a block of frames to the link. Returns it, to be told; nothing where there was no way
@@ -61,7 +61,7 @@ public:
 
 signals:
     /// Something the user must be told, emitted before the sender goes on; handlers may block.
-    void message(const QString &text);
+    void notice(const QString &text);
 
     /// One frame that was handed over, and when, for the log.
     void sent(const QByteArray &frame, ArrivalTime time);
@@ -71,7 +71,7 @@ signals:
     void handedOver(const QByteArray &block, const QVector<BlockPart> &parts, ArrivalTime time);
 
 private:
-    QByteArray makeFrame(const QString &frameText, HeaderNotice &notice);
+    QByteArray makeFrame(const QString &frameText, HeaderNotice &header);
     bool isTaken(const QByteArray &block);
     void tellNothingToSend();
 

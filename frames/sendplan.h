@@ -98,6 +98,6 @@ QString unsentBytesMessage(qint64 unsentBytes);
 /// The message about the rows left out of a batch or a loop.
 QString overlongRowsMessage(const QVector<int> &rows);
 
-/// Cuts a block at its frames: at each occurrence of the start bytes, the next one being sought
-/// from 3 bytes behind the beginning of the previous one on. The pieces together are the block.
+/// Cuts a block at its frames: at each occurrence of the start bytes. The next one is looked
+/// for from 3 bytes behind the beginning of the previous one on. The pieces together are the block.
 QVector<QByteArray> splitBlock(const QByteArray &block, StartBytes startBytes);

@@ -12,8 +12,9 @@ struct StartBytes
     quint8 second = 0;
 };
 
-/// What frames begin with while the header field can't be read. It is the default header
-/// "0x5A,0xA5" the other way round, so that such frames can be told from good ones on the wire.
+/// What frames begin with while the header field can't be read: the default header the other way
+/// round.
+/// See docs/deliberate.md, Swapped header.
 constexpr StartBytes fallbackStartBytes{0xA5, 0x5A};
 
 /// Reads a header field such as "0x5A,0xA5".

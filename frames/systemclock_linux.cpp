@@ -45,7 +45,7 @@ public:
         return time.tv_sec * nsPerSecond + time.tv_nsec;
     }
 
-    // Zero would be no time, but silence.
+    // A time of zero would switch the alarm off.
     void setAlarm(qint64 time) override { set(std::max<qint64>(1, time)); }
 
     void clearAlarm() override { set(0); }

@@ -15,7 +15,7 @@ constexpr DWORD highResolution = 2;
 HANDLE createTimer()
 {
     const HANDLE timer = CreateWaitableTimerExW(nullptr, nullptr, highResolution, TIMER_ALL_ACCESS);
-    // Older systems have the usual kind alone.
+    // Older systems have only the usual kind.
     return timer != nullptr ? timer : CreateWaitableTimerExW(nullptr, nullptr, 0, TIMER_ALL_ACCESS);
 }
 
@@ -62,7 +62,7 @@ private:
         if (!m_isSet) {
             return;
         }
-        // Noticed of an earlier alarm, or a little early.
+        // It rang for an earlier alarm, or a little early.
         if (now() < m_time) {
             setAlarm(m_time);
             return;

@@ -15,8 +15,8 @@ class DisplayPace : public QObject
 public:
     explicit DisplayPace(QObject *parent = nullptr);
 
-    /// What is asked before anything is shown. While it says true it is put off, but no longer than
-    /// 50 ms.
+    /// What is asked before anything is shown. While the answer is true, showing waits, but no
+    /// longer than 50 ms.
     void setHold(std::function<bool()> hold);
 
     /// Something has changed; `due` follows, perhaps before this returns.

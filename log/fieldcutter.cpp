@@ -13,7 +13,7 @@ constexpr int shortestWithAddress = 22;
 constexpr int charactersOfCrc = 6;
 
 /// Where a text is cut in front of its fields, each place counted with the cut marks before it. The
-/// CRC is always the end of the text.
+/// CRC is always the end of the text. See docs/deliberate.md, Fixed cuts.
 struct CutPoints
 {
     int length;

@@ -32,10 +32,10 @@ public:
         while (m_position < m_buffer.size()) {
             const int begin = m_buffer.indexOf(m_header, m_position);
             if (begin < 0) {
-                noticeTo(endOfRubbish());
+                giveStrayTo(endOfRubbish());
                 break;
             }
-            noticeTo(begin);
+            giveStrayTo(begin);
             const std::optional<int> length = frameLength(m_buffer, begin);
             if (!length || m_buffer.size() - begin < *length) {
                 break;
@@ -54,10 +54,10 @@ private:
         return m_buffer.at(size - 1) == m_header.at(0) ? size - 1 : size;
     }
 
-    void noticeTo(int end)
+    void giveStrayTo(int end)
     {
         if (end > m_position) {
-            give(ReceivedPiece::Kind::Notice, end);
+            give(ReceivedPiece::Kind::Stray, end);
         }
     }
 
@@ -95,7 +95,7 @@ QVector<ReceivedPiece> FrameReassembler::giveUpAll()
 {
     QVector<ReceivedPiece> pieces;
     if (!m_buffer.isEmpty()) {
-        pieces.append({ReceivedPiece::Kind::Notice, std::exchange(m_buffer, {})});
+        pieces.append({ReceivedPiece::Kind::Stray, std::exchange(m_buffer, {})});
     }
     return pieces;
 }
@@ -107,7 +107,7 @@ void FrameReassembler::flush(QVector<ReceivedPiece> &pieces)
         pieces.append({ReceivedPiece::Kind::Frame, m_buffer.left(length)});
     }
     if (m_buffer.size() > length) {
-        pieces.append({ReceivedPiece::Kind::Notice, m_buffer.mid(length)});
+        pieces.append({ReceivedPiece::Kind::Stray, m_buffer.mid(length)});
     }
     m_buffer.clear();
 }

@@ -8,8 +8,8 @@
 /// A whole frame that was received, or bytes that belong to none.
 struct ReceivedPiece
 {
-    enum class Kind { Frame, Notice };
-    Kind kind = Kind::Notice;
+    enum class Kind { Frame, Stray };
+    Kind kind = Kind::Stray;
     QByteArray bytes;
 };
 
@@ -17,7 +17,7 @@ struct ReceivedPiece
 ///
 /// A frame is the two start bytes, a length byte L, and L bytes more. It is given out as soon as
 /// its last byte is in, wherever the stream was cut into chunks. Bytes in front of, between or
-/// behind frames are given out as notices, in the order of the stream. A first start byte at the
+/// behind frames are given out as stray ones, in the order of the stream. A first start byte at the
 /// end of what is in may begin a frame and waits, too, until it is given up.
 class FrameReassembler
 {

@@ -55,7 +55,7 @@ void Receiver::giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time)
         if (piece.kind == ReceivedPiece::Kind::Frame) {
             emit frameReceived(piece.bytes, time);
         } else {
-            emit noticeReceived(piece.bytes, time);
+            emit strayReceived(piece.bytes, time);
         }
     }
 }

@@ -25,7 +25,7 @@ public:
     void setGap(std::optional<int> gapMs);
 
     /// Takes in a chunk that was read at that time. A first start byte at its end that nothing has
-    /// followed for 50 ms is given out as a notice.
+    /// followed for 50 ms is given out as stray.
     void take(const QByteArray &chunk, ArrivalTime time = ArrivalTime::now());
 
 signals:
@@ -33,7 +33,7 @@ signals:
     void frameReceived(const QByteArray &frame, ArrivalTime time);
 
     /// Bytes that belong to no frame, and the time of the chunk that showed it.
-    void noticeReceived(const QByteArray &bytes, ArrivalTime time);
+    void strayReceived(const QByteArray &bytes, ArrivalTime time);
 
 private:
     void giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time);

@@ -18,6 +18,7 @@ class RecordLog : public QObject
 
 public:
     /// Records that it is filled with before it empties itself.
+    /// See docs/deliberate.md, Full log.
     static constexpr int mostRecords = 1025;
 
     using Clock = std::function<ArrivalTime()>;

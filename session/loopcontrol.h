@@ -20,8 +20,8 @@ public:
 
     bool isRunning() const { return m_loop.isRunning(); }
 
-    /// Whether a frame of the loop is about to be due, so that nothing that takes long had better
-    /// begin now.
+    /// Whether a frame of the loop is about to be due, so that nothing that takes long should begin
+    /// now.
     bool isFrameNear() const;
 
     /// Starts a loop over the rows on the sender's link; the user is told why where it can't be.

@@ -69,7 +69,7 @@ void Session::connectRecords()
             [this](const QByteArray &frame, ArrivalTime time) {
                 m_log.appendReceived(frame, m_format.withCrc(), time);
             });
-    connect(&m_receiver, &Receiver::noticeReceived, this, &Session::recordStray);
+    connect(&m_receiver, &Receiver::strayReceived, this, &Session::recordStray);
     connect(&m_links.hid(), &HidLink::dropped, this, [this](qint64 bytes) {
         m_log.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
     });
@@ -77,7 +77,7 @@ void Session::connectRecords()
 
 void Session::connectNotices()
 {
-    connect(&m_sender, &Sender::message, this, &Session::notice);
+    connect(&m_sender, &Sender::notice, this, &Session::notice);
     connect(&m_loop, &LoopControl::notice, this, &Session::notice);
     connect(&m_receivedHeader, &ReceivedHeader::unreadable, this,
             [this] { emit notice(badHeaderMessage); });
@@ -93,7 +93,7 @@ QString Session::linkName(LinkMode mode) const
     return mode == LinkMode::Uart ? m_links.serial().openPortName() : m_links.hid().openPath();
 }
 
-/// A HID device fills its last report with zeros; those are no news.
+/// A HID device fills its last report with zeros; those are not recorded.
 void Session::recordStray(const QByteArray &bytes, ArrivalTime time)
 {
     if (m_links.mode() != LinkMode::Hid || !isAllZero(bytes)) {

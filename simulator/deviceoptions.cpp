@@ -160,11 +160,11 @@ private:
 
 } // namespace
 
-CommandLine parseCommandLine(const QStringList &arguments)
+DeviceArguments parseDeviceArguments(const QStringList &arguments)
 {
     QCommandLineParser parser;
     declareOptions(parser);
-    CommandLine line;
+    DeviceArguments line;
     if (!parser.parse(arguments)) {
         line.error = parser.errorText();
         return line;

@@ -31,7 +31,7 @@ struct DeviceOptions
 };
 
 /// What the command line asks for: the options, or an error in words, or the help text.
-struct CommandLine
+struct DeviceArguments
 {
     DeviceOptions options;
     QString error;
@@ -39,7 +39,7 @@ struct CommandLine
 };
 
 /// Reads a command line, the program's name being the first argument.
-CommandLine parseCommandLine(const QStringList &arguments);
+DeviceArguments parseDeviceArguments(const QStringList &arguments);
 
 /// What --help prints. Needs the application object, whose name it shows.
 QString deviceHelpText();

@@ -9,14 +9,14 @@
 ///
 /// A frame is the start bytes, a length, and as many bytes as the length says. The length is one
 /// byte, 1 to 255, or a zero byte and two more, most significant byte first, for a length of 256 or
-/// more and a payload that begins with 0x10. What isn't a frame is passed over: the next header is
-/// sought directly behind the first byte of the one that failed, so a frame within rubbish that
+/// more and a payload that begins with 0x10. What isn't a frame is skipped: the next header is
+/// looked for directly behind the first byte of the one that failed, so a frame within rubbish that
 /// looked like a header is found as well.
 class DeviceParser
 {
 public:
     /// With a CRC the payload is followed by its CRC-16/MODBUS, low byte first, and a frame whose
-    /// CRC is wrong is passed over like rubbish.
+    /// CRC is wrong is skipped like rubbish.
     DeviceParser(StartBytes startBytes, bool withCrc);
 
     /// Takes in bytes and returns the payloads, without CRC, of the frames that end with them.

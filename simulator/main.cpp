@@ -19,7 +19,7 @@ namespace {
 
 constexpr int failed = 1;
 constexpr int wrongUsage = 2;
-/// More is not needed to remove the link.
+/// Long enough to remove the link.
 constexpr int patienceSeconds = 2;
 
 void complain(const QString &message)
@@ -91,7 +91,7 @@ int runDevice(const DeviceOptions &options)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    const CommandLine line = parseCommandLine(QCoreApplication::arguments());
+    const DeviceArguments line = parseDeviceArguments(QCoreApplication::arguments());
     if (!line.error.isEmpty()) {
         complain(line.error + QStringLiteral(" See --help."));
         return wrongUsage;

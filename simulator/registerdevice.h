@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QVector>
 
-/// The memory and the manners of a small register device: request payload in, reply payload out.
+/// The memory and the behaviour of a small register device: request payload in, reply payload out.
 ///
 /// It has 65,536 registers of 16 bits, each of which holds its own address at first. Numbers of two
 /// bytes are big-endian. In requests and replies, "count" is a number of registers in two bytes, so

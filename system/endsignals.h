@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// Turns the signals that ask a program to end (SIGTERM, SIGINT, SIGHUP) into one of ours, in the
-/// event loop. A SIGHUP that the program was started to ignore (nohup) stays ignored.
+/// Turns the signals that ask a program to end (SIGTERM, SIGINT, SIGHUP) into a signal of Qt, in
+/// the event loop. A SIGHUP that the program was started to ignore (nohup) stays ignored.
 ///
 /// A program that hasn't ended so many seconds after the first of them is ended by the system,
 /// whatever it is waiting for. At most one such object is made, and it stays for the whole run.

@@ -48,7 +48,7 @@ bool isFileOfName(const FileDescriptor &file, const QByteArray &name)
            opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-/// For whoever looks into it.
+/// For people who look into it.
 void writeProcessId(const FileDescriptor &file)
 {
     const QByteArray id = QByteArray::number(getpid()) + '\n';

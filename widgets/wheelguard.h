@@ -6,7 +6,7 @@ class QTabWidget;
 
 /// Keeps the wheel from choosing in the boxes that it merely passes on a tab widget's pages, and
 /// from changing the page. The wheel then does nothing there; keys, the mouse and an open list work
-/// as ever.
+/// as usual.
 class WheelGuard : public QObject
 {
     Q_OBJECT

@@ -76,7 +76,7 @@ bool HidLink::open(const QString &path, quint8 reportId)
 void HidLink::close()
 {
     m_inbox.handUpAll();
-    // Something waits still where a handler of what has arrived is the one that closes.
+    // Where a handler of `arrived` closes the link, reports may still wait.
     m_inbox.clear();
     if (isOpen()) {
         tellUnsent();
@@ -88,7 +88,7 @@ void HidLink::close()
 void HidLink::shutDown()
 {
     m_thread.stop();
-    // What is still on its way must not be taken for something of the next device.
+    // What is still on its way must not count as sent by the next device.
     QCoreApplication::removePostedEvents(&m_receiver);
     m_thread.close();
     m_timing.reset();
@@ -107,7 +107,7 @@ QString HidLink::closedMessage() const
 
 void HidLink::reportLoss()
 {
-    // The device's last words.
+    // What the device has sent so far.
     m_inbox.handUpAll();
     if (isOpen()) {
         emit lost(tr("it takes nothing any more"));

@@ -108,7 +108,7 @@ void HidThread::run()
             emit deviceDisconnected();
             return;
         }
-        // A failed read doesn't end the connection, only a failed write does.
+        // See docs/deliberate.md, Failed reads.
         if (const auto received = read()) {
             emit packetReceived(*received, ArrivalTime::now());
         }

@@ -22,7 +22,7 @@ public:
 
     explicit ReportInbox(QObject *parent = nullptr);
 
-    /// Takes in the data of a report that was read then; an empty one is passed over.
+    /// Takes in the data of a report that was read then; an empty one is ignored.
     void put(const QByteArray &report, ArrivalTime time);
 
     /// Hands up at once what waits.

@@ -3,8 +3,8 @@
 #include <QObject>
 #include <QTimer>
 
-/// When that which a port announces is to be read, so that a frame which comes in pieces is read
-/// whole: 2 ms after the first announcement, and as soon as there is another one, but at most 5 ms
+/// Says when to read what a port announces, so that a frame that comes in pieces is read whole: 2
+/// ms after the first announcement, and then as soon as there is another one, but at most 5 ms
 /// later. It runs on timers.
 class ArrivalWait : public QObject
 {
@@ -18,7 +18,7 @@ public:
 
     bool isRunning() const { return m_stage != Stage::Idle; }
 
-    /// Ends a wait without a word.
+    /// Cancels a wait.
     void cancel();
 
 signals:

@@ -11,7 +11,7 @@ HANDLE toHandle(qintptr handle)
 
 } // namespace
 
-/// The driver of a device that is gone answers nothing any more.
+/// The driver of a device that is gone no longer answers.
 bool hasHungUp(qintptr handle)
 {
     DWORD errors = 0;

@@ -8,8 +8,8 @@
 namespace {
 
 constexpr int longestInstructionBytes = 65535;
-/// Failed reads in a row after which a port that is still there is given up.
-constexpr int mostVainReads = 100;
+/// So many reads in a row may fail before a port that is still there is given up.
+constexpr int mostFailedReads = 100;
 
 bool endsLink(QSerialPort::SerialPortError error)
 {
@@ -39,7 +39,7 @@ bool SerialLink::open(const SerialSettings &settings)
     m_port.setStopBits(settings.stopBits);
     m_port.setPortName(settings.portName);
     m_failed = false;
-    m_vainReads = 0;
+    m_failedReads = 0;
     if (!m_port.open(QIODevice::ReadWrite)) {
         m_failure = failureToOpen();
         return false;
@@ -139,7 +139,7 @@ qint64 SerialLink::unsentBytes() const
 
 void SerialLink::onReadyRead()
 {
-    m_vainReads = 0;
+    m_failedReads = 0;
     if (!m_firstRead) {
         m_firstRead = ArrivalTime::now();
     }
@@ -162,19 +162,19 @@ void SerialLink::onError(QSerialPort::SerialPortError error)
         return;
     }
     const bool isGone = hasHungUp(qintptr(m_port.handle()));
-    if (!isGone && ++m_vainReads < mostVainReads) {
+    if (!isGone && ++m_failedReads < mostFailedReads) {
         resumeReading();
         return;
     }
     m_failed = true;
-    // Of a device that is gone, the port only knows which call failed on it first.
+    // Of a device that is gone, the port knows only which call failed first.
     const QString reason = isGone ? tr("the device is gone") : m_port.errorString();
     QMetaObject::invokeMethod(
         this, [this, reason] { reportLoss(reason); }, Qt::QueuedConnection);
 }
 
-/// What a wait has read already may be announced once more; the port then takes finding nothing for
-/// an error, and may stop listening. Setting the buffer's size makes it listen again.
+/// What a wait has read already may be announced once more. The port then takes it for an error
+/// that it finds nothing, and may stop listening. Setting the buffer's size makes it listen again.
 void SerialLink::resumeReading()
 {
     m_port.setReadBufferSize(m_port.readBufferSize());
@@ -186,7 +186,7 @@ OpenFailure SerialLink::failureToOpen() const
     if (!access.words.isEmpty()) {
         return access;
     }
-    // The user may use the port, so what forbids it is another one who does.
+    // The user may use the port, so somebody else has it open.
     const bool isBusy = m_port.error() == QSerialPort::PermissionError;
     return {
         isBusy ? OpenFailure::Cause::Busy : OpenFailure::Cause::Other, m_port.errorString(), {}};
@@ -197,7 +197,7 @@ void SerialLink::reportLoss(const QString &reason)
     if (!m_failed) {
         return;
     }
-    // The device's last words.
+    // What the device has sent so far.
     handUp();
     if (m_port.isOpen()) {
         emit lost(reason);

@@ -53,7 +53,7 @@ public:
     /// Whether all that was written has left the system, too, as far as it tells.
     bool isDrained() const;
 
-    /// Looks for what has come in, as if the port had announced it.
+    /// Reads what has come in, as if the port had announced it.
     void receive();
 
     bool isOpen() const override;
@@ -84,5 +84,5 @@ private:
     bool m_handsUp = false;
     bool m_isDueMeanwhile = false;
     bool m_failed = false;
-    int m_vainReads = 0;
+    int m_failedReads = 0;
 };

@@ -16,6 +16,7 @@ QStringList baudRates();
 QStringList dataBits();
 QStringList parities();
 /// Two stop bits stand before one and a half.
+/// See docs/deliberate.md, Stop bits.
 QStringList stopBits();
 
 /// The setting at a place of its box; any place outside the box stands for the default.

@@ -3,8 +3,9 @@
 #include "testfiles.h"
 
 FileDesk::FileDesk()
-    : actions(&window, dir.path(), hooks())
+    : actions(&window, dir.path(), {[this] { return rows; }, [this] { return messages; }})
 {
+    noteEvents();
     questions.answerWith(QMessageBox::Yes);
 }
 
@@ -13,24 +14,25 @@ QByteArray FileDesk::storedFolders() const
     return contentOf(path(QStringLiteral("lastCommand_path.ini")));
 }
 
-FileActionHooks FileDesk::hooks()
+void FileDesk::noteEvents()
 {
-    FileActionHooks hooks;
-    hooks.showMessage = [this](const QString &text) {
+    const auto note = [this](const char *prefix) {
+        return [this, prefix](const QString &text) { events.append(prefix + text); };
+    };
+    QObject::connect(&actions, &FileActions::notice, [this](const QString &text) {
         folderAtMessage = actions.lastLoadFolder();
         events.append("message: " + text);
-    };
-    hooks.commands = [this] { return rows; };
-    hooks.replaceCommands = [this](const QVector<CommandRow> &loaded) {
-        rows = loaded;
-        events.append(QStringLiteral("%1 rows").arg(loaded.size()));
-    };
-    hooks.commandsStored = [this](const QString &path) { events.append("stored: " + path); };
-    hooks.commandsRecovered = [this](const QString &path) { events.append("recovered: " + path); };
-    hooks.beforeOverwriting = [this] { events.append(QStringLiteral("about to be overwritten")); };
-    hooks.tell = [this](const QString &text) { events.append("told: " + text); };
-    hooks.messages = [this] { return messages; };
-    return hooks;
+    });
+    QObject::connect(&actions, &FileActions::commandsRead,
+                     [this](const QVector<CommandRow> &loaded) {
+                         rows = loaded;
+                         events.append(QStringLiteral("%1 rows").arg(loaded.size()));
+                     });
+    QObject::connect(&actions, &FileActions::commandsStored, note("stored: "));
+    QObject::connect(&actions, &FileActions::commandsRecovered, note("recovered: "));
+    QObject::connect(&actions, &FileActions::overwriting,
+                     [this] { events.append(QStringLiteral("about to be overwritten")); });
+    QObject::connect(&actions, &FileActions::told, note("told: "));
 }
 
 QByteArray folderFile(const QString &loadFolder, const QString &saveFolder)

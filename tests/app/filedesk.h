@@ -36,7 +36,7 @@ public:
     Q_DISABLE_COPY(FileDesk)
 
 private:
-    FileActionHooks hooks();
+    void noteEvents();
 };
 
 /// What the file of the last folders has to hold.

@@ -35,7 +35,7 @@ public:
     SendLoop loop{sender, clock};
     QSignalSpy passDue{&loop, &SendLoop::passDue};
     QSignalSpy foundNothing{&loop, &SendLoop::foundNothing};
-    QSignalSpy messages{&sender, &Sender::message};
+    QSignalSpy messages{&sender, &Sender::notice};
 
     Q_DISABLE_COPY(LoopBench)
 

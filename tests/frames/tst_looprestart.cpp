@@ -61,7 +61,7 @@ void TestLoopRestart::stopTakesEffectBetweenBlocks()
 void TestLoopRestart::stopTakesEffectDuringAMessage()
 {
     LoopBench bench;
-    connect(&bench.sender, &Sender::message, &bench.loop, &SendLoop::stop);
+    connect(&bench.sender, &Sender::notice, &bench.loop, &SendLoop::stop);
     bench.run({"1", "02"}, {1, 0});
     QCOMPARE(bench.messages.size(), 1);
     QVERIFY(!bench.loop.isRunning());
@@ -74,7 +74,7 @@ void TestLoopRestart::stopTakesEffectDuringAMessage()
 void TestLoopRestart::stopTakesEffectInsideABlockingMessage()
 {
     LoopBench bench;
-    connect(&bench.sender, &Sender::message, this, [&] {
+    connect(&bench.sender, &Sender::notice, this, [&] {
         QEventLoop box;
         QTimer::singleShot(5, &box, [&] {
             bench.loop.stop();
@@ -124,7 +124,7 @@ void TestLoopRestart::startReplacesTheRunningPlan()
 void TestLoopRestart::restartDuringAMessageKeepsItsPauses()
 {
     LoopBench bench;
-    connect(&bench.sender, &Sender::message, this, [&] {
+    connect(&bench.sender, &Sender::notice, this, [&] {
         bench.loop.stop();
         bench.run({"++60", "03"}, {5, 0});
     });

@@ -127,7 +127,7 @@ void TestLoopTiming::framesNeverBunch()
 void TestLoopTiming::aWriteThatTakesTimeIsFollowedByTheWholeInterval()
 {
     LoopBench bench;
-    connect(&bench.sender, &Sender::message, this, [&] { bench.clock.holdUp(500); });
+    connect(&bench.sender, &Sender::notice, this, [&] { bench.clock.holdUp(500); });
     bench.settings.unreadable = QString();
     bench.run({"01", "02"}, {20, 0});
     bench.clock.advance(25);
@@ -138,7 +138,7 @@ void TestLoopTiming::aWriteThatTakesTimeIsFollowedByTheWholeInterval()
 void TestLoopTiming::intervalFollowsARowWithNothingToSend()
 {
     LoopBench bench;
-    connect(&bench.sender, &Sender::message, this, [&] { bench.clock.holdUp(15); });
+    connect(&bench.sender, &Sender::notice, this, [&] { bench.clock.holdUp(15); });
     bench.run({"1", "02"}, {20, 0});
     bench.clock.advance(50);
     QCOMPARE(bench.messages.size(), 1);

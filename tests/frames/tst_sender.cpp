@@ -55,7 +55,7 @@ public:
     Bench()
     {
         sender.setLink(&link);
-        QObject::connect(&sender, &Sender::message, &sender,
+        QObject::connect(&sender, &Sender::notice, &sender,
                          [this](const QString &text) { said.append("message " + text); });
         link.onWrite = [this] { said.append("handed over"); };
         QObject::connect(&sender, &Sender::sent, &sender, [this](const QByteArray &frame) {
@@ -186,7 +186,7 @@ void TestSender::warningComesBeforeTheFrame()
     Bench bench;
     bench.link.longest = 1;
     bool warnedFirst = false;
-    QObject::connect(&bench.sender, &Sender::message, &bench.sender,
+    QObject::connect(&bench.sender, &Sender::notice, &bench.sender,
                      [&] { warnedFirst = bench.link.blocks.isEmpty(); });
     bench.sender.sendOne("0102");
     QVERIFY(warnedFirst);
@@ -234,7 +234,7 @@ void TestSender::aBadHeaderIsToldBeforeTheFrame()
 {
     Bench bench;
     bench.settings.unreadable = QStringLiteral("5A");
-    QObject::connect(&bench.sender, &Sender::message, &bench.sender, [&] {
+    QObject::connect(&bench.sender, &Sender::notice, &bench.sender, [&] {
         bench.settings.layout.startBytes = StartBytes{0x12, 0x34};
     });
     bench.sender.sendOne("01");

@@ -231,7 +231,7 @@ void TestDeviceMonitor::lostAnnouncements()
     constexpr int patienceMs = 30'000;
     QTRY_COMPARE_WITH_TIMEOUT(told, expected, patienceMs);
 
-    // What comes later is told as ever.
+    // What comes later is told as usual.
     QTRY_VERIFY_WITH_TIMEOUT(announce("add", lastPort) && told.last() == "+ port ttyUSB99",
                              patienceMs);
     for (const SystemDevice &device : {staying, coming, changed}) {

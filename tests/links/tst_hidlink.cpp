@@ -363,7 +363,7 @@ void TestHidLink::disconnectionIsSignalledOnce()
     QCOMPARE(m_fake.written().size(), 1);
 }
 
-/// The old device's last words must not end, or be shown on, the next connection.
+/// What the old device sent last must neither end the next connection nor be shown there.
 void TestHidLink::nothingOldAfterReopening()
 {
     HidLink link(m_file);

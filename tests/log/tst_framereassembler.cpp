@@ -29,7 +29,7 @@ using Chunks = QStringList;
 
 constexpr StartBytes defaultHeader{0x5A, 0xA5};
 
-/// "F 5AA5…" for a frame, "N …" for a notice.
+/// "F 5AA5…" for a frame, "N …" for stray bytes.
 QString described(const ReceivedPiece &piece)
 {
     const QString kind = piece.kind == ReceivedPiece::Kind::Frame ? "F " : "N ";
@@ -193,7 +193,7 @@ void TestFrameReassembler::overflowGivesOutWhatWaits()
     const QVector<ReceivedPiece> pieces = reassembler.take(rubbish, defaultHeader);
     QCOMPARE(pieces.size(), 2);
     QCOMPARE(described(pieces.at(0)), QString("F 5AA50A0102"));
-    QCOMPARE(pieces.at(1).kind, ReceivedPiece::Kind::Notice);
+    QCOMPARE(pieces.at(1).kind, ReceivedPiece::Kind::Stray);
     QCOMPARE(pieces.at(1).bytes, rubbish);
 }
 

@@ -22,7 +22,8 @@ private slots:
 
 namespace {
 
-/// A receiver for the default header, and what it gives out: "F …" for a frame, "N …" for a notice.
+/// A receiver for the default header, and what it gives out: "F …" for a frame, "N …" for stray
+/// bytes.
 class Heard : public QObject
 {
 public:
@@ -31,7 +32,7 @@ public:
     {
         connect(&receiver, &Receiver::frameReceived, this,
                 [this](const QByteArray &frame) { pieces.append("F " + formatHexBytes(frame)); });
-        connect(&receiver, &Receiver::noticeReceived, this,
+        connect(&receiver, &Receiver::strayReceived, this,
                 [this](const QByteArray &bytes) { pieces.append("N " + formatHexBytes(bytes)); });
     }
 
@@ -122,7 +123,7 @@ void TestReceiver::piecesHaveTheTimeOfTheirLastChunk()
                           .arg(time.monotonicNs));
     };
     connect(&receiver, &Receiver::frameReceived, this, note);
-    connect(&receiver, &Receiver::noticeReceived, this, note);
+    connect(&receiver, &Receiver::strayReceived, this, note);
     receiver.take(hex("07 5AA501"), {1000, 10});
     receiver.take(hex("01 5A"), {2000, 20});
     QTRY_COMPARE(pieces, QStringList({"07@1000/10", "5aa50101@2000/20", "5a@2000/20"}));

@@ -31,7 +31,7 @@ public:
     Bench()
     {
         sender.setLink(&link);
-        QObject::connect(&sender, &Sender::message, &sender,
+        QObject::connect(&sender, &Sender::notice, &sender,
                          [this](const QString &text) { said.append(text); });
         QObject::connect(&loop, &LoopControl::notice, &loop,
                          [this](const QString &text) { said.append(text); });

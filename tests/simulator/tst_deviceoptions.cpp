@@ -37,10 +37,10 @@ QString described(const DeviceOptions &options)
         .arg(options.playSpeed);
 }
 
-CommandLine parse(const QString &arguments)
+DeviceArguments parse(const QString &arguments)
 {
-    return parseCommandLine(QStringList("tarnwick-device") +
-                            arguments.split(' ', Qt::SkipEmptyParts));
+    return parseDeviceArguments(QStringList("tarnwick-device") +
+                                arguments.split(' ', Qt::SkipEmptyParts));
 }
 
 } // namespace
@@ -84,7 +84,7 @@ void TestDeviceOptions::readsOptions()
 {
     QFETCH(QString, arguments);
     QFETCH(DeviceOptions, expected);
-    const CommandLine line = parse(arguments);
+    const DeviceArguments line = parse(arguments);
     QCOMPARE(line.error, QString());
     QVERIFY(!line.helpWanted);
     QCOMPARE(described(line.options), described(expected));

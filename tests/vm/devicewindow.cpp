@@ -80,7 +80,7 @@ DeviceWindow::DeviceWindow(Tab tab)
                      [this](const QByteArray &frame) { m_sent.append(frame); });
     QObject::connect(receiver, &Receiver::frameReceived, &m_counter,
                      [this](const QByteArray &frame) { m_received.append(frame); });
-    QObject::connect(receiver, &Receiver::noticeReceived, &m_counter,
+    QObject::connect(receiver, &Receiver::strayReceived, &m_counter,
                      [this](const QByteArray &bytes) {
                          // Reports are filled up with zeros, which nobody is shown.
                          m_notices += bytes.count('\0') < bytes.size() ? 1 : 0;

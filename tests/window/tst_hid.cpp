@@ -265,7 +265,7 @@ void TestHid::whatABoxInTheMiddleLeavesNoRoomForIsTold()
         QMetaObject::invokeMethod(&window.window(), "hid_receiveData", Q_ARG(HidPacket, packet));
     };
     int received = 0;
-    connect(window.window().findChild<Receiver *>(), &Receiver::noticeReceived, this, [&] {
+    connect(window.window().findChild<Receiver *>(), &Receiver::strayReceived, this, [&] {
         if (++received == 1) {
             for (int i = 0; i < reports; ++i) {
                 give();

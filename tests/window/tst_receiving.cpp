@@ -75,7 +75,7 @@ public:
     {
         const auto *receiver = window.window().findChild<Receiver *>();
         connect(receiver, &Receiver::frameReceived, this, &ReceivedBytes::append);
-        connect(receiver, &Receiver::noticeReceived, this, &ReceivedBytes::append);
+        connect(receiver, &Receiver::strayReceived, this, &ReceivedBytes::append);
     }
 
     QByteArray bytes;

@@ -70,7 +70,7 @@ QString status(const WindowDriver &window)
     return window.find<QLabel>("label_Status")->text();
 }
 
-void takeUpOffer(const WindowDriver &window)
+void acceptOffer(const WindowDriver &window)
 {
     emit window.find<QLabel>("label_Status")->linkActivated("#");
 }
@@ -124,7 +124,7 @@ void TestRecovering::whatWasLeftBehindIsOfferedAndLoadedWhenAsked()
     QVERIFY(status(window).contains("not saved"));
     QCOMPARE(description(window), QString());
     QCOMPARE(user.dialogCount(), 0);
-    takeUpOffer(window);
+    acceptOffer(window);
     QTRY_COMPARE(description(window), QString("kept"));
     QCOMPARE(user.dialogCount(), 1);
     QCOMPARE(user.look().folder, QCoreApplication::applicationDirPath());
@@ -146,7 +146,7 @@ void TestRecovering::declinedItIsOfferedAgain()
     const FileDialogUser user;
     {
         WindowDriver window;
-        takeUpOffer(window);
+        acceptOffer(window);
         QTRY_COMPARE(user.dialogCount(), 1);
         QCOMPARE(description(window), QString());
         window.window().close();
