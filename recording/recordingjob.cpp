@@ -21,6 +21,7 @@ RecordingJob::RecordingJob(RecordingPlan plan, RecordingSink &sink)
     , m_writer(makeRecordingWriter(recordingFormatOf(m_plan.path)))
 {
     m_status.path = m_plan.path;
+    m_waiting.reserve(2 * m_plan.limits.batchBytes);
 }
 
 bool RecordingJob::begin(ArrivalTime now)
@@ -35,7 +36,7 @@ void RecordingJob::take(const RecordEvent &event)
     if (!m_status.isRunning) {
         return;
     }
-    if (localTime(event.time.utcUs).date() > m_day) {
+    if (isOfAnotherDay(event.time)) {
         goOnInNextFile(event.time, QStringLiteral("midnight"));
     } else if (m_fileBytes + m_waiting.size() >= m_plan.limits.fileBytes) {
         goOnInNextFile(event.time, QStringLiteral("the file is full"));
@@ -67,7 +68,7 @@ void RecordingJob::noteDropped(qint64 events, qint64 bytes, ArrivalTime now)
 
 void RecordingJob::pass(ArrivalTime now)
 {
-    if (m_status.isRunning && localTime(now.utcUs).date() > m_day) {
+    if (m_status.isRunning && isOfAnotherDay(now)) {
         goOnInNextFile(now, QStringLiteral("midnight"));
     }
     write();
@@ -157,7 +158,8 @@ void RecordingJob::write()
     }
     m_fileBytes += m_waiting.size();
     m_status.bytes += m_waiting.size();
-    m_waiting.clear();
+    // The memory stays for what comes next.
+    m_waiting.resize(0);
 }
 
 void RecordingJob::syncIfDue(ArrivalTime now)
@@ -181,6 +183,19 @@ void RecordingJob::lookIfDue(ArrivalTime now)
     } else if (!hasRoom()) {
         stopInGoodOrder(now, fullDiskWords);
     }
+}
+
+/// Whether a day after that of the file has begun. The calendar is asked once for each second.
+bool RecordingJob::isOfAnotherDay(ArrivalTime time)
+{
+    constexpr qint64 usPerSecond = 1000000;
+    const qint64 second = time.utcUs / usPerSecond;
+    if (second == m_secondOfDay) {
+        return false;
+    }
+    const bool isLater = localTime(time.utcUs).date() > m_day;
+    m_secondOfDay = isLater ? noSecond : second;
+    return isLater;
 }
 
 bool RecordingJob::hasRoom() const

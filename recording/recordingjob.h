@@ -8,6 +8,7 @@
 #include <QDateTime>
 
 #include <functional>
+#include <limits>
 
 /// When a recording writes, goes over to another file, and stops.
 struct RecordingLimits
@@ -82,6 +83,7 @@ private:
     void write();
     void syncIfDue(ArrivalTime now);
     void lookIfDue(ArrivalTime now);
+    bool isOfAnotherDay(ArrivalTime time);
     bool hasRoom() const;
     void stop(const QString &error);
     void stopInGoodOrder(ArrivalTime now, const QString &error);
@@ -95,7 +97,11 @@ private:
     qint64 m_fileBytes = 0;
     WireTally m_fileTally;
     WireTally m_tally;
+    static constexpr qint64 noSecond = std::numeric_limits<qint64>::min();
+
     QDate m_day;
+    /// A second that is known to lie within that day, or before it.
+    qint64 m_secondOfDay = noSecond;
     qint64 m_lastSyncNs = 0;
     qint64 m_lastLookNs = 0;
 };
