@@ -19,6 +19,9 @@ struct CommandRow
     QString dataType;
     /// The value as it was typed, before it became data.
     QString originalData;
+    /// What a test run expects as its answer: the lines of a command file that say so, each with
+    /// its line end, behind the one that makes them count.
+    QString expectations = {};
 };
 
 /// An empty row, as new rows are: its data type is "short".

@@ -20,6 +20,9 @@ namespace Column = CommandColumn;
 
 namespace {
 
+/// Where the item of a description keeps what the row is to be answered with.
+constexpr int expectationsRole = Qt::UserRole + 1;
+
 constexpr int leastRows = 9;
 /// See docs/deliberate.md, Blocked signals.
 constexpr int lastInsertableRow = 512;
@@ -143,7 +146,8 @@ CommandRow CommandTable::row(int row) const
             cellText(m_table, row, Column::Data),
             cellText(m_table, row, Column::Crc),
             cellText(m_table, row, Column::DataType),
-            cellText(m_table, row, Column::OriginalData)};
+            cellText(m_table, row, Column::OriginalData),
+            expectationsOf(row)};
 }
 
 QVector<CommandRow> CommandTable::rows() const
@@ -280,9 +284,27 @@ void CommandTable::insertFilledRow(int row, const CommandRow &content)
     fillRow(row, content);
 }
 
+QString CommandTable::expectationsOf(int row) const
+{
+    const QTableWidgetItem *const item = m_table.item(row, Column::Description);
+    return item != nullptr ? item->data(expectationsRole).toString() : QString();
+}
+
+/// The tip of the description shows them, without the line that makes them count.
+void CommandTable::setExpectations(int row, const QString &expectations)
+{
+    if (expectations == expectationsOf(row)) {
+        return;
+    }
+    QTableWidgetItem *const item = m_table.item(row, Column::Description);
+    item->setData(expectationsRole, expectations);
+    item->setToolTip(expectations.section(QLatin1Char('\n'), 1).trimmed());
+}
+
 void CommandTable::fillRow(int row, const CommandRow &content)
 {
     setCentredItem(m_table, row, Column::Description, content.description);
+    setExpectations(row, content.expectations);
     setSelectCell(m_table, row, Column::Select, content.selected, m_window);
     setCentredItem(m_table, row, Column::Cmd, content.cmd);
     setCentredItem(m_table, row, Column::Addr, content.addr);

@@ -97,6 +97,8 @@ private:
     void installDelegates();
     void insertFilledRow(int row, const CommandRow &content);
     void fillRow(int row, const CommandRow &content);
+    QString expectationsOf(int row) const;
+    void setExpectations(int row, const QString &expectations);
     void moveByCopy(int from, int to);
     void edit(int row, int column);
 

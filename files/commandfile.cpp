@@ -1,6 +1,7 @@
 #include "files/commandfile.h"
 
 #include "files/commandline.h"
+#include "files/directivelines.h"
 #include "files/recoverytext.h"
 
 namespace {
@@ -14,6 +15,47 @@ QByteArray takeLine(const QByteArray &bytes, int &begin)
     const int size = end - begin;
     begin = end;
     return QByteArray::fromRawData(start, size);
+}
+
+/// Gives rows the expectations that stand behind them in a file.
+class ExpectationKeeper
+{
+public:
+    void take(const QByteArray &line, QVector<CommandRow> &rows)
+    {
+        if (!line.startsWith("//")) {
+            return;
+        }
+        const QString text = QString::fromLocal8Bit(line.trimmed()) + QLatin1Char('\n');
+        if (rows.isEmpty() && m_runLine.isEmpty() && isRunLine(line)) {
+            m_runLine = text;
+        } else if (!rows.isEmpty() && !m_runLine.isEmpty() && isExpectationLine(line)) {
+            QString &expectations = rows.last().expectations;
+            expectations += (expectations.isEmpty() ? m_runLine : QString()) + text;
+        }
+    }
+
+    /// Also where it expects nothing, the first row keeps the line that makes them count.
+    void finish(QVector<CommandRow> &rows) const
+    {
+        if (!rows.isEmpty() && rows.first().expectations.isEmpty()) {
+            rows.first().expectations = m_runLine;
+        }
+    }
+
+private:
+    QString m_runLine;
+};
+
+/// The line that makes expectations count, from the first row that has it.
+QString runLineOf(const QVector<CommandRow> &rows)
+{
+    for (const CommandRow &row : rows) {
+        if (!row.expectations.isEmpty()) {
+            return row.expectations.section(QLatin1Char('\n'), 0, 0) + QLatin1Char('\n');
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -40,10 +82,13 @@ CommandFile readCommandFile(const QByteArray &bytes)
     CommandFile file;
     file.isRecovery = isRecoveryText(bytes);
     CommandLineReader reader(file.isRecovery);
+    ExpectationKeeper expectations;
     int begin = 0;
     while (begin < bytes.size() && !file.hasTooManyRows) {
-        const std::optional<CommandRow> row = reader.read(takeLine(bytes, begin));
+        const QByteArray line = takeLine(bytes, begin);
+        const std::optional<CommandRow> row = reader.read(line);
         if (!row) {
+            expectations.take(line, file.rows);
             continue;
         }
         file.hasTooManyRows = file.rows.size() == mostCommandRows;
@@ -51,17 +96,20 @@ CommandFile readCommandFile(const QByteArray &bytes)
             file.rows.append(*row);
         }
     }
+    if (!file.isRecovery) {
+        expectations.finish(file.rows);
+    }
     file.hasInvalidLines = reader.sawInvalidLine();
     return file;
 }
 
 QString commandFileText(const QVector<CommandRow> &rows)
 {
-    QString text;
+    QString text = runLineOf(rows);
     for (const CommandRow &row : rows) {
         const QString line = commandLine(row);
         if (!line.isEmpty()) {
-            text += line + QLatin1Char('\n');
+            text += line + QLatin1Char('\n') + row.expectations.section(QLatin1Char('\n'), 1);
         }
     }
     return text;

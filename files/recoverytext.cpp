@@ -13,12 +13,16 @@ const QByteArray firstLine = QByteArrayLiteral(
 const QByteArray rowMark = QByteArrayLiteral("//row ");
 
 /// The cells of a row, in the order of the table's columns. The CRC follows from them.
-enum Cell { Description, Selected, Cmd, Addr, Data, DataType, OriginalData, CellCount };
+/// What the row is to be answered with stands there only where there is something.
+enum Cell { Description, Selected, Cmd, Addr, Data, DataType, OriginalData, Expectations };
 
 QByteArray cellsOf(const CommandRow &row)
 {
-    const QJsonArray cells{row.description, row.selected, row.cmd,         row.addr,
-                           row.data,        row.dataType, row.originalData};
+    QJsonArray cells{row.description, row.selected, row.cmd,         row.addr,
+                     row.data,        row.dataType, row.originalData};
+    if (!row.expectations.isEmpty()) {
+        cells.append(row.expectations);
+    }
     return QJsonDocument(cells).toJson(QJsonDocument::Compact);
 }
 
@@ -44,7 +48,7 @@ std::optional<CommandRow> recoveredRow(const QByteArray &line)
         return std::nullopt;
     }
     const QJsonArray cells = QJsonDocument::fromJson(line.mid(rowMark.size())).array();
-    if (cells.size() != CellCount) {
+    if (cells.size() != Expectations && cells.size() != Expectations + 1) {
         return std::nullopt;
     }
     CommandRow row;
@@ -56,5 +60,6 @@ std::optional<CommandRow> recoveredRow(const QByteArray &line)
     row.crc = crcCellText(frameText(row));
     row.dataType = cells.at(DataType).toString();
     row.originalData = cells.at(OriginalData).toString();
+    row.expectations = cells.at(Expectations).toString();
     return row;
 }

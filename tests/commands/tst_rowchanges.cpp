@@ -17,6 +17,7 @@ private slots:
     void cloneCopiesEverything_data();
     void cloneCopiesEverything();
     void cloneOfNoRowIsBlank();
+    void expectationsGoWithTheirRow();
     void moveMakesANewRow_data();
     void moveMakesANewRow();
     void movesEndAtTheEdges();
@@ -229,6 +230,28 @@ void TestRowChanges::editedValueIsTakenOver()
     f.rows.takeEdited(9, edited);
     QCOMPARE(texts(f.rows.row(0)), texts(numberedRow(0)));
     QCOMPARE(f.rows.rowCount(), 9);
+}
+
+void TestRowChanges::expectationsGoWithTheirRow()
+{
+    const QString expected("//@ tarnwick-run 1\n//? 03 **\n");
+    TableFixture f(3);
+    CommandRow row = numberedRow(0);
+    row.expectations = expected;
+    f.rows.replaceRows({row, numberedRow(1), numberedRow(2)});
+    QCOMPARE(f.rows.row(0).expectations, expected);
+    QCOMPARE(f.table.item(0, Column::Description)->toolTip(), QString("//? 03 **"));
+    f.rows.takeEdited(0, numberedRow(5));
+    f.rows.cloneRow(0);
+    QCOMPARE(f.rows.row(0).expectations, expected);
+    QCOMPARE(f.rows.row(1).expectations, expected);
+    QCOMPARE(f.rows.row(2).expectations, QString());
+    QVERIFY(f.rows.moveDown(1));
+    QCOMPARE(f.rows.row(1).expectations, QString());
+    QCOMPARE(f.rows.row(2).expectations, expected);
+    f.rows.replaceRows({numberedRow(1)});
+    QCOMPARE(f.rows.row(0).expectations, QString());
+    QCOMPARE(f.table.item(0, Column::Description)->toolTip(), QString());
 }
 
 QTEST_MAIN(TestRowChanges)

@@ -18,6 +18,8 @@ private slots:
     void aStartByteThatIsFollowedIsNotShown();
     void whatIsMoreThanAStartByteIsKept();
     void piecesHaveTheTimeOfTheirLastChunk();
+    void silenceEndsAFrameThatNothingElseEnds();
+    void aGapThatTheTimerHasMissedCounts();
 };
 
 namespace {
@@ -127,6 +129,31 @@ void TestReceiver::piecesHaveTheTimeOfTheirLastChunk()
     receiver.take(hex("07 5AA501"), {1000, 10});
     receiver.take(hex("01 5A"), {2000, 20});
     QTRY_COMPARE(pieces, QStringList({"07@1000/10", "5aa50101@2000/20", "5a@2000/20"}));
+}
+
+void TestReceiver::silenceEndsAFrameThatNothingElseEnds()
+{
+    Heard heard;
+    heard.receiver.setGap(5);
+    heard.receiver.take(hex("01 03"));
+    heard.receiver.take(hex("5A A5 01"));
+    QCOMPARE(heard.pieces, QStringList());
+    QTRY_COMPARE(heard.pieces, QStringList{"F 01 03 5A A5 01 "});
+    heard.receiver.take(hex("02"));
+    heard.receiver.setGap(std::nullopt);
+    heard.receiver.take(hex("5AA50101"));
+    QCOMPARE(heard.pieces.mid(1), QStringList({"F 02 ", "F 5A A5 01 01 "}));
+}
+
+void TestReceiver::aGapThatTheTimerHasMissedCounts()
+{
+    Heard heard;
+    heard.receiver.setGap(5);
+    constexpr qint64 nsInMs = 1000000;
+    heard.receiver.take(hex("01"), {0, 100 * nsInMs});
+    heard.receiver.take(hex("02"), {0, 104 * nsInMs});
+    heard.receiver.take(hex("03"), {0, 109 * nsInMs});
+    QCOMPARE(heard.pieces, QStringList{"F 01 02 "});
 }
 
 QTEST_GUILESS_MAIN(TestReceiver)
