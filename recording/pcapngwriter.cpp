@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qint64 usPerSecond = 1000000;
+constexpr qint64 usPerPacketSecond = 1000000;
 constexpr int longestOption = 0xFFFC;
 
 template<typename Number>
@@ -81,8 +81,8 @@ QByteArray serialHeader(ArrivalTime time, quint8 kind)
 {
     constexpr quint8 lineStates = 0;
     constexpr quint16 footer = 0;
-    return bigEndian(static_cast<quint32>(time.utcUs / usPerSecond)) +
-           bigEndian(static_cast<quint32>(time.utcUs % usPerSecond)) + bigEndian(kind) +
+    return bigEndian(static_cast<quint32>(time.utcUs / usPerPacketSecond)) +
+           bigEndian(static_cast<quint32>(time.utcUs % usPerPacketSecond)) + bigEndian(kind) +
            bigEndian(lineStates) + bigEndian(footer);
 }
 

@@ -188,8 +188,8 @@ void RecordingJob::lookIfDue(ArrivalTime now)
 /// Whether a day after that of the file has begun. The calendar is asked once for each second.
 bool RecordingJob::isOfAnotherDay(ArrivalTime time)
 {
-    constexpr qint64 usPerSecond = 1000000;
-    const qint64 second = time.utcUs / usPerSecond;
+    constexpr qint64 usPerCalendarSecond = 1000000;
+    const qint64 second = time.utcUs / usPerCalendarSecond;
     if (second == m_secondOfDay) {
         return false;
     }

@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr qint64 usPerSecond = 1000000;
+constexpr qint64 usOfSecond = 1000000;
 constexpr qint64 secondsPerDay = 86400;
-constexpr qint64 usPerDay = secondsPerDay * usPerSecond;
+constexpr qint64 usPerDay = secondsPerDay * usOfSecond;
 constexpr qint64 julianDayOf1970 = 2440588;
 constexpr qint64 earliestUs = -719162 * usPerDay;
 constexpr qint64 latestUs = 2932897 * usPerDay - 1;
@@ -44,7 +44,7 @@ QByteArray utcText(qint64 utcUs)
     const qint64 us = std::clamp(utcUs, earliestUs, latestUs);
     const qint64 days = (us >= 0 ? us : us - usPerDay + 1) / usPerDay;
     const qint64 ofDay = us - days * usPerDay;
-    const qint64 seconds = ofDay / usPerSecond;
+    const qint64 seconds = ofDay / usOfSecond;
     int year = 0;
     int month = 0;
     int day = 0;
@@ -56,7 +56,7 @@ QByteArray utcText(qint64 utcUs)
     putDigits(text, 13, 2, seconds / 3600);
     putDigits(text, 16, 2, seconds / 60 % 60);
     putDigits(text, 19, 2, seconds % 60);
-    putDigits(text, 26, 6, ofDay % usPerSecond);
+    putDigits(text, 26, 6, ofDay % usOfSecond);
     return text;
 }
 
@@ -73,6 +73,6 @@ std::optional<qint64> parseUtcText(const QByteArray &text)
         return std::nullopt;
     }
     const qint64 seconds = (hour * 60 + minute) * 60 + second;
-    return (date.toJulianDay() - julianDayOf1970) * usPerDay + seconds * usPerSecond +
+    return (date.toJulianDay() - julianDayOf1970) * usPerDay + seconds * usOfSecond +
            numberAt(text, 20, 6);
 }
