@@ -1,6 +1,7 @@
 #include "app/commandarea.h"
 
 #include "app/liststate.h"
+#include "app/tabletips.h"
 #include "ui_commandarea.h"
 #include "widgets/leavingkeys.h"
 
@@ -15,6 +16,7 @@ CommandArea::CommandArea(QWidget *parent)
     addButtonKey(*m_form->pushButton_LoadCommand, QKeySequence::Open);
     addButtonKey(*m_form->pushButton_SaveCommand, QKeySequence::Save);
     addLeavingKeys(*m_form->tableWidget_Register);
+    addTableTips(*m_form->tableWidget_Register);
 }
 
 CommandArea::~CommandArea() = default;

@@ -1,62 +1,40 @@
 #include "app/dialog.h"
 
 #include "app/boxes.h"
+#include "app/commandarea.h"
 #include "app/datafolder.h"
-#include "app/headerfield.h"
+#include "app/looparea.h"
+#include "app/tabletips.h"
 #include "app/windowform.h"
-#include "commands/commandcolumns.h"
-#include "links/linktexts.h"
-#include "log/logcolumns.h"
 #include "log/logtable.h"
 #include "ui_dialog.h"
-#include "version.h"
-#include "widgets/celltips.h"
 
 #include <QCloseEvent>
 #include <QMessageBox>
-
-namespace {
-
-constexpr int tipColumn = LogColumn::Data;
-static_assert(tipColumn == CommandColumn::Crc);
-
-} // namespace
 
 Dialog::Dialog(QWidget *parent)
     : QDialog(parent)
     , m_form(fillWindow(*this))
     , m_memory(*this, *m_form->splitter, dataFile(QStringLiteral("window.ini")), this)
     , m_wheelGuard(*m_form->tabWidget)
-    , m_settingsFile(dataFile(QStringLiteral("debuggerConfig.ini")))
-    , m_settings(m_settingsFile.load())
+    , m_settings(dataFile(QStringLiteral("debuggerConfig.ini")))
     , m_status({&m_form->tab->statusLabel(), &m_form->tab_2->statusLabel()}, this)
     , m_session(dataFile(QStringLiteral("hidDeviceID.ini")), portsFolder(), this)
-    , m_serialPanel(*m_form->tab, m_session.links().serial(), this)
-    , m_hidPanel(*m_form->tab_2, m_session.links().hid(), this)
-    , m_deviceLists(m_serialPanel, m_hidPanel, this)
+    , m_links(*m_form->tab, *m_form->tab_2, m_session, m_status, this)
     , m_loopPanel({*m_form->loopArea, *m_form->tabWidget, *m_form->tab, *m_form->tab_2,
                    *m_form->commandArea, *m_form->pushButton_SaveMessage},
                   this)
-    , m_linkStatus(m_status, m_session, this)
-    , m_commands(m_form->commandArea->table(), this, this)
-    , m_menus(this, m_settings.isEditorFun != 0)
-    , m_rowActions(m_form->commandArea->table(), m_commands, m_menus, this)
-    , m_tableKeys(m_form->commandArea->table(), m_commands, m_rowActions, m_menus, this)
-    , m_rowEditor(m_form->commandArea->table(), m_commands, this)
-    , m_log(m_form->messageArea->table(), m_session.log(), this)
-    , m_messageCopy(m_form->messageArea->table(), m_log, m_session.log(), this)
-    , m_files(*this, m_commands, m_list, m_session.log(), m_status)
+    , m_commands(*m_form->commandArea, m_settings.settings().isEditorFun != 0, *this)
+    , m_messages(*m_form->messageArea, m_session, this)
+    , m_files(*this, m_commands.rows(), m_list, m_session.log(), m_status)
     , m_recording(*m_form->recordPanel, m_session, m_status, m_memory, this)
 {
-    setUpWindow();
-    m_form->commandArea->follow(m_list);
-    m_form->messageArea->follow(m_log);
-    setUpSession();
-    setUpLinks();
+    setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+    m_memory.restore();
     setUpCommands();
-    setUpTips();
-    watchDevices();
-    m_form->tabWidget->setCurrentIndex(m_settings.linkMode);
+    setUpNotices();
+    setUpSession();
+    m_form->tabWidget->setCurrentIndex(m_settings.settings().linkMode);
     m_files.offerLeftBehind();
 }
 
@@ -68,7 +46,7 @@ Dialog::~Dialog()
 void Dialog::closeEvent(QCloseEvent *event)
 {
     m_session.loop().stop();
-    m_commands.takeInEdit();
+    m_commands.rows().takeInEdit();
     if (m_list.isModified() && askToSaveCommands()) {
         m_files.save();
     }
@@ -90,26 +68,20 @@ void Dialog::end()
 
 void Dialog::keepForNextStart()
 {
-    m_commands.takeInEdit();
+    m_commands.rows().takeInEdit();
     m_files.keep();
     saveSettings();
 }
 
 void Dialog::saveSettings()
 {
-    m_files.noteFolders(m_settings);
-    m_settings.linkMode = int(m_session.links().mode());
-    m_settingsFile.save(m_settings);
+    m_settings.save(m_session, m_files);
     m_memory.save();
 }
 
 void Dialog::wheelEvent(QWheelEvent * /*event*/)
 {
-    const QPoint position = mapFromGlobal(QCursor::pos());
-    // See docs/deliberate.md, Wheel's place.
-    if (m_form->commandArea->table().geometry().contains(position)) {
-        m_rowActions.appendRowAtEnd();
-    }
+    m_commands.turnWheel(mapFromGlobal(QCursor::pos()));
 }
 
 bool Dialog::nativeEvent(const QByteArray & /*eventType*/, void *message, long *result)
@@ -121,104 +93,55 @@ bool Dialog::nativeEvent(const QByteArray & /*eventType*/, void *message, long *
     return taken;
 }
 
-void Dialog::setUpWindow()
+void Dialog::setUpSession()
 {
-    setWindowTitle(QLatin1String(windowTitleText));
-    setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
-    m_memory.restore();
+    m_settings.apply(m_session, m_files);
+    m_loopPanel.follow(m_session);
+    connect(&m_links, &LinkPanels::listsDue, this, &Dialog::Timer1_Out_Event);
+    m_links.watchDevices([this] { return quintptr(winId()); });
 }
 
 void Dialog::setUpCommands()
 {
-    QTableWidget *table = &m_form->commandArea->table();
-    connect(&m_menus.rowMenu(), &QMenu::triggered, this, &Dialog::SlotRegisterMenuClicked);
-    connect(&m_menus.selectMenu(), &QMenu::triggered, this, &Dialog::SlotSelectMenuClicked);
-    connect(&m_menus.cmdMenu(), &QMenu::triggered, this, &Dialog::SlotCmdMenuClicked);
-    table->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(table, &QTableWidget::customContextMenuRequested, this,
+    const RowMenus &menus = m_commands.menus();
+    connect(&menus.rowMenu(), &QMenu::triggered, this, &Dialog::SlotRegisterMenuClicked);
+    connect(&menus.selectMenu(), &QMenu::triggered, this, &Dialog::SlotSelectMenuClicked);
+    connect(&menus.cmdMenu(), &QMenu::triggered, this, &Dialog::SlotCmdMenuClicked);
+    connect(&m_form->commandArea->table(), &QTableWidget::customContextMenuRequested, this,
             &Dialog::tableRegisterContexMenuRequested);
-    connect(&m_rowActions, &RowActions::refused, this, &Dialog::showMessage);
-    connect(&m_rowActions, &RowActions::modified, &m_list, &ListState::setModified);
-    connect(&m_rowActions, &RowActions::editRequested, &m_rowEditor, &RowEditor::open);
-    connect(&m_rowEditor.editor(), &DirectEditor::SendData, this, &Dialog::editor_dataIn);
-    connect(&m_rowEditor.editor(), &DirectEditor::unencodableTyped, this, &Dialog::showMessage,
-            Qt::QueuedConnection);
-    connect(&m_commands, &CommandTable::sendRequested, this, &Dialog::SendOne);
-    connect(&m_commands, &CommandTable::insertionRefused, &m_status, &StatusLine::tell);
-
-    connect(&m_commands, &CommandTable::addressCommitted, this, &Dialog::on_DataEdited);
-    connect(&m_commands, &CommandTable::enterPressed, this, &Dialog::on_DataEnter);
+    const CommandTable &rows = m_commands.rows();
+    connect(&rows, &CommandTable::sendRequested, this, &Dialog::SendOne);
+    connect(&rows, &CommandTable::addressCommitted, this, &Dialog::on_DataEdited);
+    connect(&rows, &CommandTable::enterPressed, this, &Dialog::on_DataEnter);
+    connect(&m_commands.editor(), &DirectEditor::SendData, this, &Dialog::editor_dataIn);
+    connect(&m_commands.actions(), &RowActions::modified, &m_list, &ListState::setModified);
+    m_form->commandArea->follow(m_list);
 }
 
-void Dialog::setUpTips()
+void Dialog::setUpNotices()
 {
-    for (QTableWidget *table : std::initializer_list<QTableWidget *>{
-             &m_form->commandArea->table(), &m_form->messageArea->table()}) {
-        table->setMouseTracking(true);
-        connect(table, &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
-        new CellTips(*table, tipColumn, this);
-    }
-}
-
-void Dialog::setUpSession()
-{
-    m_session.format().setStartBytes(m_settings.noAppendHeader == 0);
-    m_session.format().setLength(m_settings.noAppendLength == 0);
-    m_session.links().hid().readDeviceTypes();
-    m_session.use(static_cast<LinkMode>(m_settings.linkMode));
-    m_form->tab->header().feed(m_session);
-    m_loopPanel.follow(m_session);
-    m_log.setHold([this] { return m_session.loop().isFrameNear(); });
-    m_files.takeFolders(m_settings);
     connect(&m_files, &ListFiles::notice, this, &Dialog::showMessage);
     connect(&m_session, &Session::notice, this, &Dialog::showMessage);
-    connect(&m_session, &Session::linkFailed, this,
-            [this](LinkMode mode, const QString &name, const QString &reason) {
-                if (mode == LinkMode::Uart) {
-                    m_deviceLists.refreshSoon();
-                    showMessage(whyLost(name, reason));
-                }
-            });
-}
-
-void Dialog::setUpLinks()
-{
-    m_linkStatus.follow(m_serialPanel);
-    m_linkStatus.follow(m_hidPanel);
-    connect(&m_serialPanel, &SerialPanel::failed, this,
-            [] { showOpenFail(QStringLiteral("UART")); });
-    connect(&m_hidPanel, &HidPanel::failed, this, [] { showOpenFail(QStringLiteral("HID")); });
-    connect(&m_deviceLists, &DeviceLists::due, this, &Dialog::Timer1_Out_Event);
-}
-
-void Dialog::watchDevices()
-{
-    DeviceWatch &devices = m_session.devices();
-    connect(&devices, &DeviceWatch::listsOutdated, &m_deviceLists, &DeviceLists::refreshSoon);
-    if (!devices.start([this] { return quintptr(winId()); })) {
-        QTimer::singleShot(0, this, [this] {
-            showMessage(QStringLiteral("The hardware monitoring registration failed, and the "
-                                       "hardware could not be identified!"));
-        });
-    }
+    connect(&m_links, &LinkPanels::notice, this, &Dialog::showMessage);
+    connect(&m_commands, &CommandPanel::notice, this, &Dialog::showMessage);
+    connect(&m_commands.rows(), &CommandTable::insertionRefused, &m_status, &StatusLine::tell);
+    connect(&m_form->commandArea->table(), &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
+    connect(&m_form->messageArea->table(), &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
 }
 
 void Dialog::on_tabWidget_currentChanged(int index)
 {
-    m_status.tell({});
-    if (index == int(LinkMode::Uart) || index == int(LinkMode::Hid)) {
-        m_session.use(static_cast<LinkMode>(index));
-    }
+    m_links.goToTab(index);
 }
 
 void Dialog::on_pushButton_OpenCom_clicked()
 {
-    m_serialPanel.toggle();
+    m_links.serial().toggle();
 }
 
 void Dialog::on_comboBox_Comm_activated(int /*index*/)
 {
-    m_serialPanel.open();
+    m_links.serial().open();
 }
 
 void Dialog::on_comboBox_Baudrate_activated(int index)
@@ -233,7 +156,7 @@ void Dialog::serial_receiveData()
 
 void Dialog::on_pushButton_ConnectHID_clicked()
 {
-    m_hidPanel.toggle();
+    m_links.hid().toggle();
 }
 
 void Dialog::hid_receiveData(HidPacket packet)
@@ -248,14 +171,14 @@ void Dialog::Close_HidDevice_From_thread()
 
 void Dialog::SendOne()
 {
-    takeCrcFlag();
-    m_session.sender().sendOne(m_commands.currentRow());
+    m_links.takeCrcFlag();
+    m_session.sender().sendOne(m_commands.rows().currentRow());
 }
 
 void Dialog::on_pushButton_SendAll_clicked()
 {
-    takeCrcFlag();
-    m_session.sender().sendAll(m_commands.checkedRows());
+    m_links.takeCrcFlag();
+    m_session.sender().sendAll(m_commands.rows().checkedRows());
 }
 
 void Dialog::on_pushButton_SendAll_2_clicked()
@@ -269,13 +192,13 @@ void Dialog::on_pushButton_Start_Loop_clicked()
         m_session.loop().stop();
         return;
     }
-    takeCrcFlag();
-    m_session.loop().start(m_commands.checkedRows(), m_form->loopArea->timing());
+    m_links.takeCrcFlag();
+    m_session.loop().start(m_commands.rows().checkedRows(), m_form->loopArea->timing());
 }
 
 void Dialog::Timer1_Out_Event()
 {
-    m_deviceLists.refresh();
+    m_links.refreshLists();
 }
 
 void Dialog::Timer2_Out_Event()
@@ -305,30 +228,28 @@ void Dialog::on_pushButton_SaveCommand_clicked()
 
 void Dialog::on_pushButton_ClearCommand_clicked()
 {
-    m_commands.clear();
+    m_commands.rows().clear();
     m_list.setNew();
 }
 
 void Dialog::tableRegisterContexMenuRequested(const QPoint &pos)
 {
-    if (QMenu *menu = m_rowActions.menuAt(pos)) {
-        menu->exec(m_rowActions.menuPosition());
-    }
+    m_commands.showMenu(pos);
 }
 
 void Dialog::SlotRegisterMenuClicked(QAction *act)
 {
-    m_rowActions.changeRow(act);
+    m_commands.actions().changeRow(act);
 }
 
 void Dialog::SlotSelectMenuClicked(QAction *act)
 {
-    m_rowActions.checkSelectedRows(act);
+    m_commands.actions().checkSelectedRows(act);
 }
 
 void Dialog::SlotCmdMenuClicked(QAction *act)
 {
-    m_rowActions.writeCmd(act);
+    m_commands.actions().writeCmd(act);
 }
 
 void Dialog::on_tableWidget_Register_cellChanged(int /*row*/, int /*column*/)
@@ -341,36 +262,27 @@ void Dialog::on_tableWidget_Register_cellClicked(int /*row*/, int /*column*/) {}
 void Dialog::On_tableWidget_Register_textchange()
 {
     m_list.setModified();
-    m_commands.recomputeCurrentRow();
+    m_commands.rows().recomputeCurrentRow();
 }
 
 void Dialog::on_DataEdited()
 {
-    m_commands.normaliseCurrentAddress();
+    m_commands.rows().normaliseCurrentAddress();
 }
 
 void Dialog::on_DataEnter()
 {
-    m_commands.goOnFromCurrentCell();
+    m_commands.rows().goOnFromCurrentCell();
 }
 
 void Dialog::editor_dataIn()
 {
-    m_rowEditor.takeBack(m_rowActions.contextRow());
+    m_commands.takeBackEdited();
 }
 
 void Dialog::doMouseTrackTip(const QModelIndex &index)
 {
-    if (index.column() == tipColumn) {
-        showCellText(index.data().toString());
-    }
-}
-
-/// The CRC box of the tab that is used counts for what is sent and logged from now on.
-void Dialog::takeCrcFlag()
-{
-    const bool isSerial = m_session.links().mode() == LinkMode::Uart;
-    m_session.format().setCrc(isSerial ? m_form->tab->wantsCrc() : m_form->tab_2->wantsCrc());
+    showInstantTip(index);
 }
 
 void Dialog::showMessage(const QString &text)

@@ -1,23 +1,15 @@
 #pragma once
 
-#include "app/devicelists.h"
-#include "app/hidpanel.h"
-#include "app/linkstatus.h"
+#include "app/commandpanel.h"
+#include "app/linkpanels.h"
 #include "app/listfiles.h"
 #include "app/liststate.h"
 #include "app/looppanel.h"
-#include "app/messagecopy.h"
+#include "app/messagepanel.h"
 #include "app/recordcontrol.h"
-#include "app/roweditor.h"
-#include "app/serialpanel.h"
-#include "app/settings.h"
+#include "app/settingskeeper.h"
 #include "app/statusline.h"
 #include "app/windowmemory.h"
-#include "commands/commandtable.h"
-#include "commands/rowactions.h"
-#include "commands/rowmenus.h"
-#include "commands/tablekeys.h"
-#include "log/messagelog.h"
 #include "session/session.h"
 #include "widgets/wheelguard.h"
 
@@ -91,37 +83,23 @@ private slots:
     void doMouseTrackTip(const QModelIndex &index);
 
 private:
-    void setUpWindow();
-    void setUpCommands();
-    void setUpTips();
     void setUpSession();
-    void setUpLinks();
-    void watchDevices();
+    void setUpCommands();
+    void setUpNotices();
     void saveSettings();
-
-    void takeCrcFlag();
     void showMessage(const QString &text);
 
     std::unique_ptr<Ui::Dialog> m_form;
     WindowMemory m_memory;
     WheelGuard m_wheelGuard;
-    SettingsFile m_settingsFile;
-    Settings m_settings;
+    SettingsKeeper m_settings;
     ListState m_list;
     StatusLine m_status;
     Session m_session;
-    SerialPanel m_serialPanel;
-    HidPanel m_hidPanel;
-    DeviceLists m_deviceLists;
+    LinkPanels m_links;
     LoopPanel m_loopPanel;
-    LinkStatus m_linkStatus;
-    CommandTable m_commands;
-    RowMenus m_menus;
-    RowActions m_rowActions;
-    TableKeys m_tableKeys;
-    RowEditor m_rowEditor;
-    MessageLog m_log;
-    MessageCopy m_messageCopy;
+    CommandPanel m_commands;
+    MessagePanel m_messages;
     ListFiles m_files;
     RecordControl m_recording;
     bool m_isEnding = false;

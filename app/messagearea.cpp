@@ -1,5 +1,6 @@
 #include "app/messagearea.h"
 
+#include "app/tabletips.h"
 #include "log/messagelog.h"
 #include "log/recordlog.h"
 #include "ui_messagearea.h"
@@ -12,6 +13,7 @@ MessageArea::MessageArea(QWidget *parent)
     m_form->setupUi(this);
     addLeavingKeys(*m_form->tableWidget_Message);
     m_form->tableWidget_Message->setTabKeyNavigation(false);
+    addTableTips(*m_form->tableWidget_Message);
 }
 
 MessageArea::~MessageArea() = default;

@@ -4,6 +4,7 @@
 #include "app/scrollablewindow.h"
 #include "app/styles.h"
 #include "ui_dialog.h"
+#include "version.h"
 
 /// The images live in a static library, so nothing but this brings them in.
 static void initImages()
@@ -14,6 +15,7 @@ static void initImages()
 std::unique_ptr<Ui::Dialog> fillWindow(QDialog &window)
 {
     initImages();
+    window.setWindowTitle(QLatin1String(windowTitleText));
     new LightLook(window);
     window.setStyleSheet(windowStyle());
     auto form = std::make_unique<Ui::Dialog>();

@@ -1,0 +1,42 @@
+#include "app/commandpanel.h"
+
+#include "app/commandarea.h"
+
+#include <QTableWidget>
+
+CommandPanel::CommandPanel(CommandArea &area, bool withEdit, QWidget &window)
+    : QObject(&window)
+    , m_table(area.table())
+    , m_rows(m_table, &window, this)
+    , m_menus(&window, withEdit)
+    , m_actions(m_table, m_rows, m_menus, this)
+    , m_keys(m_table, m_rows, m_actions, m_menus, this)
+    , m_editor(m_table, m_rows, &window)
+{
+    m_table.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&m_actions, &RowActions::refused, this, &CommandPanel::notice);
+    connect(&m_actions, &RowActions::editRequested, &m_editor, &RowEditor::open);
+    // A box must not open within the key press that it is about.
+    connect(&editor(), &DirectEditor::unencodableTyped, this, &CommandPanel::notice,
+            Qt::QueuedConnection);
+}
+
+void CommandPanel::showMenu(const QPoint &position)
+{
+    if (QMenu *menu = m_actions.menuAt(position)) {
+        menu->exec(m_actions.menuPosition());
+    }
+}
+
+void CommandPanel::takeBackEdited()
+{
+    m_editor.takeBack(m_actions.contextRow());
+}
+
+void CommandPanel::turnWheel(const QPoint &position)
+{
+    // See docs/deliberate.md, Wheel's place.
+    if (m_table.geometry().contains(position)) {
+        m_actions.appendRowAtEnd();
+    }
+}

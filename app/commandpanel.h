@@ -1,0 +1,49 @@
+#pragma once
+
+#include "app/roweditor.h"
+#include "commands/commandtable.h"
+#include "commands/rowactions.h"
+#include "commands/rowmenus.h"
+#include "commands/tablekeys.h"
+
+#include <QObject>
+
+class CommandArea;
+
+/// The command table at work: its rows, its menus and keys, and the editor for a row's value.
+class CommandPanel : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The row menu offers the editor if asked to. Menus and editor belong to the window, which,
+    /// like the area, must outlive this.
+    CommandPanel(CommandArea &area, bool withEdit, QWidget &window);
+
+    CommandTable &rows() { return m_rows; }
+    const RowMenus &menus() const { return m_menus; }
+    RowActions &actions() { return m_actions; }
+    const DirectEditor &editor() const { return m_editor.editor(); }
+
+    /// Shows the menu of the cell at a position in the table's viewport, until it is closed.
+    void showMenu(const QPoint &position);
+
+    /// Writes what the editor hands back into the row that the last menu was opened on.
+    void takeBackEdited();
+
+    /// Appends an empty row where the wheel is turned at the end of the list, with the mouse at
+    /// this position in the window.
+    void turnWheel(const QPoint &position);
+
+signals:
+    /// Something the user must be told; handlers may block.
+    void notice(const QString &text);
+
+private:
+    QTableWidget &m_table;
+    CommandTable m_rows;
+    RowMenus m_menus;
+    RowActions m_actions;
+    TableKeys m_keys;
+    RowEditor m_editor;
+};

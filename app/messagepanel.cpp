@@ -1,0 +1,14 @@
+#include "app/messagepanel.h"
+
+#include "app/messagearea.h"
+#include "log/logtable.h"
+#include "session/session.h"
+
+MessagePanel::MessagePanel(MessageArea &area, Session &session, QObject *parent)
+    : QObject(parent)
+    , m_log(area.table(), session.log(), this)
+    , m_copy(area.table(), m_log, session.log(), this)
+{
+    area.follow(m_log);
+    m_log.setHold([&session] { return session.loop().isFrameNear(); });
+}

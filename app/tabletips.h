@@ -1,0 +1,12 @@
+#pragma once
+
+class QModelIndex;
+class QTableWidget;
+
+/// Makes a table tell which cell the mouse enters, and shows the tips of its cells where the mouse
+/// rests. That of column 5, the CRC of a command and the data of a message, comes at once instead,
+/// by `showInstantTip`.
+void addTableTips(QTableWidget &table);
+
+/// Shows the text of a cell that the mouse has entered, if it is one of that column.
+void showInstantTip(const QModelIndex &cell);
