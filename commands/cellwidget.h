@@ -44,7 +44,7 @@ public:
     {}
 
     /// Its cell, wherever its row has moved by now.
-    QModelIndex cell() const { return m_cell; }
+    const QPersistentModelIndex &cell() const { return m_cell; }
 
     void setVisible(bool visible) override
     {
