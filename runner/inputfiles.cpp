@@ -19,7 +19,7 @@ FileContent contentOfInput()
     }
     FileContent content{FileContent::Outcome::Read, {}};
     while (content.bytes.size() <= largestCommandFile) {
-        const QByteArray chunk = input.read(64 * 1024);
+        const QByteArray chunk = input.read(qint64(64) * 1024);
         if (chunk.isEmpty()) {
             return content;
         }

@@ -44,7 +44,8 @@ struct Piece
 };
 
 const Piece piecesOfTheWindow[] = {
-    {"tabWidget", "QTabWidget", "", ""},
+    {"sideArea", "QWidget", "", ""},
+    {"tabWidget", "QTabWidget", "sideArea", ""},
     {"tab", "QWidget", "tabWidget", ""},
     {"label_Comm", "QLabel", "tab", "Com Port:"},
     {"comboBox_Comm", "QComboBox", "tab", ""},
@@ -78,7 +79,7 @@ const Piece piecesOfTheWindow[] = {
      "No device of a type that is listed in hidDeviceID.ini is attached.\n\n"
      "The header that counts is that of the \"Uart\" tab, for HID too."},
     {"label_Status_2", "QLabel", "tab_2", ""},
-    {"recordPanel", "QWidget", "", ""},
+    {"recordPanel", "QWidget", "sideArea", ""},
     {"pushButton_Record", "QPushButton", "recordPanel", "Record…"},
     {"pushButton_Export", "QPushButton", "recordPanel", "Export…"},
     {"label_Record", "QLabel", "recordPanel", ""},
