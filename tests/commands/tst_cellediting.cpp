@@ -301,7 +301,7 @@ void TestCellEditing::rowsMayChangeUnderAnEditor()
     } else if (change == "down") {
         rows->moveDown(2);
     } else if (change == "clear") {
-        m_bench->window.call("on_pushButton_ClearCommand_clicked");
+        m_bench->window.click("pushButton_ClearCommand");
     } else {
         CommandRow content = emptyRow();
         QVector<CommandRow> contents;

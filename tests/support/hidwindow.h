@@ -11,7 +11,7 @@ public:
     HidWindow()
     {
         find<QTabWidget>("tabWidget")->setCurrentIndex(1);
-        call("Timer1_Out_Event");
+        listPorts();
     }
 
     /// Chooses a listed device and opens it with the button.

@@ -25,6 +25,16 @@ void WindowDriver::clickSend(int row)
     QTest::mouseClick(commands()->cellWidget(row, CommandColumn::Send), Qt::LeftButton);
 }
 
+void WindowDriver::listPorts()
+{
+    call("Timer1_Out_Event");
+}
+
+void WindowDriver::sendCurrentRow()
+{
+    clickSend(commands()->currentRow());
+}
+
 void WindowDriver::open(const TestPort &port)
 {
     QComboBox *ports = combo("comboBox_Comm");

@@ -31,12 +31,18 @@ public:
     QTableWidget *messages() const { return find<QTableWidget>("tableWidget_Message"); }
     Dialog &window() { return m_window; }
 
-    /// Calls a slot of the window by its name.
+    /// Calls a slot of the window by its name, as scripts from outside do.
     void call(const char *slot);
+
+    /// Has ports and devices listed now, which the window does by itself when it opens and when
+    /// they change.
+    void listPorts();
 
     /// Presses a button with the mouse.
     void click(const char *buttonName);
     void clickSend(int row);
+    /// Sends the row that the command table is at, with its send button.
+    void sendCurrentRow();
 
     /// Lists a port and opens it with the button.
     void open(const TestPort &port);

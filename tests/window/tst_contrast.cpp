@@ -181,7 +181,7 @@ void TestContrast::theWindowIsReadable()
     QFETCH(int, tab);
     ContrastWindow window;
     window.find<QTabWidget>("tabWidget")->setCurrentIndex(tab);
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QCoreApplication::processEvents();
     QCOMPARE(unreadable(window.window()), QStringList());
     const QTabBar &bar = *window.find<QTabWidget>("tabWidget")->tabBar();

@@ -87,7 +87,7 @@ void TestHid::theChosenDeviceStaysChosen()
 {
     HidWindow window;
     window.combo("comboBox_Hid_Device")->setCurrentIndex(1);
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QCOMPARE(window.combo("comboBox_Hid_Device")->currentText(), QString(smallDevice));
 }
 
@@ -103,7 +103,7 @@ void TestHid::withoutADeviceTheTabSaysWhatIsMissing()
     QVERIFY(hint->text().contains("hidDeviceID.ini"));
     QVERIFY(hint->text().contains("\"Uart\""));
     FakeHid::instance().addDevice(smallDevice, 0xEEEF, 0x1616);
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QCOMPARE(devices->currentText(), QString(smallDevice));
     QVERIFY(!hint->isVisible());
 }
@@ -167,13 +167,13 @@ void TestHid::aFrameGoesOutInReports()
     window.openDevice(smallDevice);
     window.check("checkBox_CRC_EN_2")->setChecked(true);
     window.setRow(0, "01", "0300", "000001");
-    window.call("SendOne");
+    window.sendCurrentRow();
     QTRY_COMPARE(FakeHid::instance().written().size(), 1);
     QCOMPARE(FakeHid::instance().written().first(), report(hex("5AA508010300000001840A"), 5));
     QCOMPARE(window.message(0).at(6), QString("84 0A "));
 
     window.setRow(1, "11", "", QString("22").repeated(299));
-    window.call("SendOne");
+    window.sendCurrentRow();
     QCOMPARE(boxes.texts(), QStringList{"Instruction length 302 is out of the maximum range,<br> "
                                         "sending errors may occur!"});
     QTRY_COMPARE(FakeHid::instance().written().size(), 1 + 5);
@@ -286,7 +286,7 @@ void TestHid::theHeaderIsTheSerialTabs()
     window.edit("lineEdit_SBytes")->setText("0x12,0x34");
     window.edit("lineEdit_SBytes_2")->setText("0xAB,0xCD");
     window.setRow(0, "01", "0300", "01");
-    window.call("SendOne");
+    window.sendCurrentRow();
     QTRY_COMPARE(FakeHid::instance().written().size(), 1);
     QCOMPARE(FakeHid::instance().written().first(), report(hex("123404") + hex("01030001")));
 }

@@ -313,7 +313,7 @@ void TestLoop::aLostPortEndsTheLoop()
     QCOMPARE(enabledOf(window, restingWidgets), restingWidgets);
     QTRY_COMPARE(boxes.texts().size(), 1);
     QVERIFY(boxes.texts().first().contains(window.port.path()));
-    window.call("SendOne");
+    window.sendCurrentRow();
     QCOMPARE(boxes.texts().last(), QString("Please open the Com Port!"));
 }
 

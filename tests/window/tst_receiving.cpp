@@ -349,7 +349,7 @@ void TestReceiving::crcOfTheLastSendDecidesTheColumns()
     port.send(frame);
     QTRY_COMPARE(window.messageCount(), 1);
     QCOMPARE(window.message(0).at(6), QString());
-    window.call("SendOne");
+    window.sendCurrentRow();
     port.send(frame);
     QTRY_COMPARE(window.messageCount(), 3);
     QCOMPARE(window.message(2).at(5), QString(" 01 "));

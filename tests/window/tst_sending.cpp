@@ -73,7 +73,7 @@ void TestSending::oneRowIsSentAndLogged()
     TestPort port;
     window.open(port);
     window.setRow(2, "01", "0300", "00 00 01");
-    window.call("SendOne");
+    window.sendCurrentRow();
     QCOMPARE(window.message(0),
              QStringList({"1", "5A A5", " 06", " 01", "0300", " 00 00 01 ", ""}));
     QCOMPARE(window.messages()->item(0, 1)->data(Qt::ForegroundRole), QVariant());
@@ -88,12 +88,12 @@ void TestSending::crcIsTakenFromTheTabAtEachSend()
     window.setRow(0, "01", "0300", "00 00 01");
     window.check("checkBox_CRC_EN")->setChecked(true);
     window.check("checkBox_CRC_EN_2")->setChecked(false);
-    window.call("SendOne");
+    window.sendCurrentRow();
     QCOMPARE(window.message(0),
              QStringList({"1", "5A A5", " 08", " 01", "0300", " 00 00 01 ", "84 0A "}));
     QTRY_COMPARE(port.received(), hex("5AA508010300000001840A"));
     window.check("checkBox_CRC_EN")->setChecked(false);
-    window.call("SendOne");
+    window.sendCurrentRow();
     QCOMPARE(window.message(1).at(6), QString());
 }
 
@@ -161,7 +161,7 @@ void TestSending::anOverlongRowIsSentAfterAWarning()
     window.open(port);
     window.check("checkBox_CRC_EN")->setChecked(true);
     window.setRow(0, "11", "", QString("00").repeated(65533));
-    window.call("SendOne");
+    window.sendCurrentRow();
     QCOMPARE(boxes.texts(), QStringList{"Instruction length 65536 is out of the maximum "
                                         "range,<br> sending errors may occur!"});
     QTRY_COMPARE(port.received().size(), 3 + 65536);
@@ -178,13 +178,13 @@ void TestSending::overlongRowsAreLeftOutOfABatch()
         window.setRow(row, "03", "", row == 1 ? QString("01") : hugeData);
         window.checkRow(row);
     }
-    window.call("on_pushButton_SendAll_clicked");
+    window.click("pushButton_SendAll");
     QCOMPARE(boxes.texts(), QStringList{"row: 1 4 instruction length is out of the maximum range, "
                                         "sending errors may occur!"});
     QTRY_COMPARE(port.received(), hex("5AA5020301"));
     boxes.takeTexts();
     window.checkRow(1, false);
-    window.call("on_pushButton_SendAll_clicked");
+    window.click("pushButton_SendAll");
     QCOMPARE(boxes.texts().last(), QString("Not thing to send!"));
 }
 
@@ -276,7 +276,7 @@ void TestSending::sendingNeverWaitsForTheFarEnd()
     // Nobody reads, which may take two seconds to be seen where somebody waits for it.
     QElapsedTimer elapsed;
     elapsed.start();
-    window.call("SendOne");
+    window.sendCurrentRow();
     window.click("pushButton_SendAll");
     QVERIFY(elapsed.elapsed() < 2000);
     QCOMPARE(window.messageCount(), 2);
@@ -319,9 +319,9 @@ void TestSending::theHeaderIsReadForEachFrame()
     window.setRow(0, "03", "0000", "0001");
     window.edit("lineEdit_SBytes_2")->setText("0xAB,0xCD");
     window.edit("lineEdit_SBytes")->setText("0x12,0x34");
-    window.call("SendOne");
+    window.sendCurrentRow();
     window.edit("lineEdit_SBytes")->setText("0x5A,0xA5");
-    window.call("SendOne");
+    window.sendCurrentRow();
     QTRY_COMPARE(port.received(), hex("1234050300000001"
                                       "5AA5050300000001"));
 }
@@ -342,7 +342,7 @@ void TestSending::headerAndLengthAreLeftOutAsTheSettingsSay()
     window.check("checkBox_CRC_EN")->setChecked(true);
     window.setRow(0, "01", "0300", "000001");
     window.checkRow(0);
-    window.call("on_pushButton_SendAll_clicked");
+    window.click("pushButton_SendAll");
     QTRY_COMPARE(port.received(), hex("010300000001840A"));
     QCOMPARE(window.messageCount(), 1);
 }

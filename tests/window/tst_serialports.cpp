@@ -121,7 +121,7 @@ void TestSerialPorts::choosingAnotherPortSwitches()
     QVERIFY(window.looksOpen());
     QVERIFY(next.path().endsWith(window.port()->portName()));
     window.setRow(0, "01", "0300", "01");
-    window.call("SendOne");
+    window.sendCurrentRow();
     QTRY_COMPARE(next.received(), QByteArray::fromHex("5AA50401030001"));
     QCOMPARE(former.received(), QByteArray());
 }
@@ -174,7 +174,7 @@ void TestSerialPorts::linksAreListedBehindTheSystemsPorts()
     }
     QVERIFY(QFile::link("/nowhere", m_ports.filePath("dead")));
     SerialWindow window;
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     const QComboBox *ports = window.combo("comboBox_Comm");
     const int systemPorts = QSerialPortInfo::availablePorts().size();
     QCOMPARE(ports->count(), systemPorts + 2);
@@ -189,20 +189,20 @@ void TestSerialPorts::refreshSelectsTheChosenPortAgain()
     QVERIFY(QFile::link(port.path(), m_ports.filePath("device1")));
     QVERIFY(QFile::link(port.path(), m_ports.filePath("device2")));
     SerialWindow window;
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QComboBox *ports = window.combo("comboBox_Comm");
     const QString chosen = m_ports.absoluteFilePath("device2");
     SerialWindow::pick(ports, ports->findText(chosen));
     QVERIFY(window.looksOpen());
     ports->setCurrentIndex(0);
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QCOMPARE(ports->currentText(), chosen);
     window.click("pushButton_OpenCom");
     ports->setCurrentIndex(0);
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QCOMPARE(ports->currentText(), chosen);
     QVERIFY(m_ports.remove("device2"));
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QCOMPARE(ports->findText(chosen), -1);
     QVERIFY(ports->currentText() != chosen);
 }
@@ -214,8 +214,8 @@ void TestSerialPorts::refreshOpensNothing()
     QVERIFY(m_ports.mkpath("."));
     QVERIFY(QFile::link(port.path(), m_ports.filePath("device")));
     SerialWindow window;
-    window.call("Timer1_Out_Event");
-    window.call("Timer1_Out_Event");
+    window.listPorts();
+    window.listPorts();
     QVERIFY(window.combo("comboBox_Comm")->count() > 0);
     QVERIFY(!window.looksOpen());
     QCOMPARE(boxes.texts(), QStringList());
@@ -227,12 +227,12 @@ void TestSerialPorts::anOpenListShowsWhatCame()
     QVERIFY(m_ports.mkpath("."));
     QVERIFY(QFile::link(port.path(), m_ports.filePath("device1")));
     SerialWindow window;
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QComboBox *ports = window.combo("comboBox_Comm");
     ports->setCurrentIndex(ports->count() - 1);
     ports->showPopup();
     QVERIFY(QFile::link(port.path(), m_ports.filePath("device2")));
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     const QAbstractItemView *list = ports->view();
     const QModelIndex last = ports->model()->index(ports->count() - 1, 0);
     QVERIFY(list->isVisible());
@@ -248,7 +248,7 @@ void TestSerialPorts::aLostPortIsNoLongerListed()
     const QString path = m_ports.absoluteFilePath("device");
     QVERIFY(QFile::link(port.path(), path));
     SerialWindow window;
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QComboBox *ports = window.combo("comboBox_Comm");
     SerialWindow::pick(ports, ports->findText(path));
     QVERIFY(window.looksOpen());
@@ -286,7 +286,7 @@ void TestSerialPorts::aLostPortIsToldOnce()
     }
     port.unplug();
     if (activity == "sending") {
-        window.call("SendOne");
+        window.sendCurrentRow();
     }
     QTRY_VERIFY(!window.looksOpen());
     QTRY_COMPARE(boxes.texts().size(), 1);

@@ -147,7 +147,7 @@ void TestSidePanel::theWheelChoosesNothing()
     QFETCH(int, tab);
     WindowDriver window;
     window.find<QTabWidget>("tabWidget")->setCurrentIndex(tab);
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     QComboBox *box = window.combo(QTest::currentDataTag());
     if (box->count() < 2) {
         box->addItems({"/nowhere/1", "/nowhere/2", "/nowhere/3"});
@@ -244,7 +244,7 @@ void TestSidePanel::theFocusIsOnTheButtonOfAnOpenDevice()
     HidWindow window;
     showActive(window);
     window.combo("comboBox_Hid_Device")->setFocus();
-    window.call("on_pushButton_ConnectHID_clicked");
+    window.click("pushButton_ConnectHID");
     QCOMPARE(window.linkCaption(), QString("Linking..."));
     QCOMPARE(QApplication::focusWidget(), window.button("pushButton_ConnectHID"));
 }
@@ -255,7 +255,7 @@ void TestSidePanel::nothingIsPrintedAtTheStart()
     const QtMessageHandler former = qInstallMessageHandler(notePrinted);
     {
         WindowDriver window;
-        window.call("Timer1_Out_Event");
+        window.listPorts();
     }
     qInstallMessageHandler(former);
     // The offscreen platform says so of every window.

@@ -212,7 +212,7 @@ void TestStatus::aLostDeviceIsTold()
     window.openDevice(statusDevice);
     FakeHid::instance().failWrites();
     window.setRow(0, "01", "0300", "01");
-    window.call("SendOne");
+    window.sendCurrentRow();
     QTRY_COMPARE(window.linkCaption(), QString("Open HID Device"));
     QCOMPARE(told(window, "label_Status_2"),
              "The connection to " + statusDevice + " is lost: it takes nothing any more");

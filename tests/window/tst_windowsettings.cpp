@@ -90,7 +90,7 @@ void TestWindowSettings::withoutAFileTheWindowBeginsWithDefaults()
     QCOMPARE(tabs(window)->currentIndex(), 0);
     window.open(port);
     window.setRow(0, "01", "0300", "00 00 01");
-    window.call("SendOne");
+    window.sendCurrentRow();
     QTRY_COMPARE(port.received(), QByteArray::fromHex("5AA506010300000001"));
     QCOMPARE(boxes.texts(), QStringList());
 }

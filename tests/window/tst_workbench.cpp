@@ -148,9 +148,9 @@ void TestWorkbench::theLogIsSavedWithoutDeviceRows()
     TestPort port;
     window.open(port);
     window.setRow(0, "01", "0300", "000001");
-    window.call("SendOne");
+    window.sendCurrentRow();
     window.records().appendEvent("Uart", "Insert x");
-    window.call("SendOne");
+    window.sendCurrentRow();
     window.click("pushButton_SaveMessage");
     QCOMPARE(contentOf(path),
              QByteArray("1, 5A A5  06  01 0300  00 00 01  \n2, 5A A5  06  01 0300  00 00 01  \n"));
@@ -163,8 +163,8 @@ void TestWorkbench::selectedLogRowsAreCopied()
     window.open(port);
     window.setRow(0, "01", "0300", "000001");
     RecordLog &records = window.records();
-    window.call("SendOne");
-    window.call("SendOne");
+    window.sendCurrentRow();
+    window.sendCurrentRow();
     records.appendReceived(QByteArray::fromHex("5AA5060103000000 02"), false);
     records.appendStray(QByteArray(1, '\0'));
     records.appendEvent("HID", "Insert x");
@@ -207,7 +207,7 @@ void TestWorkbench::theEditorOutlivesItsRow()
     window.setRow(3, "10", "0001", "0001");
     QTableWidget *table = window.commands();
     DirectEditor *editor = openEditor(window, 3);
-    window.call("on_pushButton_ClearCommand_clicked");
+    window.click("pushButton_ClearCommand");
     QTest::mouseClick(editor->findChild<QPushButton *>("pushButton_ok"), Qt::LeftButton);
     for (int row = 0; row < table->rowCount(); ++row) {
         QCOMPARE(table->item(row, CommandColumn::Cmd)->text(), QString());

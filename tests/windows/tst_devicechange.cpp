@@ -82,7 +82,7 @@ void keepPicture(WindowDriver &window)
 void openHid(WindowDriver &window)
 {
     window.find<QTabWidget>("tabWidget")->setCurrentIndex(1);
-    window.call("Timer1_Out_Event");
+    window.listPorts();
     window.click("pushButton_ConnectHID");
     QCOMPARE(window.button("pushButton_ConnectHID")->text(), QString("Linking..."));
 }

@@ -89,7 +89,7 @@ void TestLocalFiles::messagesAreSavedInTheSystemsEncoding()
     WindowDriver window;
     window.open(port);
     window.setRow(0, "03", "0010", "0002");
-    window.call("SendOne");
+    window.sendCurrentRow();
     window.click("pushButton_SaveMessage");
     const QByteArray saved = contentOf(path);
     QVERIFY2(saved.contains("5A A5") && saved.endsWith("\r\n"), saved.constData());
