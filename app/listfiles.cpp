@@ -43,10 +43,10 @@ void ListFiles::noteFolders(Settings &settings) const
 
 void ListFiles::offerLeftBehind()
 {
-    const QString path = m_recovery.leftBehind();
-    if (!path.isEmpty()) {
-        m_status.offer(tr("A command list was not saved when the program ended."), tr("Load it..."),
-                       [this, path] { m_actions.loadCommandsAt(path); });
+    m_leftBehind = m_recovery.leftBehind();
+    if (!m_leftBehind.isEmpty()) {
+        m_status.offer(tr("A command list was not saved when the program ended."),
+                       tr("Load it..."));
     }
 }
 
@@ -57,6 +57,8 @@ FileSources ListFiles::sources() const
 
 void ListFiles::followActions()
 {
+    connect(&m_status, &StatusLine::accepted, this,
+            [this] { m_actions.loadCommandsAt(m_leftBehind); });
     connect(&m_actions, &FileActions::notice, this, &ListFiles::notice);
     connect(&m_actions, &FileActions::told, &m_status, &StatusLine::tell);
     connect(&m_actions, &FileActions::commandsRead, &m_commands, &CommandTable::replaceRows);

@@ -54,4 +54,5 @@ private:
     StatusLine &m_status;
     FileActions m_actions;
     Recovery m_recovery;
+    QString m_leftBehind;
 };

@@ -25,7 +25,7 @@ StatusLine::StatusLine(QList<QLabel *> labels, QObject *parent)
     , m_labels(std::move(labels))
 {
     for (const QLabel *label : std::as_const(m_labels)) {
-        connect(label, &QLabel::linkActivated, this, &StatusLine::runOffer, Qt::QueuedConnection);
+        connect(label, &QLabel::linkActivated, this, &StatusLine::accept, Qt::QueuedConnection);
     }
     show();
 }
@@ -45,22 +45,21 @@ void StatusLine::tell(const QString &text)
     show();
 }
 
-void StatusLine::offer(const QString &text, const QString &linkText, std::function<void()> action)
+void StatusLine::offer(const QString &text, const QString &linkText)
 {
     m_offer = text;
     m_linkText = linkText;
-    m_action = std::move(action);
     show();
 }
 
 void StatusLine::withdrawOffer()
 {
-    offer({}, {}, nullptr);
+    offer({}, {});
 }
 
 void StatusLine::show()
 {
-    const bool hasLink = m_action != nullptr;
+    const bool hasLink = !m_linkText.isEmpty();
     for (QLabel *label : std::as_const(m_labels)) {
         label->setTextFormat(hasLink ? Qt::RichText : Qt::PlainText);
         label->setText(hasLink ? htmlText() : plainText());
@@ -86,12 +85,11 @@ QString StatusLine::htmlText() const
     return lines.join(QLatin1String("<br><br>"));
 }
 
-/// Runs when the label is done with the click, since the action may take the link away.
-void StatusLine::runOffer()
+/// Runs when the label is done with the click, since the link is taken away.
+void StatusLine::accept()
 {
-    const std::function<void()> action = std::exchange(m_action, nullptr);
-    withdrawOffer();
-    if (action) {
-        action();
+    if (!m_linkText.isEmpty()) {
+        withdrawOffer();
+        emit accepted();
     }
 }

@@ -4,8 +4,6 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
-
 class QLabel;
 
 /// What the user is told without being stopped, in labels that all say the same: what is open, the
@@ -25,23 +23,26 @@ public:
     /// Shows the text in place of the one told before; an empty one clears it.
     void tell(const QString &text);
 
-    /// Shows the text and, behind it, a link that runs the action. That ends the offer, as another
-    /// one does.
-    void offer(const QString &text, const QString &linkText, std::function<void()> action);
+    /// Shows the text and, behind it, a link by which the user accepts. That ends the offer, as
+    /// another one does.
+    void offer(const QString &text, const QString &linkText);
 
     /// Ends an offer that the user has not accepted.
     void withdrawOffer();
+
+signals:
+    /// The user has accepted what was offered last.
+    void accepted();
 
 private:
     void show();
     QString plainText() const;
     QString htmlText() const;
-    void runOffer();
+    void accept();
 
     QList<QLabel *> m_labels;
     QString m_link;
     QString m_told;
     QString m_offer;
     QString m_linkText;
-    std::function<void()> m_action;
 };
