@@ -182,7 +182,7 @@ void TestFailingDisk::aFileSystemThatFillsUpEndsItInGoodOrder()
         QSKIP("only root can make a file system");
     }
     Recorder recorder;
-    constexpr qint64 half = 512 * 1024;
+    constexpr qint64 half = qint64(512) * 1024;
     QVERIFY(recordToTheEnd(recorder, planOnDisk(disk.path(), half)));
     QCOMPARE(recorder.status().error, QString("the disk is nearly full"));
     const ReadFile read = readPath(disk.path() + "/run.jsonl");

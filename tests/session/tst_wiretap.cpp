@@ -146,7 +146,7 @@ void TestWireTap::framesAndStrayBytesAreTold()
     QVERIFY(bench.openPortUntold());
     bench.port.send(QByteArray::fromHex("00FF5AA50203105AA501"));
     QTRY_COMPARE(bench.told(), (QStringList{"2 00ff", "1 5aa5020310"}));
-    bench.port.send("\x42");
+    bench.port.send("B");
     QTRY_COMPARE(bench.told().size(), 3);
     QCOMPARE(bench.told().last(), QString("1 5aa50142"));
 }

@@ -337,7 +337,7 @@ void TestLoop::aLoopThatOutrunsTheWireWaits()
     auto *port = window.window().findChild<QSerialPort *>();
     QTRY_VERIFY(port->bytesToWrite() > 0);
     const qint64 waiting = port->bytesToWrite();
-    QVERIFY(waiting <= 2 * StuffedWindow::frameLength);
+    QVERIFY(waiting <= qint64(2) * StuffedWindow::frameLength);
     QElapsedTimer elapsed;
     elapsed.start();
     QTRY_VERIFY(elapsed.hasExpired(200));
@@ -402,7 +402,7 @@ void TestLoop::nothingIsLostWhenTheFarEndReadsAgain()
     }
     QTRY_VERIFY(port->bytesToWrite() > 0);
     window.click("pushButton_Start_Loop");
-    const QByteArray all = window.frames(window.messageCount());
+    const QByteArray all = StuffedWindow::frames(window.messageCount());
     QTRY_COMPARE(window.port.received().size(), all.size());
     QCOMPARE(window.port.received(), all);
 }

@@ -136,6 +136,46 @@ void TestRemoval::cleanup()
     verifyNothingIsOpen();
 }
 
+namespace {
+
+const QStringList quick{"5", "5", "5"};
+
+void row(const char *name, const QStringList &times, const Removal &removal)
+{
+    QTest::newRow(name) << times.at(0) << times.at(1) << times.at(2) << removal << false;
+}
+
+void rowWithoutFrames(const char *name, const Removal &removal)
+{
+    QTest::newRow(name) << quick.at(0) << quick.at(1) << quick.at(2) << removal << true;
+}
+
+/// The device goes while a message is up.
+void addRowsWithMessages()
+{
+    rowWithoutFrames("message of a batch", [](OpenWindow &window) {
+        window.addOverlongRow();
+        pullOutAtMessage([&window] { window.click("pushButton_SendAll_2"); });
+    });
+    rowWithoutFrames("message of a single row", [](OpenWindow &window) {
+        window.setRow(3, "42", "0000", QString("00").repeated(300));
+        pullOutAtMessage([&window] { window.sendCurrentRow(); });
+    });
+    rowWithoutFrames("message at the loop's start", [](OpenWindow &window) {
+        window.addOverlongRow();
+        pullOutAtMessage([&window] { window.startLoop(); });
+    });
+    row("message in the loop", quick, [](OpenWindow &window) {
+        window.setRow(2, "42", "0002", "020");
+        pullOutAtMessage([&window] {
+            window.startLoop();
+            waitUntilClosed();
+        });
+    });
+}
+
+} // namespace
+
 void TestRemoval::removalEndsTheLink_data()
 {
     QTest::addColumn<QString>("interval");
@@ -144,12 +184,6 @@ void TestRemoval::removalEndsTheLink_data()
     QTest::addColumn<Removal>("removal");
     QTest::addColumn<bool>("nothingIsSent");
 
-    const auto row = [](const char *name, const QStringList &times, const Removal &removal,
-                        bool nothingIsSent = false) {
-        QTest::newRow(name) << times.at(0) << times.at(1) << times.at(2) << removal
-                            << nothingIsSent;
-    };
-    const QStringList quick{"5", "5", "5"};
     row("idle", quick, [](OpenWindow & /*window*/) { pullOutSmall(); });
     row("announced by its IDs alone", quick, [](OpenWindow & /*window*/) {
         hid().removeDevice(smallPath);
@@ -166,34 +200,7 @@ void TestRemoval::removalEndsTheLink_data()
         window.click("pushButton_SendAll_2");
         pullOutSmall();
     });
-    row(
-        "message of a batch", quick,
-        [](OpenWindow &window) {
-            window.addOverlongRow();
-            pullOutAtMessage([&window] { window.click("pushButton_SendAll_2"); });
-        },
-        true);
-    row(
-        "message of a single row", quick,
-        [](OpenWindow &window) {
-            window.setRow(3, "42", "0000", QString("00").repeated(300));
-            pullOutAtMessage([&window] { window.sendCurrentRow(); });
-        },
-        true);
-    row(
-        "message at the loop's start", quick,
-        [](OpenWindow &window) {
-            window.addOverlongRow();
-            pullOutAtMessage([&window] { window.startLoop(); });
-        },
-        true);
-    row("message in the loop", quick, [](OpenWindow &window) {
-        window.setRow(2, "42", "0002", "020");
-        pullOutAtMessage([&window] {
-            window.startLoop();
-            waitUntilClosed();
-        });
-    });
+    addRowsWithMessages();
     row("direct editor is open", quick, [](OpenWindow &window) {
         window.window().findChild<RowEditor *>()->open(0);
         pullOutSmall();
