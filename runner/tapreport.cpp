@@ -53,9 +53,8 @@ QByteArray TapReport::row(const RowResult &result)
         text += "  message: " + yamlText(result.why) + '\n';
     }
     if (result.replyTimeNs) {
-        constexpr double nsPerMs = 1e6;
-        text +=
-            "  duration_ms: " + QByteArray::number(double(*result.replyTimeNs) / nsPerMs) + '\n';
+        constexpr double nsInMs = 1e6;
+        text += "  duration_ms: " + QByteArray::number(double(*result.replyTimeNs) / nsInMs) + '\n';
     }
     return text + "  ...\n";
 }
