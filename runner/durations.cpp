@@ -43,6 +43,6 @@ qint64 Durations::highestOf(int place)
         return place;
     }
     const int power = place / parts - 1;
-    const auto next = static_cast<quint64>(place - power * parts + 1);
-    return static_cast<qint64>((next << static_cast<unsigned>(power)) - 1);
+    const qint64 next = place - qint64(power) * parts + 1;
+    return static_cast<qint64>((static_cast<quint64>(next) << static_cast<unsigned>(power)) - 1);
 }

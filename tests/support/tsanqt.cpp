@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QMutex>
 #include <QThread>
+#include <QWaitCondition>
 
 #include <dlfcn.h>
 
@@ -70,6 +71,28 @@ void QMutex::unlock()
     static const auto unlockMutex = original<void (*)(QMutex *)>("_ZN6QMutex6unlockEv");
     __tsan_release(this);
     unlockMutex(this);
+}
+
+bool QWaitCondition::wait(QMutex *mutex, QDeadlineTimer deadline)
+{
+    static const auto waitFor = original<bool (*)(QWaitCondition *, QMutex *, QDeadlineTimer)>(
+        "_ZN14QWaitCondition4waitEP6QMutex14QDeadlineTimer");
+    __tsan_release(mutex);
+    const bool woken = waitFor(this, mutex, deadline);
+    __tsan_acquire(mutex);
+    return woken;
+}
+
+/// A call for another thread is queued inside Qt, too.
+bool QMetaObject::invokeMethodImpl(QObject *object, QtPrivate::QSlotObjectBase *slot,
+                                   Qt::ConnectionType type, void *result)
+{
+    using Invoke = bool (*)(QObject *, QtPrivate::QSlotObjectBase *, Qt::ConnectionType, void *);
+    static const auto invoke = original<Invoke>("_ZN11QMetaObject16invokeMethodImplEP7QObjectPN9"
+                                                "QtPrivate15QSlotObjectBaseEN2Qt14Connection"
+                                                "TypeEPv");
+    __tsan_release(&handedOver);
+    return invoke(object, slot, type, result);
 }
 
 bool QThread::wait(QDeadlineTimer deadline)
