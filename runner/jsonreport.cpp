@@ -15,21 +15,6 @@ QString hexOf(const QByteArray &bytes)
     return QString::fromLatin1(bytes.toHex().toUpper());
 }
 
-QString verdictWord(RowResult::Verdict verdict)
-{
-    switch (verdict) {
-    case RowResult::Verdict::Sent:
-        return QStringLiteral("sent");
-    case RowResult::Verdict::Passed:
-        return QStringLiteral("pass");
-    case RowResult::Verdict::Failed:
-        return QStringLiteral("fail");
-    case RowResult::Verdict::Lost:
-        break;
-    }
-    return QStringLiteral("lost");
-}
-
 QString eventWord(LogRecord::Kind kind)
 {
     switch (kind) {

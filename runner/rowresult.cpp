@@ -1,5 +1,20 @@
 #include "runner/rowresult.h"
 
+QString verdictWord(RowResult::Verdict verdict)
+{
+    switch (verdict) {
+    case RowResult::Verdict::Sent:
+        return QStringLiteral("sent");
+    case RowResult::Verdict::Passed:
+        return QStringLiteral("pass");
+    case RowResult::Verdict::Failed:
+        return QStringLiteral("fail");
+    case RowResult::Verdict::Lost:
+        break;
+    }
+    return QStringLiteral("lost");
+}
+
 QString rowName(const RowResult &result)
 {
     constexpr int digits = 3;

@@ -31,5 +31,8 @@ struct RowResult
     bool isGood() const { return verdict == Verdict::Sent || verdict == Verdict::Passed; }
 };
 
+/// A verdict in one word: "sent", "pass", "fail" or "lost".
+QString verdictWord(RowResult::Verdict verdict);
+
 /// A row as reports name it, "003 Read status".
 QString rowName(const RowResult &result);

@@ -74,26 +74,21 @@ QByteArray TextReport::traffic(const LogRecord &record)
                       .arg(bytesText(record.bytes)));
 }
 
+QString TextReport::shownVerdict(const RowResult &result) const
+{
+    const QString word = verdictWord(result.verdict);
+    if (!result.isGood()) {
+        return coloured(word.toUpper(), red);
+    }
+    return result.verdict == RowResult::Verdict::Passed ? coloured(word, green) : word;
+}
+
 QByteArray TextReport::row(const RowResult &result)
 {
     if (m_detail == Detail::Failures && result.isGood()) {
         return {};
     }
-    QStringList parts;
-    switch (result.verdict) {
-    case RowResult::Verdict::Sent:
-        parts.append(QStringLiteral("sent"));
-        break;
-    case RowResult::Verdict::Passed:
-        parts.append(coloured(QStringLiteral("pass"), green));
-        break;
-    case RowResult::Verdict::Failed:
-        parts.append(coloured(QStringLiteral("FAIL"), red));
-        break;
-    case RowResult::Verdict::Lost:
-        parts.append(coloured(QStringLiteral("LOST"), red));
-        break;
-    }
+    QStringList parts{shownVerdict(result)};
     parts.append(printable(rowName(result)));
     if (!result.why.isEmpty()) {
         parts.append(result.why);

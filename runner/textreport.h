@@ -17,6 +17,7 @@ public:
 
 private:
     QString coloured(const QString &text, int colour) const;
+    QString shownVerdict(const RowResult &result) const;
 
     Detail m_detail;
     bool m_isColoured;

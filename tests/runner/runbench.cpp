@@ -1,31 +1,5 @@
 #include "runbench.h"
 
-namespace {
-
-qint64 benchBegan(const HandClock &clock)
-{
-    static const qint64 began = HandClock().now();
-    Q_UNUSED(clock);
-    return began;
-}
-
-QString verdictText(RowResult::Verdict verdict)
-{
-    switch (verdict) {
-    case RowResult::Verdict::Sent:
-        return QStringLiteral("sent");
-    case RowResult::Verdict::Passed:
-        return QStringLiteral("pass");
-    case RowResult::Verdict::Failed:
-        return QStringLiteral("FAIL");
-    case RowResult::Verdict::Lost:
-        break;
-    }
-    return QStringLiteral("LOST");
-}
-
-} // namespace
-
 void FakeWire::setFormat(const FrameLayout & /*layout*/, int /*gapMs*/)
 {
     ++formats;
@@ -34,7 +8,7 @@ void FakeWire::setFormat(const FrameLayout & /*layout*/, int /*gapMs*/)
 qint64 FakeWire::send(const QByteArray &frame)
 {
     sent.append(frame);
-    times.append(double(m_clock.now() - benchBegan(m_clock)) / double(nsPerMs));
+    times.append(double(m_clock.now() - m_began) / double(nsPerMs));
     return m_clock.now();
 }
 
@@ -93,7 +67,7 @@ QStringList RunBench::verdicts() const
 {
     QStringList texts;
     for (const RowResult &result : results) {
-        texts.append(QStringLiteral("%1 %2").arg(result.number).arg(verdictText(result.verdict)));
+        texts.append(QStringLiteral("%1 %2").arg(result.number).arg(verdictWord(result.verdict)));
     }
     return texts;
 }

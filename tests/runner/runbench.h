@@ -15,6 +15,7 @@ class FakeWire : public Wire
 public:
     explicit FakeWire(HandClock &clock)
         : m_clock(clock)
+        , m_began(clock.now())
     {}
 
     void setFormat(const FrameLayout &layout, int gapMs) override;
@@ -34,6 +35,7 @@ public:
 
 private:
     HandClock &m_clock;
+    qint64 m_began;
 };
 
 /// A run over a wire and a clock that a test moves on.
@@ -52,7 +54,7 @@ public:
     /// Moves the clock on by one ms at a time, and answers each row that was sent so many ms later.
     void advance(int milliseconds);
 
-    /// How the rows' verdicts read: "1 pass", "2 FAIL".
+    /// How the rows' verdicts read: "1 pass", "2 fail".
     QStringList verdicts() const;
 
     HandClock clock;

@@ -50,7 +50,7 @@ void TestRun::rowsAreSentInOrderAndJudged()
     bench.start(twoChecked);
     bench.advance(10);
     QCOMPARE(bench.wire.sent, QVector<QByteArray>({first, second}));
-    QCOMPARE(bench.verdicts(), QStringList({"1 pass", "2 FAIL"}));
+    QCOMPARE(bench.verdicts(), QStringList({"1 pass", "2 fail"}));
     QCOMPARE(bench.results.at(0).description, QString("First"));
     QCOMPARE(bench.results.at(0).sent, first);
     QCOMPARE(bench.results.at(0).replies, QVector<QByteArray>{"\x81"});
@@ -67,7 +67,7 @@ void TestRun::theNextRowWaitsForTheVerdict()
     bench.advance(499);
     QCOMPARE(bench.wire.sent.size(), 1);
     bench.advance(1);
-    QCOMPARE(bench.verdicts(), QStringList{"1 FAIL"});
+    QCOMPARE(bench.verdicts(), QStringList{"1 fail"});
     QCOMPARE(bench.wire.sent.size(), 2);
 }
 
@@ -122,7 +122,7 @@ void TestRun::failFastEndsAtTheFirst()
     bench.answers = {{first, "\x99"}};
     bench.start(twoChecked);
     bench.advance(1000);
-    QCOMPARE(bench.verdicts(), QStringList{"1 FAIL"});
+    QCOMPARE(bench.verdicts(), QStringList{"1 fail"});
     QCOMPARE(bench.wire.sent.size(), 1);
     QVERIFY(bench.end == RunEnd::FailedFast);
 }
@@ -135,7 +135,7 @@ void TestRun::aFailedRowIsSentAgain()
     bench.start(twoChecked);
     bench.advance(2000);
     QCOMPARE(bench.wire.sent, QVector<QByteArray>({first, first, first, second}));
-    QCOMPARE(bench.verdicts(), QStringList({"1 FAIL", "2 pass"}));
+    QCOMPARE(bench.verdicts(), QStringList({"1 fail", "2 pass"}));
     QCOMPARE(bench.results.at(0).attempts, 3);
     QCOMPARE(bench.results.at(1).attempts, 1);
     QCOMPARE(bench.run->summary().failures, qint64(1));
@@ -158,7 +158,7 @@ void TestRun::aLostLinkIsNoFailure()
     bench.start(twoChecked);
     bench.advance(10);
     emit bench.wire.lost("the device is gone");
-    QCOMPARE(bench.verdicts(), QStringList{"1 LOST"});
+    QCOMPARE(bench.verdicts(), QStringList{"1 lost"});
     QCOMPARE(bench.results.at(0).why, QString("the device is gone"));
     QVERIFY(bench.end == RunEnd::LinkLost);
     bench.advance(1000);
@@ -171,7 +171,7 @@ void TestRun::aLinkLostWhileNothingIsOnItsWay()
     bench.start("//@ tarnwick-run 1 interval=100\nOne,select,01 0000\nTwo,select,02 0000\n");
     bench.advance(10);
     emit bench.wire.lost("gone");
-    QCOMPARE(bench.verdicts(), QStringList({"1 sent", "2 LOST"}));
+    QCOMPARE(bench.verdicts(), QStringList({"1 sent", "2 lost"}));
     emit bench.wire.lost("gone once more");
     QCOMPARE(bench.results.size(), 2);
 }
@@ -211,7 +211,7 @@ void TestRun::unexpectedFramesFailOnlyAStrictRun()
     bench.advance(100);
     QStringList expected{"1 pass", "2 pass"};
     if (isStrict) {
-        expected.append("0 FAIL");
+        expected.append("0 fail");
         QCOMPARE(bench.results.last().why, QString("expected nothing, got 53 01 (2 in all)"));
     }
     QCOMPARE(bench.verdicts(), expected);
