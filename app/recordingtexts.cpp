@@ -21,6 +21,11 @@ QString sizeText(qint64 bytes)
     return QLocale::c().formattedDataSize(bytes, digits, QLocale::DataSizeTraditionalFormat);
 }
 
+QString countText(qint64 events)
+{
+    return events == 1 ? inRecordingTexts("1 event") : inRecordingTexts("%1 events").arg(events);
+}
+
 } // namespace
 
 QString describeRecording(const RecordingStatus &status, bool isRecording)
@@ -32,10 +37,10 @@ QString describeRecording(const RecordingStatus &status, bool isRecording)
         parts += inRecordingTexts("Recorded");
     }
     if (status.droppedEvents > 0) {
-        parts += inRecordingTexts("%1 events dropped").arg(status.droppedEvents);
+        parts += inRecordingTexts("%1 dropped").arg(countText(status.droppedEvents));
     }
     parts += sizeText(status.bytes);
-    parts += inRecordingTexts("%1 events").arg(status.events);
+    parts += countText(status.events);
     return parts.join(QLatin1String(", "));
 }
 
@@ -52,7 +57,7 @@ QString describeExport(const CsvExport &outcome, const QString &fileName)
         return inRecordingTexts("%1 was not exported: %2.").arg(name, outcome.error);
     }
     const QString words =
-        inRecordingTexts("%1 events exported to %2.").arg(outcome.events).arg(name);
+        inRecordingTexts("%1 exported to %2.").arg(countText(outcome.events), name);
     return outcome.isTorn ? words + QLatin1Char(' ') +
                                 inRecordingTexts("The recording was cut off within its last event.")
                           : words;
