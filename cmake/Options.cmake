@@ -33,3 +33,8 @@ endif()
 if(TARNWICK_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
+
+# ThreadSanitizer has to be told of Qt, in each program.
+if(TARNWICK_SANITIZE MATCHES thread)
+  set(tsan_sources ${CMAKE_SOURCE_DIR}/tests/support/tsanqt.cpp)
+endif()
