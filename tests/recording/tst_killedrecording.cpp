@@ -35,7 +35,8 @@ void TestKilledRecording::theFileMissesAtMostItsLastSecond()
     QProcess program;
     program.start(RECORDFLOOD, {folder.filePath(name)});
     QVERIFY(program.waitForReadyRead());
-    QTRY_VERIFY(!readPath(folder.filePath(name)).events.isEmpty());
+    constexpr qint64 mostOfItsHead = 1000;
+    QTRY_VERIFY(QFileInfo(folder.filePath(name)).size() > mostOfItsHead);
     // The moment is what is tried here.
     QTest::qWait(ms);
     const ArrivalTime killed = ArrivalTime::now();
