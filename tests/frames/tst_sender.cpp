@@ -1,10 +1,6 @@
-#include "fakeframesettings.h"
-#include "fakelink.h"
 #include "frames/headernotice.h"
-#include "frames/hextext.h"
-#include "frames/sender.h"
+#include "senderbench.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
 class TestSender : public QObject
@@ -27,16 +23,6 @@ private slots:
     void aBadHeaderIsToldOnceForEachAct();
     void aBadHeaderIsToldBeforeTheFrame();
 
-    void allInOneWrite();
-    void allOverAClosedLink();
-    void allOfNothing();
-    void allLeavesOverlongRowsOut();
-    void allOverlong();
-    void allWhoseLinkClosesDuringAMessage();
-    void allReadsTheLayoutForEachRow();
-    void allWithoutStartBytesIsOneLogRow();
-    void allCutsAtStartBytesInPayloads();
-
     void loopPlanChecksNoLink();
     void aTextIsHandedOverAndTold();
     void aBlockIsHandedOverAndTold();
@@ -46,46 +32,9 @@ private slots:
     void linkCanBeExchanged();
 };
 
-namespace {
-
-/// A sender on a fake link, with all it says in one list.
-class Bench
-{
-public:
-    Bench()
-    {
-        sender.setLink(&link);
-        QObject::connect(&sender, &Sender::notice, &sender,
-                         [this](const QString &text) { said.append("message " + text); });
-        link.onWrite = [this] { said.append("handed over"); };
-        QObject::connect(&sender, &Sender::sent, &sender, [this](const QByteArray &frame) {
-            said.append("sent " + formatHexBytes(frame));
-        });
-    }
-
-    FakeFrameSettings settings;
-    FakeLink link;
-    Sender sender{settings};
-    QStringList said;
-};
-
-QString warning(int length)
-{
-    return QStringLiteral("message Instruction length %1 is out of the maximum range,<br> "
-                          "sending errors may occur!")
-        .arg(length);
-}
-
-QString bytes(int count)
-{
-    return QStringLiteral("42").repeated(count);
-}
-
-} // namespace
-
 void TestSender::oneFrame()
 {
-    Bench bench;
+    SenderBench bench;
     bench.sender.sendOne("010203");
     QCOMPARE(bench.link.blocks, QVector<QByteArray>{QByteArray::fromHex("5aa503010203")});
     QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 03 01 02 03 "}));
@@ -93,7 +42,7 @@ void TestSender::oneFrame()
 
 void TestSender::oneWithCrc()
 {
-    Bench bench;
+    SenderBench bench;
     bench.settings.layout.withCrc = true;
     bench.sender.sendOne("010300000001");
     QCOMPARE(bench.said.last(), QString("sent 5A A5 08 01 03 00 00 00 01 84 0A "));
@@ -101,9 +50,9 @@ void TestSender::oneWithCrc()
 
 void TestSender::oneOverAClosedLink()
 {
-    Bench bench;
+    SenderBench bench;
     bench.link.close();
-    bench.sender.sendOne(bytes(70000));
+    bench.sender.sendOne(payloadOf(70000));
     QCOMPARE(bench.said, QStringList{"message closed"});
     QVERIFY(bench.link.blocks.isEmpty());
     QCOMPARE(bench.settings.layoutsRead, 0);
@@ -121,7 +70,7 @@ void TestSender::oneWithNothingToSend_data()
 void TestSender::oneWithNothingToSend()
 {
     QFETCH(QString, text);
-    Bench bench;
+    SenderBench bench;
     bench.sender.sendOne(text);
     QCOMPARE(bench.said, QStringList{"message No thing to send!"});
     QVERIFY(bench.link.blocks.isEmpty());
@@ -133,13 +82,13 @@ void TestSender::oneOfADelayRow_data()
 
     QTest::newRow("pause") << "++1000";
     QTest::newRow("no number") << "++";
-    QTest::newRow("overlong") << "++" + bytes(300);
+    QTest::newRow("overlong") << "++" + payloadOf(300);
 }
 
 void TestSender::oneOfADelayRow()
 {
     QFETCH(QString, text);
-    Bench bench;
+    SenderBench bench;
     bench.link.longest = 255;
     bench.settings.unreadable = QStringLiteral("5A");
     bench.sender.sendOne(text);
@@ -172,30 +121,30 @@ void TestSender::oneTooLong()
     QFETCH(int, payloadBytes);
     QFETCH(bool, withCrc);
     QFETCH(int, warned);
-    Bench bench;
+    SenderBench bench;
     bench.link.longest = longest;
     bench.settings.layout.withCrc = withCrc;
-    bench.sender.sendOne(bytes(payloadBytes));
-    QCOMPARE(bench.said.value(0), warned > 0 ? warning(warned) : QString("handed over"));
+    bench.sender.sendOne(payloadOf(payloadBytes));
+    QCOMPARE(bench.said.value(0), warned > 0 ? lengthWarning(warned) : QString("handed over"));
     QCOMPARE(bench.link.blocks.size(), 1);
     QCOMPARE(bench.link.blocks.at(0).size(), 3 + payloadBytes + (withCrc ? 2 : 0));
 }
 
 void TestSender::warningComesBeforeTheFrame()
 {
-    Bench bench;
+    SenderBench bench;
     bench.link.longest = 1;
     bool warnedFirst = false;
     QObject::connect(&bench.sender, &Sender::notice, &bench.sender,
                      [&] { warnedFirst = bench.link.blocks.isEmpty(); });
     bench.sender.sendOne("0102");
     QVERIFY(warnedFirst);
-    QCOMPARE(bench.said, (QStringList{warning(2), "handed over", "sent 5A A5 02 01 02 "}));
+    QCOMPARE(bench.said, (QStringList{lengthWarning(2), "handed over", "sent 5A A5 02 01 02 "}));
 }
 
 void TestSender::oneWhoseLinkClosesDuringAMessage()
 {
-    Bench bench;
+    SenderBench bench;
     bench.settings.onNextLayout = [&] { bench.link.close(); };
     bench.sender.sendOne("0102");
     QVERIFY(bench.link.blocks.isEmpty());
@@ -204,7 +153,7 @@ void TestSender::oneWhoseLinkClosesDuringAMessage()
 
 void TestSender::oneReadsTheLayoutOnce()
 {
-    Bench bench;
+    SenderBench bench;
     bench.sender.sendOne("0102");
     QCOMPARE(bench.settings.layoutsRead, 1);
     bench.sender.sendOne("012");
@@ -215,7 +164,7 @@ void TestSender::aBadHeaderIsToldOnceForEachAct()
 {
     const QString told = "message Startbytes Length error";
     const QVector<CheckedRow> rows{{1, "01"}, {2, "++5"}, {3, "02"}};
-    Bench bench;
+    SenderBench bench;
     bench.settings.unreadable = QStringLiteral("5A");
     for (int act = 1; act <= 2; ++act) {
         bench.sender.sendOne("01");
@@ -232,7 +181,7 @@ void TestSender::aBadHeaderIsToldOnceForEachAct()
 
 void TestSender::aBadHeaderIsToldBeforeTheFrame()
 {
-    Bench bench;
+    SenderBench bench;
     bench.settings.unreadable = QStringLiteral("5A");
     QObject::connect(&bench.sender, &Sender::notice, &bench.sender, [&] {
         bench.settings.layout.startBytes = StartBytes{0x12, 0x34};
@@ -242,97 +191,12 @@ void TestSender::aBadHeaderIsToldBeforeTheFrame()
              (QStringList{"message Startbytes Length error", "handed over", "sent 5A A5 01 01 "}));
 }
 
-void TestSender::allInOneWrite()
-{
-    Bench bench;
-    bench.sender.sendAll({{1, "01"}, {2, "++5000"}, {4, "0203"}});
-    QCOMPARE(bench.link.blocks, QVector<QByteArray>{QByteArray::fromHex("5aa501015aa5020203")});
-    QCOMPARE(bench.said, (QStringList{"handed over", "sent 5A A5 01 01 ", "sent 5A A5 02 02 03 "}));
-}
-
-void TestSender::allOverAClosedLink()
-{
-    Bench bench;
-    bench.link.close();
-    bench.sender.sendAll({{1, "01"}});
-    QCOMPARE(bench.said, QStringList{"message closed"});
-    QVERIFY(bench.link.blocks.isEmpty());
-    QCOMPARE(bench.settings.layoutsRead, 0);
-}
-
-void TestSender::allOfNothing()
-{
-    const QVector<QVector<CheckedRow>> selections{{}, {{1, "++10"}}, {{1, "012"}, {2, "/"}}};
-    for (const QVector<CheckedRow> &rows : selections) {
-        Bench bench;
-        bench.sender.sendAll(rows);
-        QCOMPARE(bench.said, QStringList{"message Not thing to send!"});
-        QVERIFY(bench.link.blocks.isEmpty());
-    }
-}
-
-void TestSender::allLeavesOverlongRowsOut()
-{
-    Bench bench;
-    bench.sender.sendAll({{2, bytes(65533)}, {3, "01"}, {6, bytes(70000)}});
-    QCOMPARE(bench.said, (QStringList{"message row: 2 6 instruction length is out of the maximum "
-                                      "range, sending errors may occur!",
-                                      "handed over", "sent 5A A5 01 01 "}));
-    QCOMPARE(bench.settings.layoutsRead, 1);
-}
-
-void TestSender::allOverlong()
-{
-    Bench bench;
-    bench.sender.sendAll({{5, bytes(70000)}});
-    QCOMPARE(bench.said, (QStringList{"message row: 5 instruction length is out of the maximum "
-                                      "range, sending errors may occur!",
-                                      "message Not thing to send!"}));
-}
-
-void TestSender::allWhoseLinkClosesDuringAMessage()
-{
-    Bench bench;
-    bench.settings.onNextLayout = [&] { bench.link.close(); };
-    bench.sender.sendAll({{1, "01"}});
-    QVERIFY(bench.link.blocks.isEmpty());
-    QVERIFY(bench.said.isEmpty());
-}
-
-void TestSender::allReadsTheLayoutForEachRow()
-{
-    Bench bench;
-    bench.settings.onNextLayout = [&] {
-        bench.settings.layout.startBytes.first = static_cast<quint8>(bench.settings.layoutsRead);
-    };
-    bench.sender.sendAll({{1, "01"}, {2, "++1"}, {3, "02"}});
-    QCOMPARE(bench.settings.layoutsRead, 2);
-    QCOMPARE(bench.link.blocks, QVector<QByteArray>{QByteArray::fromHex("01a5010102a50102")});
-}
-
-void TestSender::allWithoutStartBytesIsOneLogRow()
-{
-    Bench bench;
-    bench.settings.layout.withStartBytes = false;
-    bench.sender.sendAll({{1, "01"}, {2, "02"}});
-    QCOMPARE(bench.said, (QStringList{"handed over", "sent 01 01 01 02 "}));
-}
-
-void TestSender::allCutsAtStartBytesInPayloads()
-{
-    Bench bench;
-    bench.sender.sendAll({{1, "5AA501"}, {2, "02"}});
-    QCOMPARE(bench.link.blocks.size(), 1);
-    QCOMPARE(bench.said,
-             (QStringList{"handed over", "sent 5A A5 03 ", "sent 5A A5 01 ", "sent 5A A5 01 02 "}));
-}
-
 void TestSender::loopPlanChecksNoLink()
 {
-    Bench bench;
+    SenderBench bench;
     bench.link.close();
     bench.settings.layout.withCrc = true;
-    const LoopPlan plan = bench.sender.planLoop({{1, "010300000001"}, {2, bytes(65531)}});
+    const LoopPlan plan = bench.sender.planLoop({{1, "010300000001"}, {2, payloadOf(65531)}});
     QCOMPARE(plan.overlongRows, QVector<int>{2});
     QCOMPARE(plan.queue.size(), 1);
     QCOMPARE(plan.queue.at(0).block.toHex(' '), QByteArray("5a a5 08 01 03 00 00 00 01 84 0a"));
@@ -341,7 +205,7 @@ void TestSender::loopPlanChecksNoLink()
 
 void TestSender::aTextIsHandedOverAndTold()
 {
-    Bench bench;
+    SenderBench bench;
     HeaderNotice notice;
     const QByteArray frame = bench.sender.handOverText("01", notice);
     QCOMPARE(bench.said, QStringList{"handed over"});
@@ -355,7 +219,7 @@ void TestSender::aTextIsHandedOverAndTold()
 
 void TestSender::aBlockIsHandedOverAndTold()
 {
-    Bench bench;
+    SenderBench bench;
     const QByteArray block = QByteArray::fromHex("5aa501015aa50102");
     QCOMPARE(bench.sender.handOverBlock(block), block);
     QCOMPARE(bench.said, QStringList{"handed over"});
@@ -382,7 +246,7 @@ void TestSender::whatWaitsIsBounded()
 {
     QFETCH(qint64, unsent);
     QFETCH(bool, isTaken);
-    Bench bench;
+    SenderBench bench;
     bench.link.unsent = unsent;
     const QString refusal =
         QString("message Not sent: the device has yet to take %1 bytes.").arg(unsent);
@@ -395,13 +259,13 @@ void TestSender::whatWaitsIsBounded()
     QCOMPARE(bench.link.blocks.size(), isTaken ? 2 : 0);
     // However long, a block that nothing waits before goes.
     bench.link.unsent = 0;
-    bench.sender.sendOne(bytes(1100000));
+    bench.sender.sendOne(payloadOf(1100000));
     QCOMPARE(bench.link.blocks.last().size(), 1100003);
 }
 
 void TestSender::framesHaveTheTimeOfTheirHandover()
 {
-    Bench bench;
+    SenderBench bench;
     qint64 written = 0;
     bench.link.onWrite = [&written] { written = ArrivalTime::now().monotonicNs; };
     QVector<qint64> times;
@@ -418,7 +282,7 @@ void TestSender::framesHaveTheTimeOfTheirHandover()
 
 void TestSender::linkCanBeExchanged()
 {
-    Bench bench;
+    SenderBench bench;
     FakeLink other;
     bench.sender.setLink(&other);
     bench.link.close();

@@ -1,13 +1,9 @@
-#include "links/serial/seriallink.h"
-#include "testport.h"
+#include "serialbench.h"
 
 #include <QSignalSpy>
 #include <QtTest>
 
-#include <functional>
-#include <sys/ioctl.h>
 #include <thread>
-#include <utility>
 
 class TestSerialLink : public QObject
 {
@@ -30,71 +26,9 @@ private slots:
     void lookingForMoreIsAlwaysAllowed();
     void aBusyHandlerLosesNothing_data();
     void aBusyHandlerLosesNothing();
-    void aHandlerMayCloseTheLink();
-    void closingHandsUpWhatWasAnnounced();
-    void closingDropsWhatWasNotAnnounced();
     void dataDuringAWriteAreSignalledAfterIt();
     void writingWhileDataComeInIsNoLoss();
-    void lossIsSignalledOnce();
-    void lossIsSignalledBehindTheLastBytes();
-    void lossIsNotSignalledOfAClosedLink();
-    void aLostLinkOpensAgain();
 };
-
-namespace {
-
-constexpr int longestRead = 4096;
-
-SerialSettings at(const TestPort &port)
-{
-    SerialSettings settings;
-    settings.portName = port.path();
-    return settings;
-}
-
-QByteArray numbered(int bytes)
-{
-    QByteArray data;
-    for (int i = 0; data.size() < bytes; ++i) {
-        data.append(QByteArray::number(i)).append(' ');
-    }
-    return data.left(bytes);
-}
-
-QSerialPort *portOf(const SerialLink &link)
-{
-    return link.findChild<QSerialPort *>();
-}
-
-/// Bytes that have come in and have not been read yet.
-int waitingInTheSystem(const QSerialPort &port)
-{
-    int bytes = 0;
-    ioctl(port.handle(), FIONREAD, &bytes);
-    return bytes;
-}
-
-/// All that a link hands up.
-class Collector : public QObject
-{
-public:
-    explicit Collector(const SerialLink &link)
-    {
-        connect(&link, &SerialLink::arrived, this, [this](const QByteArray &part) {
-            bytes += part;
-            if (++handlers == 1) {
-                whileBusy();
-            }
-        });
-    }
-
-    QByteArray bytes;
-    int handlers = 0;
-    /// Run by the first handler.
-    std::function<void()> whileBusy = [] {};
-};
-
-} // namespace
 
 void TestSerialLink::closedLinkTakesNothing()
 {
@@ -116,7 +50,7 @@ void TestSerialLink::openLinkKnowsItsPort()
 {
     const TestPort port;
     SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     QVERIFY(link.isOpen());
     QCOMPARE(link.openPortName(), port.path());
     link.close();
@@ -156,10 +90,10 @@ void TestSerialLink::aPortIsOpenOnlyOnce()
     const TestPort port;
     SerialLink first(longestRead);
     SerialLink second(longestRead);
-    QVERIFY(first.open(at(port)));
-    QVERIFY(!second.open(at(port)));
+    QVERIFY(first.open(settingsAt(port)));
+    QVERIFY(!second.open(settingsAt(port)));
     first.close();
-    QVERIFY(second.open(at(port)));
+    QVERIFY(second.open(settingsAt(port)));
 }
 
 void TestSerialLink::openingClosesTheOtherPort()
@@ -168,10 +102,10 @@ void TestSerialLink::openingClosesTheOtherPort()
     const TestPort next;
     SerialLink link(longestRead);
     SerialLink other(longestRead);
-    QVERIFY(link.open(at(former)));
-    QVERIFY(link.open(at(next)));
+    QVERIFY(link.open(settingsAt(former)));
+    QVERIFY(link.open(settingsAt(next)));
     QCOMPARE(link.openPortName(), next.path());
-    QVERIFY(other.open(at(former)));
+    QVERIFY(other.open(settingsAt(former)));
 }
 
 void TestSerialLink::lineIsSetAsAsked_data()
@@ -194,7 +128,7 @@ void TestSerialLink::lineIsSetAsAsked()
     QFETCH(bool, twoStopBits);
     const TestPort port;
     SerialLink link(longestRead);
-    SerialSettings settings = at(port);
+    SerialSettings settings = settingsAt(port);
     settings.baudRate = baudRate;
     settings.stopBits = static_cast<QSerialPort::StopBits>(stopBits);
     QVERIFY(link.open(settings));
@@ -206,7 +140,7 @@ void TestSerialLink::blocksArriveInOrder()
 {
     TestPort port;
     SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     QByteArray all;
     for (int i = 0; i < 100; ++i) {
         const QByteArray block = QByteArray::number(i).append(' ');
@@ -223,7 +157,7 @@ void TestSerialLink::aLongBlockArrivesWhole()
 {
     TestPort port;
     SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     const QByteArray block = numbered(200000);
     link.write(block);
     link.write("end");
@@ -236,7 +170,7 @@ void TestSerialLink::oneReadIsBoundedAndNothingIsLost()
     constexpr int bound = 100;
     const TestPort port;
     SerialLink link(bound);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     QByteArray all;
     int longest = 0;
     connect(&link, &SerialLink::arrived, this, [&](const QByteArray &part) {
@@ -254,7 +188,7 @@ void TestSerialLink::nothingStandsStillWhileMoreIsAwaited()
 {
     const TestPort port;
     SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     bool goesOn = false;
     bool wentOnBefore = false;
     connect(portOf(link), &QSerialPort::readyRead, this,
@@ -270,7 +204,7 @@ void TestSerialLink::piecesAreHandedUpTogether()
 {
     const TestPort port;
     SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     QSignalSpy arrived(&link, &SerialLink::arrived);
     qint64 firstReadBy = 0;
     connect(portOf(link), &QSerialPort::readyRead, this, [&] {
@@ -289,7 +223,7 @@ void TestSerialLink::lookingForMoreIsAlwaysAllowed()
 {
     const TestPort port;
     SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     const Collector collector(link);
     const QByteArray sent = numbered(20000);
     QTimer impatience;
@@ -314,7 +248,7 @@ void TestSerialLink::aBusyHandlerLosesNothing()
     QFETCH(int, bytes);
     const TestPort port;
     SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     const QByteArray sent = numbered(bytes);
     Collector collector(link);
     std::thread farEnd;
@@ -332,60 +266,11 @@ void TestSerialLink::aBusyHandlerLosesNothing()
     QCOMPARE(handlersWhileBusy, 1);
 }
 
-void TestSerialLink::aHandlerMayCloseTheLink()
-{
-    const TestPort port;
-    SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
-    Collector collector(link);
-    collector.whileBusy = [&] {
-        port.send("unheard");
-        QTRY_VERIFY(portOf(link)->bytesAvailable() > 0);
-        link.close();
-    };
-    port.send("!");
-    QTRY_COMPARE(collector.bytes, QByteArray("!"));
-    QVERIFY(link.open(at(port)));
-    port.send("?");
-    QTRY_COMPARE(collector.bytes, QByteArray("!?"));
-}
-
-void TestSerialLink::closingHandsUpWhatWasAnnounced()
-{
-    const TestPort port;
-    SerialLink link(longestRead);
-    const Collector collector(link);
-    QVERIFY(link.open(at(port)));
-    QSignalSpy announced(portOf(link), &QSerialPort::readyRead);
-    port.send("announced");
-    connect(portOf(link), &QSerialPort::readyRead, &link, &SerialLink::close, Qt::QueuedConnection);
-    QVERIFY(announced.wait());
-    QTRY_VERIFY(!link.isOpen());
-    QCOMPARE(collector.bytes, QByteArray("announced"));
-}
-
-void TestSerialLink::closingDropsWhatWasNotAnnounced()
-{
-    const TestPort port;
-    SerialLink link(longestRead);
-    const Collector collector(link);
-    QVERIFY(link.open(at(port)));
-    port.send("old");
-    // Without running the event loop, so that the port can't announce it.
-    while (waitingInTheSystem(*portOf(link)) < 3) {
-        std::this_thread::yield();
-    }
-    link.close();
-    QVERIFY(link.open(at(port)));
-    port.send("new");
-    QTRY_COMPARE(collector.bytes, QByteArray("new"));
-}
-
 void TestSerialLink::dataDuringAWriteAreSignalledAfterIt()
 {
     TestPort port;
     SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     QSignalSpy arrived(&link, &SerialLink::arrived);
     port.send("meanwhile");
     const QByteArray block = numbered(100000);
@@ -404,7 +289,7 @@ void TestSerialLink::writingWhileDataComeInIsNoLoss()
     constexpr int rounds = 300;
     TestPort port;
     SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
+    QVERIFY(link.open(settingsAt(port)));
     const QSignalSpy lost(&link, &SerialLink::lost);
     const Collector collector(link);
     for (int round = 1; round <= rounds; ++round) {
@@ -416,67 +301,6 @@ void TestSerialLink::writingWhileDataComeInIsNoLoss()
     QTRY_COMPARE(collector.bytes.size(), 2 * rounds);
     QTRY_COMPARE(port.received().size(), 3 * rounds);
     QCOMPARE(lost.count(), 0);
-}
-
-void TestSerialLink::lossIsSignalledOnce()
-{
-    TestPort port;
-    SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
-    QSignalSpy lost(&link, &SerialLink::lost);
-    port.unplug();
-    QVERIFY(lost.wait());
-    QCOMPARE(lost.at(0).at(0).toString(), QString("the device is gone"));
-    for (int i = 0; i < 100; ++i) {
-        link.write("more");
-        QCoreApplication::processEvents();
-    }
-    QCOMPARE(lost.count(), 1);
-    QCOMPARE(link.openPortName(), port.path());
-}
-
-void TestSerialLink::lossIsSignalledBehindTheLastBytes()
-{
-    TestPort port;
-    SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
-    const Collector collector(link);
-    QByteArray heardBefore;
-    QSignalSpy lost(&link, &SerialLink::lost);
-    connect(&link, &SerialLink::lost, this, [&] { heardBefore = collector.bytes; });
-    connect(portOf(link), &QSerialPort::readyRead, this, [&port] { port.unplug(); });
-    port.send("last words");
-    QVERIFY(lost.wait());
-    QCOMPARE(heardBefore, QByteArray("last words"));
-}
-
-void TestSerialLink::lossIsNotSignalledOfAClosedLink()
-{
-    TestPort port;
-    SerialLink link(longestRead);
-    QVERIFY(link.open(at(port)));
-    QSignalSpy lost(&link, &SerialLink::lost);
-    port.unplug();
-    link.write("into the void");
-    link.close();
-    QCoreApplication::processEvents();
-    QCOMPARE(lost.count(), 0);
-}
-
-void TestSerialLink::aLostLinkOpensAgain()
-{
-    TestPort gone;
-    const TestPort next;
-    SerialLink link(longestRead);
-    QVERIFY(link.open(at(gone)));
-    QSignalSpy lost(&link, &SerialLink::lost);
-    gone.unplug();
-    QVERIFY(lost.wait());
-    QVERIFY(link.open(at(next)));
-    QSignalSpy arrived(&link, &SerialLink::arrived);
-    next.send("hello");
-    QVERIFY(arrived.wait());
-    QCOMPARE(arrived.at(0).at(0).toByteArray(), QByteArray("hello"));
 }
 
 QTEST_GUILESS_MAIN(TestSerialLink)

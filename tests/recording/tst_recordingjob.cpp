@@ -1,7 +1,5 @@
-#include "recording/recordingjob.h"
-#include "recordingsamples.h"
+#include "jobbench.h"
 
-#include <QMap>
 #include <QtTest>
 
 class TestRecordingJob : public QObject
@@ -19,109 +17,8 @@ private slots:
     void aClockThatIsSetBackBeginsNoFile();
     void theNextFileTellsTheLinkOfItsTime();
     void nothingIsOverwritten();
-    void aFileThatCannotBeMadeEndsIt();
-    void aFailedWriteEndsIt();
-    void aFailedSyncEndsIt();
-    void aDiskThatFillsUpEndsItInGoodOrder();
-    void aFullDiskLetsNothingBegin();
-    void aDiskThatDoesNotTellIsEnough();
-    void aFileThatIsGoneEndsIt();
     void dropsAreNotedInTheFile();
-    void nothingIsTakenAfterTheEnd();
 };
-
-namespace {
-
-constexpr qint64 usOfSecond = 1000000;
-
-/// Files in memory, with the faults of a disk.
-class MemorySink : public RecordingSink
-{
-public:
-    Created create(const QString &path) override
-    {
-        if (files.contains(path)) {
-            return Created::NameIsTaken;
-        }
-        if (refusesFiles) {
-            return Created::No;
-        }
-        files.insert(path, {});
-        names.append(path);
-        isOpen = true;
-        return Created::Yes;
-    }
-
-    bool write(const QByteArray &bytes) override
-    {
-        ++writes;
-        if (takesNothing) {
-            return false;
-        }
-        files[names.last()] += bytes;
-        return true;
-    }
-
-    bool sync() override
-    {
-        ++syncs;
-        return !failsToSync;
-    }
-
-    bool isThere() const override { return !isGone; }
-    std::optional<qint64> freeBytes() const override { return free; }
-    void close() override { isOpen = false; }
-    QString error() const override { return "no luck"; }
-
-    ReadFile read(int file) const { return readBytes(files.value(names.at(file))); }
-
-    QMap<QString, QByteArray> files;
-    QStringList names;
-    int writes = 0;
-    int syncs = 0;
-    bool isOpen = false;
-    bool refusesFiles = false;
-    bool takesNothing = false;
-    bool failsToSync = false;
-    bool isGone = false;
-    std::optional<qint64> free = 1LL << 40;
-};
-
-/// A job on such a disk, which has begun at the sample's time.
-class JobBench
-{
-public:
-    explicit JobBench(const QString &path = "/a/run.jsonl")
-    {
-        plan.path = path;
-        plan.head = sampleHead();
-        plan.limits.localTime = [](qint64 utcUs) {
-            return QDateTime::fromMSecsSinceEpoch(utcUs / 1000, Qt::UTC);
-        };
-    }
-
-    RecordingJob &begun()
-    {
-        m_job.emplace(plan, sink).begin(sampleTime());
-        return *m_job;
-    }
-
-    RecordingPlan plan;
-    MemorySink sink;
-
-private:
-    std::optional<RecordingJob> m_job;
-};
-
-RecordEvent frameAt(qint64 us)
-{
-    return sampleEvent(RecordEvent::Kind::Received, "5AA50142", us);
-}
-
-/// Microseconds from the sample's time to midnight: 2 h 15 min 58.876544 s.
-constexpr qint64 toMidnight = ((2 * 60 + 15) * 60 + 58) * usOfSecond + 876544;
-
-} // namespace
 
 void TestRecordingJob::aRecordingIsWhole()
 {
@@ -283,96 +180,6 @@ void TestRecordingJob::nothingIsOverwritten()
     QCOMPARE(bench.sink.files.value("/a/run-002.jsonl"), QByteArray("too"));
 }
 
-void TestRecordingJob::aFileThatCannotBeMadeEndsIt()
-{
-    JobBench bench;
-    bench.sink.refusesFiles = true;
-    RecordingJob job(bench.plan, bench.sink);
-    QVERIFY(!job.begin(sampleTime()));
-    QVERIFY(!job.status().isRunning);
-    QCOMPARE(job.status().error, QString("no luck"));
-    QCOMPARE(bench.sink.writes, 0);
-}
-
-void TestRecordingJob::aFailedWriteEndsIt()
-{
-    JobBench bench;
-    RecordingJob &job = bench.begun();
-    job.take(frameAt(0));
-    job.pass(sampleTime(1));
-    const QByteArray written = bench.sink.files.first();
-    bench.sink.takesNothing = true;
-    job.take(frameAt(2));
-    job.pass(sampleTime(3));
-    QVERIFY(!job.status().isRunning);
-    QCOMPARE(job.status().error, QString("no luck"));
-    QCOMPARE(job.status().bytes, qint64(written.size()));
-    QVERIFY(!bench.sink.isOpen);
-    job.take(frameAt(4));
-    job.pass(sampleTime(5));
-    job.end(sampleTime(6));
-    QCOMPARE(bench.sink.files.first(), written);
-}
-
-void TestRecordingJob::aFailedSyncEndsIt()
-{
-    JobBench bench;
-    bench.sink.failsToSync = true;
-    RecordingJob &job = bench.begun();
-    job.pass(sampleTime(5 * usOfSecond));
-    QVERIFY(!job.status().isRunning);
-    QCOMPARE(job.status().error, QString("no luck"));
-}
-
-void TestRecordingJob::aDiskThatFillsUpEndsItInGoodOrder()
-{
-    JobBench bench;
-    RecordingJob &job = bench.begun();
-    job.take(frameAt(0));
-    bench.sink.free = 200LL * 1024 * 1024;
-    job.pass(sampleTime(usOfSecond));
-    QVERIFY(job.status().isRunning);
-    bench.sink.free = 200LL * 1024 * 1024 - 1;
-    job.pass(sampleTime(2 * usOfSecond - 1));
-    QVERIFY(job.status().isRunning);
-    job.pass(sampleTime(2 * usOfSecond));
-    QVERIFY(!job.status().isRunning);
-    QCOMPARE(job.status().error, QString("the disk is nearly full"));
-    const ReadFile read = bench.sink.read(0);
-    QCOMPARE(read.events.size(), 1);
-    QVERIFY(read.hasTail);
-    QCOMPARE(read.tail.reason, QString("the disk is nearly full"));
-}
-
-void TestRecordingJob::aFullDiskLetsNothingBegin()
-{
-    JobBench bench;
-    bench.sink.free = 1000;
-    const RecordingJob &job = bench.begun();
-    QVERIFY(!job.status().isRunning);
-    QCOMPARE(job.status().error, QString("the disk is nearly full"));
-    QVERIFY(!bench.sink.isOpen);
-}
-
-void TestRecordingJob::aDiskThatDoesNotTellIsEnough()
-{
-    JobBench bench;
-    bench.sink.free.reset();
-    RecordingJob &job = bench.begun();
-    job.pass(sampleTime(usOfSecond));
-    QVERIFY(job.status().isRunning);
-}
-
-void TestRecordingJob::aFileThatIsGoneEndsIt()
-{
-    JobBench bench;
-    RecordingJob &job = bench.begun();
-    bench.sink.isGone = true;
-    job.pass(sampleTime(usOfSecond));
-    QVERIFY(!job.status().isRunning);
-    QCOMPARE(job.status().error, QString("the file is gone"));
-}
-
 void TestRecordingJob::dropsAreNotedInTheFile()
 {
     JobBench bench;
@@ -388,19 +195,6 @@ void TestRecordingJob::dropsAreNotedInTheFile()
     QCOMPARE(read.tail.droppedEvents, qint64(8));
     QCOMPARE(read.tail.droppedBytes, qint64(100));
     QCOMPARE(job.status().droppedBytes, qint64(100));
-}
-
-void TestRecordingJob::nothingIsTakenAfterTheEnd()
-{
-    JobBench bench;
-    RecordingJob &job = bench.begun();
-    job.end(sampleTime(1));
-    const QByteArray file = bench.sink.files.first();
-    job.take(frameAt(2));
-    job.pass(sampleTime(toMidnight));
-    job.end(sampleTime(toMidnight));
-    QCOMPARE(bench.sink.files.size(), 1);
-    QCOMPARE(bench.sink.files.first(), file);
 }
 
 QTEST_APPLESS_MAIN(TestRecordingJob)

@@ -1,8 +1,7 @@
 #include "frames/sendloop.h"
-#include "windowdriver.h"
+#include "loopwindow.h"
 
 #include <QElapsedTimer>
-#include <QScrollBar>
 #include <QtTest>
 
 class TestLoop : public QObject
@@ -22,11 +21,6 @@ private slots:
     void aPassThatFindsNothing();
     void aRowSentMeanwhileDelaysNothing();
     void aLostPortEndsTheLoop();
-    void aLoopThatOutrunsTheWireWaits_data();
-    void aLoopThatOutrunsTheWireWaits();
-    void theLogMovesOnBehindTheFrames();
-    void stopWorksWhileNothingIsTaken();
-    void nothingIsLostWhenTheFarEndReadsAgain();
     void closingTheWindowEndsTheLoop();
 };
 
@@ -55,58 +49,6 @@ QStringList enabledOf(const WindowDriver &window, const QStringList &names)
     }
     return enabled;
 }
-
-/// A window with an open port, two checked rows and a checked delay row between them.
-class LoopWindow : public WindowDriver
-{
-public:
-    LoopWindow(const QString &interval, const QString &cycleDelay, const QString &delay)
-    {
-        open(port);
-        edit("lineEdit_StepValue")->setText(interval);
-        edit("lineEdit_CycleTime")->setText(cycleDelay);
-        setRow(0, "03", "0000", "0001");
-        setRow(1, "++", "", delay);
-        setRow(2, "42", "0002", "0202");
-        for (const int row : {0, 1, 2}) {
-            checkRow(row);
-        }
-    }
-
-    QString loopCaption() const { return button("pushButton_Start_Loop")->text(); }
-
-    TestPort port;
-};
-
-const QByteArray firstFrame = QByteArray::fromHex("5AA5050300000001");
-const QByteArray secondFrame = QByteArray::fromHex("5AA5054200020202");
-
-/// A window whose loop has two long rows and, where a delay is given, a pause between them. Nobody
-/// reads at the far end: what the system takes in is soon full.
-class StuffedWindow : public LoopWindow
-{
-public:
-    StuffedWindow(const QString &interval, const QString &delay)
-        : LoopWindow(interval, "0", delay)
-    {
-        setRow(0, "42", "0000", QString("11").repeated(250));
-        setRow(2, "42", "0002", QString("22").repeated(250));
-        checkRow(1, !delay.isEmpty());
-    }
-
-    static constexpr int frameLength = 256;
-
-    /// As many frames as the loop has sent.
-    static QByteArray frames(int count)
-    {
-        QByteArray all;
-        for (int i = 0; i < count; ++i) {
-            all += QByteArray::fromHex(i % 2 == 0 ? "5AA5FD420000" : "5AA5FD420002");
-            all += QByteArray(250, i % 2 == 0 ? '\x11' : '\x22');
-        }
-        return all;
-    }
-};
 
 } // namespace
 
@@ -315,96 +257,6 @@ void TestLoop::aLostPortEndsTheLoop()
     QVERIFY(boxes.texts().first().contains(window.port.path()));
     window.sendCurrentRow();
     QCOMPARE(boxes.texts().last(), QString("Please open the Com Port!"));
-}
-
-void TestLoop::aLoopThatOutrunsTheWireWaits_data()
-{
-    QTest::addColumn<QString>("interval");
-    QTest::addColumn<QString>("delay");
-
-    QTest::newRow("fast mode") << "0" << QString();
-    QTest::newRow("fast mode with a pause") << "0"
-                                            << "1";
-    QTest::newRow("interval mode") << "1" << QString();
-}
-
-void TestLoop::aLoopThatOutrunsTheWireWaits()
-{
-    QFETCH(QString, interval);
-    QFETCH(QString, delay);
-    StuffedWindow window(interval, delay);
-    window.click("pushButton_Start_Loop");
-    auto *port = window.window().findChild<QSerialPort *>();
-    QTRY_VERIFY(port->bytesToWrite() > 0);
-    const qint64 waiting = port->bytesToWrite();
-    QVERIFY(waiting <= qint64(2) * StuffedWindow::frameLength);
-    QElapsedTimer elapsed;
-    elapsed.start();
-    QTRY_VERIFY(elapsed.hasExpired(200));
-    QCOMPARE(port->bytesToWrite(), waiting);
-    QCOMPARE(window.loopCaption(), QString("Sending..."));
-    const int before = window.port.received().size();
-    QTRY_VERIFY(window.port.received().size() > before + waiting);
-    window.click("pushButton_Start_Loop");
-}
-
-void TestLoop::theLogMovesOnBehindTheFrames()
-{
-    LoopWindow window("2", "0", "1");
-    window.checkRow(1, false);
-    QElapsedTimer elapsed;
-    QVector<qint64> moves;
-    connect(window.messages()->verticalScrollBar(), &QScrollBar::valueChanged, this,
-            [&] { moves.append(elapsed.elapsed()); });
-    elapsed.start();
-    window.click("pushButton_Start_Loop");
-    QTRY_VERIFY(moves.size() >= 5);
-    window.click("pushButton_Start_Loop");
-    // A frame is always near, so that each move has been put off for as long as may be.
-    for (int i = 1; i < moves.size(); ++i) {
-        QVERIFY2(moves.at(i) - moves.at(i - 1) >= 50, qPrintable(QString::number(moves.at(i))));
-    }
-}
-
-void TestLoop::stopWorksWhileNothingIsTaken()
-{
-    StuffedWindow window("10", QString());
-    auto *port = window.window().findChild<QSerialPort *>();
-    QTimer heartbeat;
-    int beats = 0;
-    connect(&heartbeat, &QTimer::timeout, this, [&] { ++beats; });
-    window.click("pushButton_Start_Loop");
-    QTRY_VERIFY(port->bytesToWrite() > 0);
-    // A frame that waits for 2 s, as it may in one go, would leave no room for these.
-    QElapsedTimer elapsed;
-    elapsed.start();
-    heartbeat.start(20);
-    QTRY_VERIFY(elapsed.hasExpired(400));
-    QVERIFY(beats >= 10);
-    const int sent = window.messageCount();
-    window.click("pushButton_Start_Loop");
-    QCOMPARE(window.loopCaption(), QString("Auto Send"));
-    window.port.received();
-    QTRY_COMPARE(port->bytesToWrite(), 0);
-    QTest::qWait(50);
-    QCOMPARE(window.messageCount(), sent);
-    QCOMPARE(window.port.received(), window.frames(sent));
-}
-
-void TestLoop::nothingIsLostWhenTheFarEndReadsAgain()
-{
-    StuffedWindow window("1", QString());
-    auto *port = window.window().findChild<QSerialPort *>();
-    window.click("pushButton_Start_Loop");
-    for (int round = 1; round <= 3; ++round) {
-        QTRY_VERIFY(port->bytesToWrite() > 0);
-        window.port.received();
-    }
-    QTRY_VERIFY(port->bytesToWrite() > 0);
-    window.click("pushButton_Start_Loop");
-    const QByteArray all = StuffedWindow::frames(window.messageCount());
-    QTRY_COMPARE(window.port.received().size(), all.size());
-    QCOMPARE(window.port.received(), all);
 }
 
 void TestLoop::closingTheWindowEndsTheLoop()
