@@ -2,7 +2,7 @@
 
 #include "recording/recordingwriter.h"
 
-/// JSON Lines: one object a line, in UTF-8, each line ended by LF. docs/recording.md has the
+/// JSON Lines: one object a line, in UTF-8, each line ended by LF. docs/guide/recording.md has the
 /// schema.
 class JsonLinesWriter : public RecordingWriter
 {

@@ -3,8 +3,8 @@
 #include "recording/recordingwriter.h"
 
 /// pcapng, link type 250, as network analysers read it. What has no bytes is a packet of the kind
-/// "status change" with a comment; row and description are comments, too. docs/recording.md says
-/// more.
+/// "status change" with a comment; row and description are comments, too. docs/guide/recording.md
+/// says more.
 class PcapngWriter : public RecordingWriter
 {
 public:

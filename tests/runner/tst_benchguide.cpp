@@ -4,7 +4,7 @@
 #include <QProcessEnvironment>
 #include <QtTest>
 
-/// The examples in docs/bench.md, as they stand there.
+/// The examples in docs/guide/bench.md, as they stand there.
 class TestBenchGuide : public QObject
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ namespace {
 /// The first example in that language.
 QByteArray exampleIn(const QByteArray &language)
 {
-    QFile guide(TARNWICK_TREE "/docs/bench.md");
+    QFile guide(TARNWICK_TREE "/docs/guide/bench.md");
     if (!guide.open(QIODevice::ReadOnly)) {
         return {};
     }
