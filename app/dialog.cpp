@@ -10,6 +10,7 @@
 #include "ui_dialog.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QMessageBox>
 
 Dialog::Dialog(QWidget *parent)
@@ -28,6 +29,7 @@ Dialog::Dialog(QWidget *parent)
     , m_messages(*m_form->messageArea, m_session, this)
     , m_files(*this, m_commands.rows(), m_list, m_session.log(), m_status)
     , m_recording(*m_form->recordPanel, m_session, m_status, m_memory, this)
+    , m_helpKey(*this, QCoreApplication::applicationDirPath(), this)
 {
     setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     m_memory.restore();
@@ -124,6 +126,7 @@ void Dialog::setUpNotices()
     connect(&m_session, &Session::notice, this, &Dialog::showMessage);
     connect(&m_links, &LinkPanels::notice, this, &Dialog::showMessage);
     connect(&m_commands, &CommandPanel::notice, this, &Dialog::showMessage);
+    connect(&m_helpKey, &HelpKey::notice, this, &Dialog::showMessage);
     connect(&m_commands.rows(), &CommandTable::insertionRefused, &m_status, &StatusLine::tell);
     connect(&m_form->commandArea->table(), &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
     connect(&m_form->messageArea->table(), &QTableWidget::entered, this, &Dialog::doMouseTrackTip);

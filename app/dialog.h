@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/commandpanel.h"
+#include "app/helpkey.h"
 #include "app/linkpanels.h"
 #include "app/listfiles.h"
 #include "app/liststate.h"
@@ -102,5 +103,6 @@ private:
     MessagePanel m_messages;
     ListFiles m_files;
     RecordControl m_recording;
+    HelpKey m_helpKey;
     bool m_isEnding = false;
 };

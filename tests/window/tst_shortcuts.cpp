@@ -23,6 +23,7 @@ private slots:
     void f5SendsTheCurrentRow_data();
     void f5SendsTheCurrentRow();
     void f5WithoutARowSendsNothing();
+    void f1AsksForTheGuide();
     void toolTipsOfButtonsStay();
 
 private:
@@ -206,6 +207,15 @@ void TestShortcuts::f5WithoutARowSendsNothing()
     commands()->setCurrentCell(-1, -1);
     press(Qt::Key_F5, Qt::NoModifier);
     QCOMPARE(m_window->messageCount(), 0);
+}
+
+void TestShortcuts::f1AsksForTheGuide()
+{
+    commands()->setFocus();
+    MessageBoxes boxes;
+    press(Qt::Key_F1, Qt::NoModifier);
+    QCOMPARE(boxes.titles(), {"Message"});
+    QVERIFY(boxes.texts().first().contains("share/doc/tarnwick/guide/index.html"));
 }
 
 void TestShortcuts::toolTipsOfButtonsStay()
