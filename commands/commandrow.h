@@ -22,6 +22,8 @@ struct CommandRow
     /// What a test run expects as its answer: the lines of a command file that say so, each with
     /// its line end, behind the one that makes them count.
     QString expectations = {};
+    /// Which row of the table it is, for as long as that exists; 0 for one that is in no table.
+    int id = 0;
 };
 
 /// An empty row, as new rows are: its data type is "short".

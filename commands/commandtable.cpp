@@ -22,6 +22,7 @@ namespace {
 
 /// Where the item of a description keeps what the row is to be answered with.
 constexpr int expectationsRole = Qt::UserRole + 1;
+constexpr int idRole = Qt::UserRole + 2;
 
 constexpr int leastRows = 9;
 /// See docs/deliberate.md, Blocked signals.
@@ -85,7 +86,8 @@ void CommandTable::insertDelayRow(int row)
 
 void CommandTable::cloneRow(int row)
 {
-    const CommandRow original = this->row(row);
+    CommandRow original = this->row(row);
+    original.id = 0;
     if (insertEmptyRow(row + 1)) {
         fillRow(row + 1, original);
     }
@@ -147,7 +149,8 @@ CommandRow CommandTable::row(int row) const
             cellText(m_table, row, Column::Crc),
             cellText(m_table, row, Column::DataType),
             cellText(m_table, row, Column::OriginalData),
-            expectationsOf(row)};
+            expectationsOf(row),
+            idOf(row)};
 }
 
 QVector<CommandRow> CommandTable::rows() const
@@ -157,6 +160,16 @@ QVector<CommandRow> CommandTable::rows() const
         all.append(this->row(row));
     }
     return all;
+}
+
+int CommandTable::rowWithId(int id) const
+{
+    for (int row = 0; row < m_table.rowCount(); ++row) {
+        if (id != 0 && idOf(row) == id) {
+            return row;
+        }
+    }
+    return -1;
 }
 
 void CommandTable::setSelected(int row, bool selected)
@@ -177,7 +190,7 @@ CheckedRow CommandTable::currentRow() const
 CheckedRow CommandTable::checkedRow(int row) const
 {
     const CommandRow command = this->row(row);
-    return {row + 1, frameText(command), command.description};
+    return {row + 1, frameText(command), command.description, command.id};
 }
 
 QVector<CheckedRow> CommandTable::checkedRows() const
@@ -284,6 +297,19 @@ void CommandTable::insertFilledRow(int row, const CommandRow &content)
     fillRow(row, content);
 }
 
+int CommandTable::idOf(int row) const
+{
+    const QTableWidgetItem *const item = m_table.item(row, Column::Description);
+    return item != nullptr ? item->data(idRole).toInt() : 0;
+}
+
+/// A row that has come from elsewhere gets an identity of its own.
+void CommandTable::setId(int row, int id)
+{
+    const QSignalBlocker blocker(m_table);
+    m_table.item(row, Column::Description)->setData(idRole, id != 0 ? id : ++m_lastId);
+}
+
 QString CommandTable::expectationsOf(int row) const
 {
     const QTableWidgetItem *const item = m_table.item(row, Column::Description);
@@ -304,6 +330,7 @@ void CommandTable::setExpectations(int row, const QString &expectations)
 void CommandTable::fillRow(int row, const CommandRow &content)
 {
     setCentredItem(m_table, row, Column::Description, content.description);
+    setId(row, content.id);
     setExpectations(row, content.expectations);
     setSelectCell(m_table, row, Column::Select, content.selected, m_window);
     setCentredItem(m_table, row, Column::Cmd, content.cmd);

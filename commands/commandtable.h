@@ -49,6 +49,9 @@ public:
     CommandRow row(int row) const;
     QVector<CommandRow> rows() const;
 
+    /// Where the row with that identity stands now; -1 where it is gone, and for 0.
+    int rowWithId(int id) const;
+
     /// Gives a row a new Select box.
     void setSelected(int row, bool selected);
 
@@ -97,6 +100,8 @@ private:
     void installDelegates();
     void insertFilledRow(int row, const CommandRow &content);
     void fillRow(int row, const CommandRow &content);
+    int idOf(int row) const;
+    void setId(int row, int id);
     QString expectationsOf(int row) const;
     void setExpectations(int row, const QString &expectations);
     void moveByCopy(int from, int to);
@@ -105,4 +110,5 @@ private:
     QTableWidget &m_table;
     QObject *m_window;
     QIcon m_sendIcon;
+    int m_lastId = 0;
 };

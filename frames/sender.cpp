@@ -55,7 +55,7 @@ void Sender::sendOne(const CheckedRow &row)
         emit notice(overlongInstructionWarning(length));
     }
     HeaderNotice header;
-    tellFrame(handOverText(frameText, header, {0, row.number, row.description}));
+    tellFrame(handOverText(frameText, header, partOf(row)));
 }
 
 void Sender::sendAll(const QVector<CheckedRow> &rows)
@@ -92,7 +92,7 @@ QByteArray Sender::handOverText(const QString &frameText, HeaderNotice &header,
         tellNothingToSend();
         return {};
     }
-    return handOverBlock(frame, {{frame.size(), row.row, row.description}});
+    return handOverBlock(frame, {{frame.size(), row.row, row.description, row.rowId}});
 }
 
 QByteArray Sender::handOverBlock(const QByteArray &block, const QVector<BlockPart> &parts)
@@ -110,7 +110,7 @@ void Sender::tellFrame(const QByteArray &frame)
 {
     if (!frame.isEmpty()) {
         emit handedOver(frame, m_handedOverParts, m_handedOver);
-        emit sent(frame, m_handedOver);
+        emit sent(frame, m_handedOver, rowIdAt(m_handedOverParts, 0));
     }
 }
 
@@ -120,8 +120,12 @@ void Sender::tellBlock(const QByteArray &block)
         return;
     }
     emit handedOver(block, m_handedOverParts, m_handedOver);
+    // A listener may send something else.
+    const QVector<BlockPart> parts = m_handedOverParts;
+    int begin = 0;
     for (const QByteArray &frame : splitBlock(block, m_settings.startBytes())) {
-        emit sent(frame, m_handedOver);
+        emit sent(frame, m_handedOver, rowIdAt(parts, begin));
+        begin += frame.size();
     }
 }
 

@@ -63,8 +63,9 @@ signals:
     /// Something the user must be told, emitted before the sender goes on; handlers may block.
     void notice(const QString &text);
 
-    /// One frame that was handed over, and when, for the log.
-    void sent(const QByteArray &frame, ArrivalTime time);
+    /// One frame that was handed over, when, and the identity of its row (0 where it isn't known),
+    /// for the log.
+    void sent(const QByteArray &frame, ArrivalTime time, int rowId);
 
     /// The block that was handed over, and when, for a recording: its frames as they were made, and
     /// their rows. Emitted before the frames are told.

@@ -21,14 +21,14 @@ bool isOverlong(const QString &frameText, bool withCrc)
 void appendPart(QVector<BlockPart> &parts, const QByteArray &frame, const CheckedRow &row)
 {
     if (!frame.isEmpty()) {
-        parts.append({frame.size(), row.number, row.description});
+        parts.append(partOf(row, frame.size()));
     }
 }
 
 void appendText(LoopPlan &plan, const CheckedRow &row)
 {
     plan.texts.append(row.frameText);
-    plan.textRows.append({0, row.number, row.description});
+    plan.textRows.append(partOf(row));
 }
 
 /// Gathers the entries of a loop's queue, counting them against the limit.
@@ -90,6 +90,11 @@ LoopStep queueStep(const QueueEntry &entry)
 }
 
 } // namespace
+
+BlockPart partOf(const CheckedRow &row, int size)
+{
+    return {size, row.number, row.description, row.id};
+}
 
 BatchPlan planBatch(const QVector<CheckedRow> &rows, bool withCrc, const MakeFrame &makeFrame)
 {
@@ -189,4 +194,16 @@ QVector<QByteArray> splitBlock(const QByteArray &block, StartBytes startBytes)
         found = block.indexOf(header, found + bytesToNextFrame);
     }
     return pieces << block.mid(begin);
+}
+
+int rowIdAt(const QVector<BlockPart> &parts, int position)
+{
+    int end = 0;
+    for (const BlockPart &part : parts) {
+        end += part.size;
+        if (position < end) {
+            return part.rowId;
+        }
+    }
+    return 0;
 }

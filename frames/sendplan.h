@@ -10,12 +10,14 @@
 #include <functional>
 
 /// A row that takes part in sending: its number in the table, from 1, its frame text (CMD, Addr and
-/// Data joined, without blanks), and its description.
+/// Data joined, without blanks), its description, and its identity, which stays when it moves.
 struct CheckedRow
 {
     int number = 0;
     QString frameText;
     QString description = {};
+    /// 0 where there is none.
+    int id = 0;
 };
 
 /// One frame of a block: how long it is, in bytes, and the row that it is made of.
@@ -25,7 +27,12 @@ struct BlockPart
     /// From 1; 0 where it isn't known.
     int row = 0;
     QString description = {};
+    /// The row's identity; 0 where it isn't known.
+    int rowId = 0;
 };
+
+/// The part that a row's frame of that many bytes is.
+BlockPart partOf(const CheckedRow &row, int size = 0);
 
 /// Makes the frame of a frame text; empty when there is nothing to send.
 using MakeFrame = std::function<QByteArray(const QString &frameText)>;
@@ -101,3 +108,7 @@ QString overlongRowsMessage(const QVector<int> &rows);
 /// Cuts a block at its frames: at each occurrence of the start bytes. The next one is looked
 /// for from 3 bytes behind the beginning of the previous one on. The pieces together are the block.
 QVector<QByteArray> splitBlock(const QByteArray &block, StartBytes startBytes);
+
+/// The identity of the row whose frame has the byte at that place of the block; 0 where it isn't
+/// known.
+int rowIdAt(const QVector<BlockPart> &parts, int position);

@@ -24,4 +24,6 @@ struct LogRecord
     /// The name of the link that an event happened to, and what happened.
     QString source;
     QString text;
+    /// The identity of the command row that a sent frame was made of; 0 where it isn't known.
+    int rowId = 0;
 };

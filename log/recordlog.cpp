@@ -11,9 +11,9 @@ RecordLog::RecordLog(Clock clock, QObject *parent)
     , m_clock(std::move(clock))
 {}
 
-void RecordLog::appendSent(const QByteArray &frame, bool withCrc, Time time)
+void RecordLog::appendSent(const QByteArray &frame, bool withCrc, Time time, int rowId)
 {
-    appendNumbered({LogRecord::Kind::Sent, 0, 0, 0, frame, withCrc, {}, {}}, time);
+    appendNumbered({LogRecord::Kind::Sent, 0, 0, 0, frame, withCrc, {}, {}, rowId}, time);
 }
 
 void RecordLog::appendReceived(const QByteArray &frame, bool withCrc, Time time)

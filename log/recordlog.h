@@ -30,8 +30,9 @@ public:
     /// Takes the time from another clock than the system's.
     explicit RecordLog(Clock clock, QObject *parent = nullptr);
 
-    /// Records a frame that was given to the system at that time.
-    void appendSent(const QByteArray &frame, bool withCrc, Time time = std::nullopt);
+    /// Records a frame that was given to the system at that time, made of the row with that
+    /// identity.
+    void appendSent(const QByteArray &frame, bool withCrc, Time time = std::nullopt, int rowId = 0);
 
     /// Records a frame that was read from the system at that time.
     void appendReceived(const QByteArray &frame, bool withCrc, Time time = std::nullopt);

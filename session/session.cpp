@@ -62,9 +62,10 @@ void Session::connectLinks()
 
 void Session::connectRecords()
 {
-    connect(&m_sender, &Sender::sent, this, [this](const QByteArray &frame, ArrivalTime time) {
-        m_log.appendSent(frame, m_format.withCrc(), time);
-    });
+    connect(&m_sender, &Sender::sent, this,
+            [this](const QByteArray &frame, ArrivalTime time, int rowId) {
+                m_log.appendSent(frame, m_format.withCrc(), time, rowId);
+            });
     connect(&m_receiver, &Receiver::frameReceived, this,
             [this](const QByteArray &frame, ArrivalTime time) {
                 m_log.appendReceived(frame, m_format.withCrc(), time);

@@ -1,5 +1,6 @@
 #include "tablefixture.h"
 
+#include <QSet>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -26,6 +27,9 @@ private slots:
     void replacedRowsAreFilledUpToNine();
     void manyRowsAreReplaced();
     void missingItemsReadAsEmpty();
+    void aRowIsTheSameWhereverItStands();
+    void copiesAndNewRowsAreOthers();
+    void aRowThatIsPutBackIsTheSame();
     void editedValueIsTakenOver_data();
     void editedValueIsTakenOver();
 };
@@ -193,6 +197,60 @@ void TestRowChanges::missingItemsReadAsEmpty()
     QCOMPARE(texts(f.rows.row(0)), emptyTexts());
     QCOMPARE(texts(f.rows.row(-1)), QStringList({"", "", "", "", "", "", "", ""}));
     QCOMPARE(f.rows.currentFrameText(), QString());
+}
+
+void TestRowChanges::aRowIsTheSameWhereverItStands()
+{
+    TableFixture f(4);
+    const int id = f.rows.row(2).id;
+    QVERIFY(id != 0);
+    QCOMPARE(f.rows.rowWithId(id), 2);
+    f.rows.insertEmptyRow(0);
+    QCOMPARE(f.rows.rowWithId(id), 3);
+    f.rows.moveUp(3);
+    QCOMPARE(f.rows.rowWithId(id), 2);
+    f.rows.moveUp(2);
+    f.rows.moveDown(1);
+    f.rows.moveDown(2);
+    QCOMPARE(f.rows.rowWithId(id), 3);
+    f.table.removeRow(0);
+    f.table.item(2, Column::Description)->setText("other");
+    QCOMPARE(f.rows.rowWithId(id), 2);
+    f.rows.setSelected(2, true);
+    QCOMPARE(f.rows.checkedRows().at(1).id, id);
+    f.table.setCurrentCell(2, Column::Cmd);
+    QCOMPARE(f.rows.currentRow().id, id);
+    f.table.removeRow(2);
+    QCOMPARE(f.rows.rowWithId(id), -1);
+    QCOMPARE(f.rows.rowWithId(0), -1);
+}
+
+void TestRowChanges::copiesAndNewRowsAreOthers()
+{
+    TableFixture f(2);
+    f.rows.cloneRow(0);
+    f.rows.insertDelayRow(0);
+    f.rows.insertEmptyRow(f.rows.rowCount());
+    QSet<int> ids;
+    for (const CommandRow &row : f.rows.rows()) {
+        QVERIFY(row.id != 0);
+        ids.insert(row.id);
+    }
+    QCOMPARE(ids.size(), f.rows.rowCount());
+    f.rows.clear();
+    for (const CommandRow &row : f.rows.rows()) {
+        QVERIFY(!ids.contains(row.id));
+    }
+}
+
+void TestRowChanges::aRowThatIsPutBackIsTheSame()
+{
+    TableFixture f(3);
+    const QVector<CommandRow> before = f.rows.rows();
+    f.rows.clear();
+    QCOMPARE(f.rows.rowWithId(before.at(1).id), -1);
+    f.rows.replaceRows(before);
+    QCOMPARE(f.rows.rowWithId(before.at(1).id), 1);
 }
 
 void TestRowChanges::editedValueIsTakenOver_data()

@@ -29,6 +29,7 @@ private slots:
     void whatWaitsIsBounded_data();
     void whatWaitsIsBounded();
     void framesHaveTheTimeOfTheirHandover();
+    void framesTellWhichRowTheyAreOf();
     void linkCanBeExchanged();
 };
 
@@ -278,6 +279,29 @@ void TestSender::framesHaveTheTimeOfTheirHandover()
     QCOMPARE(times.size(), 2);
     QCOMPARE(times.first(), times.last());
     QVERIFY(before <= times.first() && times.first() <= written);
+}
+
+void TestSender::framesTellWhichRowTheyAreOf()
+{
+    SenderBench bench;
+    QVector<int> ids;
+    connect(&bench.sender, &Sender::sent, this,
+            [&ids](const QByteArray & /*frame*/, ArrivalTime /*time*/, int id) { ids.append(id); });
+    bench.sender.sendOne(CheckedRow{1, "01", {}, 41});
+    bench.sender.sendOne(QString("02"));
+    QCOMPARE(ids, (QVector<int>{41, 0}));
+    ids.clear();
+    // The first payload has start bytes in it, the second is no frame, the third a pause.
+    bench.sender.sendAll(
+        {{1, "035AA5015AA5", {}, 51}, {2, "0", {}, 52}, {3, "++1", {}, 53}, {4, "04", {}, 54}});
+    QCOMPARE(ids, (QVector<int>{51, 51, 51, 54}));
+    ids.clear();
+    const LoopPlan plan = bench.sender.planLoop({{1, "01", {}, 61}, {2, "02", {}, 62}});
+    QCOMPARE(plan.textRows.at(1).rowId, 62);
+    bench.sender.tellBlock(
+        bench.sender.handOverBlock(plan.queue.at(0).block, plan.queue.at(0).parts));
+    bench.sender.tellBlock(bench.sender.handOverBlock(plan.queue.at(0).block));
+    QCOMPARE(ids, (QVector<int>{61, 62, 0, 0}));
 }
 
 void TestSender::linkCanBeExchanged()
