@@ -1,6 +1,7 @@
 #include "app/commandpanel.h"
 
 #include "app/commandarea.h"
+#include "commands/commandcolumns.h"
 
 #include <QTableWidget>
 
@@ -26,6 +27,18 @@ void CommandPanel::showMenu(const QPoint &position)
     if (QMenu *menu = m_actions.menuAt(position)) {
         menu->exec(m_actions.menuPosition());
     }
+}
+
+void CommandPanel::goToRow(int id)
+{
+    const int row = m_rows.rowWithId(id);
+    if (row < 0) {
+        return;
+    }
+    m_table.setFocus(Qt::ShortcutFocusReason);
+    m_table.setCurrentCell(row, CommandColumn::Description,
+                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_table.scrollTo(m_table.currentIndex());
 }
 
 void CommandPanel::takeBackEdited()

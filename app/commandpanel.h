@@ -28,6 +28,10 @@ public:
     /// Shows the menu of the cell at a position in the table's viewport, until it is closed.
     void showMenu(const QPoint &position);
 
+    /// Selects the row with that identity and brings it into view; one that is gone is not looked
+    /// for.
+    void goToRow(int id);
+
     /// Writes what the editor hands back into the row that the last menu was opened on.
     void takeBackEdited();
 

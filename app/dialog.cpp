@@ -118,6 +118,8 @@ void Dialog::setUpCommands()
     connect(&m_commands.editor(), &DirectEditor::SendData, this, &Dialog::editor_dataIn);
     connect(&m_commands.actions(), &RowActions::modified, &m_list, &ListState::setModified);
     m_form->commandArea->follow(m_list);
+    m_messages.menu().setRowCheck([this](int id) { return m_commands.rows().rowWithId(id) >= 0; });
+    connect(&m_messages.menu(), &MessageMenu::rowWanted, &m_commands, &CommandPanel::goToRow);
 }
 
 void Dialog::setUpNotices()

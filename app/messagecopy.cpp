@@ -7,8 +7,9 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QShortcut>
 #include <QTableWidget>
+
+#include <algorithm>
 
 namespace {
 
@@ -28,30 +29,49 @@ QString directionMark(LogRecord::Kind kind)
 
 } // namespace
 
-MessageCopy::MessageCopy(QTableWidget &table, MessageLog &log, const RecordLog &records,
-                         QObject *parent)
-    : QObject(parent)
-    , m_table(table)
+MessageCopy::MessageCopy(QTableWidget &table, MessageLog &log, const RecordLog &records)
+    : m_table(table)
     , m_log(log)
     , m_records(records)
+{}
+
+bool MessageCopy::hasData() const
 {
-    auto *copy = new QShortcut(QKeySequence::Copy, &m_table);
-    copy->setContext(Qt::WidgetShortcut);
-    connect(copy, &QShortcut::activated, this, &MessageCopy::copySelectedRows);
+    const QVector<LogRecord> selected = selectedRecords();
+    return std::any_of(selected.begin(), selected.end(),
+                       [](const LogRecord &record) { return !dataOf(record).isEmpty(); });
 }
 
-void MessageCopy::copySelectedRows()
+void MessageCopy::copyRows() const
 {
-    m_log.bringIn();
-    const QItemSelectionModel &selection = *m_table.selectionModel();
     QString text;
-    for (int row = 0; row < m_records.count(); ++row) {
-        const LogRecord &record = m_records.records().at(row);
-        const QString line =
-            selection.isRowSelected(row, {}) ? messageLine(textsOf(record)) : QString();
+    for (const LogRecord &record : selectedRecords()) {
+        const QString line = messageLine(textsOf(record));
         if (!line.isEmpty()) {
             text += directionMark(record.kind) + line + QLatin1Char('\n');
         }
     }
     QApplication::clipboard()->setText(text);
+}
+
+void MessageCopy::copyData(DataForm form) const
+{
+    QVector<QByteArray> data;
+    for (const LogRecord &record : selectedRecords()) {
+        data.append(dataOf(record));
+    }
+    QApplication::clipboard()->setText(dataText(data, form));
+}
+
+QVector<LogRecord> MessageCopy::selectedRecords() const
+{
+    m_log.bringIn();
+    const QItemSelectionModel &selection = *m_table.selectionModel();
+    QVector<LogRecord> selected;
+    for (int row = 0; row < m_records.count(); ++row) {
+        if (selection.isRowSelected(row, {}) && !m_table.isRowHidden(row)) {
+            selected.append(m_records.records().at(row));
+        }
+    }
+    return selected;
 }

@@ -1,24 +1,35 @@
 #pragma once
 
-#include <QObject>
+#include "log/datatext.h"
+#include "log/logrecord.h"
+
+#include <QVector>
 
 class MessageLog;
 class QTableWidget;
 class RecordLog;
 
-/// The copy key in the message log: puts the selected rows on the clipboard, each as a saved log
-/// would show it, with "TX" or "RX" in front of what was sent or received.
-class MessageCopy : public QObject
+/// Puts selected rows of the message log on the clipboard. Rows that are not shown, since they
+/// don't match what is looked for, are left out.
+class MessageCopy
 {
-    Q_OBJECT
-
 public:
     /// The table is the log's, which shows the records; all must outlive this.
-    MessageCopy(QTableWidget &table, MessageLog &log, const RecordLog &records,
-                QObject *parent = nullptr);
+    MessageCopy(QTableWidget &table, MessageLog &log, const RecordLog &records);
+
+    /// Whether rows are selected, and whether one of them has data.
+    bool hasRows() const { return !selectedRecords().isEmpty(); }
+    bool hasData() const;
+
+    /// The rows, each as a saved log would show it, with "TX" or "RX" in front of what was sent or
+    /// received.
+    void copyRows() const;
+
+    /// What stands in the rows' Data column, in that form.
+    void copyData(DataForm form) const;
 
 private:
-    void copySelectedRows();
+    QVector<LogRecord> selectedRecords() const;
 
     QTableWidget &m_table;
     MessageLog &m_log;

@@ -7,7 +7,7 @@
 MessagePanel::MessagePanel(MessageArea &area, Session &session, QObject *parent)
     : QObject(parent)
     , m_log(area.table(), session.log(), this)
-    , m_copy(area.table(), m_log, session.log(), this)
+    , m_menu(area.table(), m_log, session.log(), this)
 {
     area.follow(m_log);
     m_log.setHold([&session] { return session.loop().isFrameNear(); });

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/messagecopy.h"
+#include "app/messagemenu.h"
 #include "log/messagelog.h"
 
 #include <QObject>
@@ -8,7 +8,7 @@
 class MessageArea;
 class Session;
 
-/// The message log at work: the table of the session's records, and its copy key.
+/// The message log at work: the table of the session's records, its menu and keys.
 class MessagePanel : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,9 @@ public:
     /// Area and session must outlive this. The table waits while a frame of the loop is near.
     MessagePanel(MessageArea &area, Session &session, QObject *parent = nullptr);
 
+    MessageMenu &menu() { return m_menu; }
+
 private:
     MessageLog m_log;
-    MessageCopy m_copy;
+    MessageMenu m_menu;
 };

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/messagecopy.h"
+
+#include <QMenu>
+#include <QObject>
+
+#include <functional>
+#include <optional>
+
+class MessageLog;
+class QTableWidget;
+class RecordLog;
+
+/// The context menu of the message log, which the mouse, the menu key and Shift+F10 open, and the
+/// keys that it shows.
+class MessageMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The table is the log's, which shows the records; all must outlive this.
+    MessageMenu(QTableWidget &table, MessageLog &log, const RecordLog &records,
+                QObject *parent = nullptr);
+
+    /// What tells whether the command row with an identity is still there.
+    void setRowCheck(std::function<bool(int id)> isThere) { m_isThere = std::move(isThere); }
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+signals:
+    /// The command row with that identity is to be shown.
+    void rowWanted(int id);
+
+private:
+    template<typename Reaction>
+    QAction *addEntry(const QString &text, const QKeySequence &key, Reaction reaction);
+    void addCopyEntries();
+    void addKey(const QKeySequence &key, std::function<void()> reaction);
+    void trigger(QAction &entry);
+    void popUp(const QPoint &place);
+    void popUpAtCurrentRow();
+    void refresh();
+    std::optional<LogRecord> currentRecord() const;
+    int rowOfOrigin() const;
+
+    QTableWidget &m_table;
+    MessageLog &m_log;
+    const RecordLog &m_records;
+    MessageCopy m_copy;
+    QMenu m_menu;
+    QAction *m_copyRows = nullptr;
+    QVector<QAction *> m_copyData;
+    QAction *m_goToRow = nullptr;
+    std::function<bool(int id)> m_isThere;
+};
