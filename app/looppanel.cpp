@@ -4,23 +4,42 @@
 #include "app/hidtab.h"
 #include "app/looparea.h"
 #include "app/serialtab.h"
+#include "app/windowmemory.h"
 #include "session/session.h"
 
 #include <QPushButton>
 #include <QTabWidget>
 
+namespace {
+
+constexpr int countEveryMs = 100;
+
+} // namespace
+
 LoopPanel::LoopPanel(const LoopPieces &pieces, QObject *parent)
     : QObject(parent)
     , m_pieces(pieces)
-{}
+{
+    m_nextCount.setSingleShot(true);
+    m_nextCount.setInterval(countEveryMs);
+    connect(&m_nextCount, &QTimer::timeout, this, &LoopPanel::showPass);
+}
 
 void LoopPanel::follow(Session &session)
 {
     const LoopControl &loop = session.loop();
     connect(&loop, &LoopControl::started, this,
             [this, &session] { showRunning(session.links().mode()); });
+    connect(&loop, &LoopControl::passBegan, this, &LoopPanel::notePass);
     connect(&loop, &LoopControl::stopped, this, &LoopPanel::showStopped);
     connect(&loop, &LoopControl::foundNothing, this, &LoopPanel::showNothingToSend);
+}
+
+void LoopPanel::remember(WindowMemory &memory)
+{
+    m_pieces.loop.setRepeat(memory.repeat());
+    connect(&m_pieces.loop, &LoopArea::repeatChanged, this,
+            [&memory](int passes) { memory.setRepeat(passes); });
 }
 
 /// What must not change under a running loop over the link can't be used meanwhile.
@@ -53,6 +72,26 @@ void LoopPanel::setResting(bool resting)
     m_pieces.commands.setResting(resting);
     m_pieces.saveMessages.setDisabled(resting);
     m_pieces.loop.showRunning(resting);
+    m_nextCount.stop();
+    m_pass = 0;
+    m_shownPass = 0;
+}
+
+void LoopPanel::notePass(qint64 pass)
+{
+    m_pass = pass;
+    if (!m_nextCount.isActive()) {
+        showPass();
+    }
+}
+
+void LoopPanel::showPass()
+{
+    if (m_pass != m_shownPass) {
+        m_shownPass = m_pass;
+        m_pieces.loop.showPass(m_pass);
+        m_nextCount.start();
+    }
 }
 
 void LoopPanel::setLinkResting(LinkMode mode, bool resting)

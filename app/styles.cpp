@@ -64,7 +64,7 @@ QTableWidget QLineEdit { padding-left: 2px; border-radius: 0px; }
 QTableWidget QLineEdit:focus { padding-left: 1px; }
 QTableWidget QPushButton { padding: 0px; border: 1px solid transparent; }
 QTableWidget QPushButton:focus { border: 1px solid #006fcf; }
-UnitLineEdit { font-family: Arial; font-size: 16px; }
+UnitLineEdit, #lineEdit_Repeat { font-family: Arial; font-size: 16px; }
 UnitLineEdit QPushButton { padding: 0px; }
 )";
 

@@ -8,9 +8,9 @@
 class QSplitter;
 class QWidget;
 
-/// Remembers from run to run where the window stood, how its splitter divided it, and the folder of
-/// recordings, in a file of its own. A file that can't be read or written is no error: the window
-/// then begins as a new one.
+/// Remembers from run to run where the window stood, how its splitter divided it, and what the user
+/// chose beyond the settings, in a file of its own. A file that can't be read or written is no
+/// error: the window then begins as a new one.
 class WindowMemory : public QObject
 {
     Q_OBJECT
@@ -29,6 +29,10 @@ public:
     /// The folder that recordings were last written to; empty where none was chosen yet.
     QString recordingFolder() const { return m_place.recordings; }
     void setRecordingFolder(const QString &folder) { m_place.recordings = folder; }
+
+    /// How many passes the loop makes; 0 for an endless one.
+    int repeat() const { return m_place.repeat; }
+    void setRepeat(int passes) { m_place.repeat = passes; }
 
     bool eventFilter(QObject *object, QEvent *event) override;
 

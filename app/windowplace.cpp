@@ -5,10 +5,12 @@
 #include <QRegion>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
 constexpr int farthest = 32767;
+constexpr int mostRepeats = std::numeric_limits<int>::max();
 const QByteArray group = "[window]";
 
 /// A title bar and the borders at the other sides, as wide as desktops make them.
@@ -32,11 +34,11 @@ Entries entriesOf(const QByteArray &text)
     return entries;
 }
 
-std::optional<int> numberIn(const QByteArray &text, int least)
+std::optional<int> numberIn(const QByteArray &text, int least, int most = farthest)
 {
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
-    if (!isNumber || number < least || number > farthest) {
+    if (!isNumber || number < least || number > most) {
         return std::nullopt;
     }
     return number;
@@ -92,6 +94,7 @@ WindowPlace parseWindowPlace(const QByteArray &text)
     place.maximized = entries.value("maximized") == "1";
     place.splitter = splitterOf(entries);
     place.recordings = QString::fromUtf8(entries.value("recordings"));
+    place.repeat = numberIn(entries.value("repeat"), 1, mostRepeats).value_or(0);
     return place;
 }
 
@@ -111,6 +114,9 @@ QByteArray formatWindowPlace(const WindowPlace &place)
     // A folder whose name breaks the line, or begins with a blank, would come back as another one.
     if (!recordings.isEmpty() && !recordings.contains('\n') && recordings == recordings.trimmed()) {
         text += "recordings=" + recordings + '\n';
+    }
+    if (place.repeat > 0) {
+        text += entry("repeat", place.repeat);
     }
     return text;
 }

@@ -12,7 +12,7 @@
 constexpr int splitterAreas = 2;
 
 /// What a window remembers: where it stands and how its room is divided, in pixels that are scaled
-/// as the screen asks, and the folder of recordings.
+/// as the screen asks, and choices that are no settings.
 struct WindowPlace
 {
     /// The inside of the window, without its frame, while it is not maximised; null where it is not
@@ -23,6 +23,8 @@ struct WindowPlace
     QList<int> splitter;
     /// The folder of recordings; empty where none was chosen yet.
     QString recordings;
+    /// How many passes the loop makes; 0 for an endless one.
+    int repeat = 0;
 };
 
 /// Reads what formatWindowPlace() wrote. What is missing or makes no sense stays unknown.

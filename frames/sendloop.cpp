@@ -24,6 +24,7 @@ void SendLoop::start(const LoopPlan &plan, LoopTiming timing)
     m_hasRows = !plan.texts.isEmpty();
     m_steps = loopSteps(plan, timing.intervalMs);
     m_cycleDelayMs = timing.cycleDelayMs;
+    m_passes = PassCount(timing.passes);
     m_headerNotice = {};
     m_running = true;
     m_deadlines.meet(m_clock.now());
@@ -54,7 +55,13 @@ void SendLoop::runPass()
     m_deadlines.meet(m_clock.now());
     m_nextStep = 0;
     m_inPass = true;
+    m_passes.begin();
+    const unsigned stops = m_stops;
+    const qint64 pass = m_passes.current();
     goOn();
+    if (stops == m_stops) {
+        emit passBegan(pass);
+    }
 }
 
 bool SendLoop::isDueWithin(int milliseconds) const
@@ -144,6 +151,11 @@ void SendLoop::send(const LoopStep &step)
 void SendLoop::endPass()
 {
     m_inPass = false;
+    if (m_passes.isLast()) {
+        stop();
+        emit finished();
+        return;
+    }
     m_deadlines.meet(m_clock.now());
     m_deadlines.wait(m_cycleDelayMs);
     m_clock.setAlarm(m_deadlines.due());

@@ -2,6 +2,7 @@
 
 #include "frames/deadlineplan.h"
 #include "frames/headernotice.h"
+#include "frames/passcount.h"
 #include "frames/sendplan.h"
 
 #include <QObject>
@@ -9,17 +10,19 @@
 class AlarmClock;
 class Sender;
 
-/// What passes between frames, and between passes, in ms.
+/// What passes between frames, and between passes, in ms, and how many passes there are.
 struct LoopTiming
 {
     int intervalMs = 0;
     int cycleDelayMs = 0;
+    int passes = PassCount::endless;
 };
 
 /// The auto-send loop: one pass after the other over a plan taken when it was started.
 ///
 /// With an interval each row is sent by itself and followed by the interval; without one the plan's
-/// prepared blocks go out as fast as the link takes them. Pauses of delay rows run in both. Only
+/// prepared blocks go out as fast as the link takes them. Pauses of delay rows run in both. A pass
+/// ends with its last interval or pause, and the loop with its last pass, if it has one. Only
 /// the loop's own frames count for its deadlines. Waiting, also for a link that is behind, is done
 /// by the clock's alarm: nothing blocks, and a stop is just another event.
 class SendLoop : public QObject
@@ -52,6 +55,12 @@ signals:
     /// The next pass is due: who owns the loop runs it.
     void passDue();
 
+    /// That pass has begun, from 1; told when what it begins with is out.
+    void passBegan(qint64 pass);
+
+    /// The last pass is over; the loop is stopped.
+    void finished();
+
     /// A pass found no rows; the loop is stopped.
     void foundNothing();
 
@@ -68,6 +77,7 @@ private:
     AlarmClock &m_clock;
     QVector<LoopStep> m_steps;
     int m_cycleDelayMs = 0;
+    PassCount m_passes;
     HeaderNotice m_headerNotice;
     DeadlinePlan m_deadlines;
     bool m_hasRows = false;

@@ -34,6 +34,8 @@ void Run::start()
         end(RunEnd::Done);
         return;
     }
+    m_passes = PassCount(m_plan.rules.passes);
+    m_passes.begin();
     m_pace.begin(m_clock.now());
     schedule();
 }
@@ -84,7 +86,7 @@ bool Run::reachRow()
         }
         if (m_row == 0 && m_attempts == 0) {
             m_wire.setFormat(file().layout, file().gapMs);
-            emit fileBegan(m_file, m_pass);
+            emit fileBegan(m_file, pass());
         }
         if (!row().isPause()) {
             return true;
@@ -104,7 +106,11 @@ bool Run::enterFile()
     }
     m_file = 0;
     m_pace.pause(m_overNs, cycleDelayMs);
-    return m_pass++ != m_plan.rules.passes;
+    if (m_passes.isLast()) {
+        return false;
+    }
+    m_passes.begin();
+    return true;
 }
 
 void Run::schedule()
@@ -191,7 +197,7 @@ RowResult Run::currentResult() const
     RowResult result;
     result.number = row().number;
     result.description = row().description;
-    result.pass = m_pass;
+    result.pass = pass();
     result.verdict = m_trial->hasFailed()          ? Verdict::Failed
                      : row().expectation.isEmpty() ? Verdict::Sent
                                                    : Verdict::Passed;
@@ -234,7 +240,7 @@ void Run::lose(const QString &reason)
         RowResult result;
         result.number = row().number;
         result.description = row().description;
-        result.pass = m_pass;
+        result.pass = pass();
         result.verdict = RowResult::Verdict::Lost;
         result.why = reason;
         result.attempts = m_attempts;
@@ -258,7 +264,7 @@ void Run::judgeUnexpected()
     }
     RowResult result;
     result.description = QStringLiteral("Nothing between the rows");
-    result.pass = m_pass;
+    result.pass = pass();
     result.verdict = RowResult::Verdict::Failed;
     result.why = QStringLiteral("expected nothing, got %1 (%2 in all)")
                      .arg(bytesText(m_unexpected))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frames/passcount.h"
 #include "runner/pace.h"
 #include "runner/rowresult.h"
 #include "runner/rowtrial.h"
@@ -59,6 +60,7 @@ private:
     void judgeUnexpected();
     void drain();
 
+    int pass() const { return int(m_passes.current()); }
     const FilePlan &file() const { return m_plan.files.at(m_file); }
     const PlannedRow &row() const { return file().rows.at(m_row); }
 
@@ -66,7 +68,7 @@ private:
     Wire &m_wire;
     AlarmClock &m_clock;
     Stage m_stage = Stage::Idle;
-    int m_pass = 1;
+    PassCount m_passes;
     int m_file = 0;
     int m_row = 0;
     Pace m_pace;

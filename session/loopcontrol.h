@@ -40,7 +40,10 @@ signals:
     /// A pass is about to begin, the first one or the next. Who stops the loop now prevents it.
     void passDue();
 
-    /// The loop was stopped.
+    /// That pass has begun, from 1; its first frames are out.
+    void passBegan(qint64 pass);
+
+    /// The loop was stopped, or its last pass is over.
     void stopped();
 
     /// The loop has stopped by itself, since it has no rows.

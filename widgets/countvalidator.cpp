@@ -19,7 +19,11 @@ QLocale plainLocale()
 } // namespace
 
 CountValidator::CountValidator(int top, QObject *parent)
-    : QIntValidator(0, top, parent)
+    : CountValidator(0, top, parent)
+{}
+
+CountValidator::CountValidator(int bottom, int top, QObject *parent)
+    : QIntValidator(bottom, top, parent)
 {
     setLocale(plainLocale());
 }
@@ -32,5 +36,9 @@ QValidator::State CountValidator::validate(QString &text, int & /*position*/) co
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     const bool isPlain = std::all_of(text.cbegin(), text.cend(), isPlainDigit);
-    return isPlain && isNumber && number <= top() ? Acceptable : Invalid;
+    const bool isPadded = bottom() > 0 && text.startsWith(QLatin1Char('0'));
+    if (!isPlain || !isNumber || number > top() || isPadded) {
+        return Invalid;
+    }
+    return number < bottom() ? Intermediate : Acceptable;
 }

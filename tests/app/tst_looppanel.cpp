@@ -35,9 +35,13 @@ namespace {
 
 const QByteArray loopDevice = "fake#VID_EEEF&PID_1616#1";
 
-const QStringList restingWithAnyLink{"lineEdit_StepValue",      "lineEdit_CycleTime",
-                                     "pushButton_LoadCommand",  "pushButton_SaveCommand",
-                                     "pushButton_ClearCommand", "saveMessages"};
+const QStringList restingWithAnyLink{"lineEdit_StepValue",
+                                     "lineEdit_CycleTime",
+                                     "lineEdit_Repeat",
+                                     "pushButton_LoadCommand",
+                                     "pushButton_SaveCommand",
+                                     "pushButton_ClearCommand",
+                                     "saveMessages"};
 const QStringList restingOfSerial{"pushButton_OpenCom", "pushButton_SendAll", "checkBox_CRC_EN",
                                   "lineEdit_SBytes"};
 const QStringList restingOfHid{"pushButton_ConnectHID", "pushButton_SendAll_2", "checkBox_CRC_EN_2",

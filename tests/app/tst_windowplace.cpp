@@ -48,7 +48,8 @@ void TestWindowPlace::whatIsWrittenIsRead_data()
     QTest::newRow("splitter") << place(inside, false, {410, 250});
     WindowPlace recording = place(inside);
     recording.recordings = QString::fromUtf8("/home/me/a = b/\u6E29");
-    QTest::newRow("folder of recordings") << recording;
+    recording.repeat = 99999;
+    QTest::newRow("choices") << recording;
     QTest::newRow("splitter alone") << place({}, true, {1, 700});
 }
 
@@ -60,6 +61,7 @@ void TestWindowPlace::whatIsWrittenIsRead()
     QCOMPARE(read.maximized, written.maximized);
     QCOMPARE(read.splitter, written.splitter);
     QCOMPARE(read.recordings, written.recordings);
+    QCOMPARE(read.repeat, written.repeat);
 }
 
 void TestWindowPlace::theFileIsPlain()
@@ -89,6 +91,9 @@ void TestWindowPlace::whatMakesNoSenseIsUnknown_data()
     QTest::newRow("half a splitter") << QByteArray("[window]\nsplitter=410\n");
     QTest::newRow("three areas") << QByteArray("[window]\nsplitter=410,250,9\n");
     QTest::newRow("an area without height") << QByteArray("[window]\nsplitter=0,250\n");
+    QTest::newRow("no pass") << QByteArray("[window]\nrepeat=0\n");
+    QTest::newRow("fewer passes than none") << QByteArray("[window]\nrepeat=-1\n");
+    QTest::newRow("too many passes") << QByteArray("[window]\nrepeat=99999999999\n");
 }
 
 void TestWindowPlace::whatMakesNoSenseIsUnknown()
@@ -98,6 +103,7 @@ void TestWindowPlace::whatMakesNoSenseIsUnknown()
     QVERIFY(read.inside.isNull());
     QVERIFY(!read.maximized);
     QCOMPARE(read.splitter, QList<int>());
+    QCOMPARE(read.repeat, 0);
 }
 
 void TestWindowPlace::foreignLinesAreNoHarm()

@@ -12,6 +12,7 @@ class TestLoopControl : public QObject
 
 private slots:
     void passesRunByThemselves();
+    void theLastPassStopsIt();
     void aStopBeforeAPassPreventsIt();
     void aStopIsToldOnce();
     void theLinkMustBeOpen();
@@ -64,6 +65,19 @@ void TestLoopControl::passesRunByThemselves()
     QVERIFY(bench.loop.isRunning());
     QTRY_VERIFY(bench.link.blocks.size() >= 6);
     QCOMPARE(bench.said, QStringList{"started"});
+}
+
+void TestLoopControl::theLastPassStopsIt()
+{
+    Bench bench;
+    QVector<qint64> passes;
+    connect(&bench.loop, &LoopControl::passBegan, &bench.loop,
+            [&passes](qint64 pass) { passes.append(pass); });
+    bench.loop.start(rows(2, "0310"), {1, 0, 3});
+    QTRY_VERIFY(!bench.loop.isRunning());
+    QCOMPARE(bench.link.blocks.size(), 6);
+    QCOMPARE(bench.said, (QStringList{"started", "stopped"}));
+    QCOMPARE(passes, (QVector<qint64>{1, 2, 3}));
 }
 
 void TestLoopControl::aStopBeforeAPassPreventsIt()

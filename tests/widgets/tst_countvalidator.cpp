@@ -12,6 +12,8 @@ private slots:
     void isAnIntValidatorFromZero();
     void judgesTexts_data();
     void judgesTexts();
+    void fromABottomOn_data();
+    void fromABottomOn();
     void separatorsAreRefusedInEveryLocale_data();
     void separatorsAreRefusedInEveryLocale();
 };
@@ -54,6 +56,30 @@ void TestCountValidator::judgesTexts()
     QFETCH(QString, text);
     int position = 0;
     QTEST(CountValidator(10000).validate(text, position), "state");
+}
+
+void TestCountValidator::fromABottomOn_data()
+{
+    QTest::addColumn<int>("bottom");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QValidator::State>("state");
+
+    QTest::newRow("nothing yet") << 1 << "" << QValidator::Intermediate;
+    QTest::newRow("zero") << 1 << "0" << QValidator::Invalid;
+    QTest::newRow("leading zero") << 1 << "05" << QValidator::Invalid;
+    QTest::newRow("bottom") << 1 << "1" << QValidator::Acceptable;
+    QTest::newRow("top") << 1 << "500" << QValidator::Acceptable;
+    QTest::newRow("one above") << 1 << "501" << QValidator::Invalid;
+    QTest::newRow("below") << 20 << "5" << QValidator::Intermediate;
+    QTest::newRow("higher bottom") << 20 << "20" << QValidator::Acceptable;
+}
+
+void TestCountValidator::fromABottomOn()
+{
+    QFETCH(int, bottom);
+    QFETCH(QString, text);
+    int position = 0;
+    QTEST(CountValidator(bottom, 500).validate(text, position), "state");
 }
 
 void TestCountValidator::separatorsAreRefusedInEveryLocale_data()

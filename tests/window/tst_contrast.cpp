@@ -407,7 +407,7 @@ void TestContrast::edgesAreSeen_data()
 
     for (const char *name :
          {"lineEdit_SBytes", "comboBox_Comm", "comboBox_Parity", "pushButton_SendAll",
-          "lineEdit_StepValue", "lineEdit_CycleTime", "pushButton_ClearMessage",
+          "lineEdit_StepValue", "lineEdit_CycleTime", "lineEdit_Repeat", "pushButton_ClearMessage",
           "pushButton_SaveMessage", "pushButton_LoadCommand", "pushButton_SaveCommand",
           "pushButton_ClearCommand"}) {
         QTest::newRow(name) << 0;

@@ -26,17 +26,11 @@ private slots:
 
 namespace {
 
-const QStringList restingWidgets{"pushButton_LoadCommand",
-                                 "pushButton_ClearCommand",
-                                 "pushButton_SaveCommand",
-                                 "pushButton_SaveMessage",
-                                 "pushButton_OpenCom",
-                                 "pushButton_SendAll",
-                                 "checkBox_CRC_EN",
-                                 "lineEdit_SBytes",
-                                 "lineEdit_StepValue",
-                                 "lineEdit_CycleTime",
-                                 "tabWidget"};
+const QStringList restingWidgets{
+    "pushButton_LoadCommand", "pushButton_ClearCommand", "pushButton_SaveCommand",
+    "pushButton_SaveMessage", "pushButton_OpenCom",      "pushButton_SendAll",
+    "checkBox_CRC_EN",        "lineEdit_SBytes",         "lineEdit_StepValue",
+    "lineEdit_CycleTime",     "lineEdit_Repeat",         "tabWidget"};
 
 /// Of the widgets, those that are enabled.
 QStringList enabledOf(const WindowDriver &window, const QStringList &names)

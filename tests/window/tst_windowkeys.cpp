@@ -21,6 +21,7 @@ void TestWindowKeys::enterInAFieldPressesNoButton_data()
     QTest::newRow("lineEdit_SBytes_2") << 1;
     QTest::newRow("lineEdit_StepValue") << 0;
     QTest::newRow("lineEdit_CycleTime") << 0;
+    QTest::newRow("lineEdit_Repeat") << 0;
 }
 
 void TestWindowKeys::enterInAFieldPressesNoButton()

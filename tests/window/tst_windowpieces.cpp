@@ -100,6 +100,10 @@ const Piece piecesOfTheWindow[] = {
     {"lineEdit_StepValue", "UnitLineEdit", "loopArea", "1000"},
     {"label_CycleTime", "QLabel", "loopArea", "Cycle Delay:"},
     {"lineEdit_CycleTime", "UnitLineEdit", "loopArea", "1000"},
+    {"label_Repeat", "QLabel", "loopArea", "Repeat:"},
+    {"repeatPlace", "QStackedWidget", "loopArea", ""},
+    {"lineEdit_Repeat", "QLineEdit", "repeatPlace", ""},
+    {"label_Passes", "QLabel", "repeatPlace", ""},
     {"pushButton_Start_Loop", "QPushButton", "loopArea", "Auto Send"},
     {"pushButton_ClearMessage", "QPushButton", "", "Clear Message"},
     {"pushButton_SaveMessage", "QPushButton", "", "Save Message"},
@@ -178,6 +182,7 @@ void TestWindowPieces::labelsNameTheFieldBesideThem_data()
     QTest::newRow("label_CRC_EN_2") << "checkBox_CRC_EN_2";
     QTest::newRow("label_StepValue") << "lineEdit_StepValue";
     QTest::newRow("label_CycleTime") << "lineEdit_CycleTime";
+    QTest::newRow("label_Repeat") << "lineEdit_Repeat";
 }
 
 void TestWindowPieces::labelsNameTheFieldBesideThem()
@@ -303,7 +308,7 @@ void TestWindowPieces::theTabKeyVisitsThePieces()
                  QStringList({"pushButton_Record", "pushButton_Export", "pushButton_LoadCommand",
                               "pushButton_SaveCommand", "pushButton_ClearCommand",
                               "tableWidget_Register", "tableWidget_Message", "lineEdit_StepValue",
-                              "lineEdit_CycleTime", "pushButton_Start_Loop",
+                              "lineEdit_CycleTime", "lineEdit_Repeat", "pushButton_Start_Loop",
                               "pushButton_ClearMessage", "pushButton_SaveMessage"}));
 }
 
