@@ -1,3 +1,4 @@
+#include "markdown.h"
 #include "ranprogram.h"
 
 #include <QFileInfo>
@@ -21,14 +22,7 @@ namespace {
 /// The first example in that language.
 QByteArray exampleIn(const QByteArray &language)
 {
-    QFile guide(TARNWICK_TREE "/docs/guide/bench.md");
-    if (!guide.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    const QByteArray text = guide.readAll();
-    const QByteArray mark = "```" + language + '\n';
-    const int begin = text.indexOf(mark) + mark.size();
-    return text.mid(begin, text.indexOf("```", begin) - begin);
+    return firstBlockIn(guidePageText("bench.md"), language);
 }
 
 } // namespace
