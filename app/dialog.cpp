@@ -33,6 +33,7 @@ Dialog::Dialog(QWidget *parent)
 {
     setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     m_memory.restore();
+    m_messages.setShownTime(m_memory.shownTime());
     setUpCommands();
     setUpNotices();
     setUpSession();
@@ -78,6 +79,7 @@ void Dialog::keepForNextStart()
 void Dialog::saveSettings()
 {
     m_settings.save(m_session, m_files);
+    m_memory.setShownTime(m_messages.shownTime());
     m_memory.save();
 }
 

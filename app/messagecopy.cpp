@@ -4,6 +4,7 @@
 #include "log/logtexts.h"
 #include "log/messagelog.h"
 #include "log/recordlog.h"
+#include "log/timecolumn.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -37,18 +38,20 @@ MessageCopy::MessageCopy(QTableWidget &table, MessageLog &log, const RecordLog &
 
 bool MessageCopy::hasData() const
 {
-    const QVector<LogRecord> selected = selectedRecords();
-    return std::any_of(selected.begin(), selected.end(),
-                       [](const LogRecord &record) { return !dataOf(record).isEmpty(); });
+    const QVector<int> rows = selectedRows();
+    return std::any_of(rows.begin(), rows.end(),
+                       [this](int row) { return !dataOf(m_records.records().at(row)).isEmpty(); });
 }
 
 void MessageCopy::copyRows() const
 {
     QString text;
-    for (const LogRecord &record : selectedRecords()) {
+    for (const int row : selectedRows()) {
+        const LogRecord &record = m_records.records().at(row);
         const QString line = messageLine(textsOf(record));
         if (!line.isEmpty()) {
-            text += directionMark(record.kind) + line + QLatin1Char('\n');
+            text += directionMark(record.kind) + line +
+                    copiedTimeText(rowTimeOf(m_records.records(), row)) + QLatin1Char('\n');
         }
     }
     QApplication::clipboard()->setText(text);
@@ -57,20 +60,20 @@ void MessageCopy::copyRows() const
 void MessageCopy::copyData(DataForm form) const
 {
     QVector<QByteArray> data;
-    for (const LogRecord &record : selectedRecords()) {
-        data.append(dataOf(record));
+    for (const int row : selectedRows()) {
+        data.append(dataOf(m_records.records().at(row)));
     }
     QApplication::clipboard()->setText(dataText(data, form));
 }
 
-QVector<LogRecord> MessageCopy::selectedRecords() const
+QVector<int> MessageCopy::selectedRows() const
 {
     m_log.bringIn();
     const QItemSelectionModel &selection = *m_table.selectionModel();
-    QVector<LogRecord> selected;
+    QVector<int> selected;
     for (int row = 0; row < m_records.count(); ++row) {
         if (selection.isRowSelected(row, {}) && !m_table.isRowHidden(row)) {
-            selected.append(m_records.records().at(row));
+            selected.append(row);
         }
     }
     return selected;

@@ -18,18 +18,18 @@ public:
     MessageCopy(QTableWidget &table, MessageLog &log, const RecordLog &records);
 
     /// Whether rows are selected, and whether one of them has data.
-    bool hasRows() const { return !selectedRecords().isEmpty(); }
+    bool hasRows() const { return !selectedRows().isEmpty(); }
     bool hasData() const;
 
     /// The rows, each as a saved log would show it, with "TX" or "RX" in front of what was sent or
-    /// received.
+    /// received, and its time behind it.
     void copyRows() const;
 
     /// What stands in the rows' Data column, in that form.
     void copyData(DataForm form) const;
 
 private:
-    QVector<LogRecord> selectedRecords() const;
+    QVector<int> selectedRows() const;
 
     QTableWidget &m_table;
     MessageLog &m_log;

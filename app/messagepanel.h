@@ -19,6 +19,10 @@ public:
 
     MessageMenu &menu() { return m_menu; }
 
+    /// What the log's last column shows of the rows' times.
+    void setShownTime(ShownTime shown) { m_log.setShownTime(shown); }
+    ShownTime shownTime() const { return m_log.shownTime(); }
+
 private:
     MessageLog m_log;
     MessageMenu m_menu;

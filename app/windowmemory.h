@@ -34,6 +34,10 @@ public:
     int repeat() const { return m_place.repeat; }
     void setRepeat(int passes) { m_place.repeat = passes; }
 
+    /// What the log shows of the time.
+    ShownTime shownTime() const { return m_place.shownTime; }
+    void setShownTime(ShownTime shown) { m_place.shownTime = shown; }
+
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:

@@ -64,6 +64,11 @@ QList<int> splitterOf(const Entries &entries)
     return areas.size() == splitterAreas ? areas : QList<int>();
 }
 
+/// What the entry "time" says. What it doesn't know is as if it were missing.
+const QHash<QByteArray, ShownTime> shownTimes{{"since", ShownTime::SinceRowBefore},
+                                              {"day", ShownTime::OfDay},
+                                              {"nothing", ShownTime::Nothing}};
+
 QByteArray entry(const QByteArray &key, int value)
 {
     return key + '=' + QByteArray::number(value) + '\n';
@@ -95,6 +100,7 @@ WindowPlace parseWindowPlace(const QByteArray &text)
     place.splitter = splitterOf(entries);
     place.recordings = QString::fromUtf8(entries.value("recordings"));
     place.repeat = numberIn(entries.value("repeat"), 1, mostRepeats).value_or(0);
+    place.shownTime = shownTimes.value(entries.value("time"), ShownTime::SinceRowBefore);
     return place;
 }
 
@@ -117,6 +123,9 @@ QByteArray formatWindowPlace(const WindowPlace &place)
     }
     if (place.repeat > 0) {
         text += entry("repeat", place.repeat);
+    }
+    if (place.shownTime != ShownTime::SinceRowBefore) {
+        text += "time=" + shownTimes.key(place.shownTime) + '\n';
     }
     return text;
 }

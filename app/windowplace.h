@@ -1,5 +1,7 @@
 #pragma once
 
+#include "log/timecolumn.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QRect>
@@ -25,6 +27,7 @@ struct WindowPlace
     QString recordings;
     /// How many passes the loop makes; 0 for an endless one.
     int repeat = 0;
+    ShownTime shownTime = ShownTime::SinceRowBefore;
 };
 
 /// Reads what formatWindowPlace() wrote. What is missing or makes no sense stays unknown.

@@ -1,14 +1,31 @@
 #pragma once
 
+#include "log/timecolumn.h"
 #include "widgets/plaincelldelegate.h"
 
 /// Paints the cells of the message log; the CRC of a received frame that does not fit is a fault.
+/// In the last column, whose cells have no text, it paints the time that they carry.
 class LogCellDelegate : public PlainCellDelegate
 {
     Q_OBJECT
 
 public:
+    /// Where a cell of the last column carries its RowTime.
+    static constexpr int timeRole = Qt::UserRole;
+
     using PlainCellDelegate::PlainCellDelegate;
 
+    /// What is painted from now on.
+    void setShownTime(ShownTime shown) { m_shownTime = shown; }
+    ShownTime shownTime() const { return m_shownTime; }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+
     QString fault(const QModelIndex &index) const override;
+
+    QString remark(const QModelIndex &index) const override;
+
+private:
+    ShownTime m_shownTime = ShownTime::SinceRowBefore;
 };

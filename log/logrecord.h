@@ -1,5 +1,7 @@
 #pragma once
 
+#include "frames/arrivaltime.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -26,4 +28,6 @@ struct LogRecord
     QString text;
     /// The identity of the command row that a sent frame was made of; 0 where it isn't known.
     int rowId = 0;
+    /// When the first of the bytes was read; earlier than the rest for a frame that came in pieces.
+    ArrivalTime begun = {};
 };

@@ -23,6 +23,7 @@ Qt::AlignmentFlag alignmentOf(int column)
 
 MessageLog::MessageLog(LogTable &table, const RecordLog &records, QObject *parent)
     : QObject(parent)
+    , m_cells(new LogCellDelegate(this))
     , m_table(table)
     , m_records(records)
 {
@@ -35,7 +36,7 @@ MessageLog::MessageLog(LogTable &table, const RecordLog &records, QObject *paren
                          {tr("Data"), 90, QHeaderView::Stretch, true},
                          {tr("CRC"), 63},
                          {QString(), 63}});
-    m_table.setItemDelegate(new LogCellDelegate(this));
+    m_table.setItemDelegate(m_cells);
     showBlankTable();
     connect(&m_records, &RecordLog::appended, this, &MessageLog::followAppended);
     connect(&m_records, &RecordLog::cleared, this, &MessageLog::followCleared);
@@ -58,9 +59,20 @@ void MessageLog::bringIn()
         m_table.growTo(records.size());
     }
     while (m_filledRows < records.size()) {
-        fillRow(m_filledRows, records.at(m_filledRows));
+        fillRow(m_filledRows);
         ++m_filledRows;
     }
+}
+
+void MessageLog::setShownTime(ShownTime shown)
+{
+    m_cells->setShownTime(shown);
+    m_table.viewport()->update();
+}
+
+ShownTime MessageLog::shownTime() const
+{
+    return m_cells->shownTime();
 }
 
 void MessageLog::followAppended()
@@ -105,8 +117,9 @@ void MessageLog::showBlankTable()
     m_table.scrollToTop();
 }
 
-void MessageLog::fillRow(int row, const LogRecord &record)
+void MessageLog::fillRow(int row)
 {
+    const LogRecord &record = m_records.records().at(row);
     const LogTexts texts = textsOf(record);
     const auto put = [&](int column, const QString &text) {
         m_table.setItem(row, column,
@@ -115,14 +128,23 @@ void MessageLog::fillRow(int row, const LogRecord &record)
     for (int column = LogColumn::Number; column < LogColumn::Rest; ++column) {
         put(column, texts[static_cast<size_t>(column)]);
     }
-    put(LogColumn::Rest, {});
+    m_table.setItem(row, LogColumn::Rest, timeItem(row));
+}
+
+/// A cell without a text, which carries the row's time.
+QTableWidgetItem *MessageLog::timeItem(int row) const
+{
+    QTableWidgetItem *item =
+        m_items.make({}, alignmentOf(LogColumn::Rest), LogItems::Colour::Plain);
+    item->setData(LogCellDelegate::timeRole,
+                  QVariant::fromValue(rowTimeOf(m_records.records(), row)));
+    return item;
 }
 
 LogItems::Colour MessageLog::colourOf(LogRecord::Kind kind, int column)
 {
-    const bool coloured = kind == LogRecord::Kind::Received
-                              ? column != LogColumn::Rest
-                              : kind != LogRecord::Kind::Sent &&
-                                    (column == LogColumn::Number || column == LogColumn::Data);
+    const bool coloured = kind == LogRecord::Kind::Received ||
+                          (kind != LogRecord::Kind::Sent &&
+                           (column == LogColumn::Number || column == LogColumn::Data));
     return coloured ? LogItems::Colour::Received : LogItems::Colour::Plain;
 }

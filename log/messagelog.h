@@ -3,11 +3,13 @@
 #include "log/displaypace.h"
 #include "log/logitems.h"
 #include "log/logrecord.h"
+#include "log/timecolumn.h"
 
 #include <QObject>
 
 #include <functional>
 
+class LogCellDelegate;
 class LogTable;
 class RecordLog;
 
@@ -32,6 +34,11 @@ public:
     /// Brings rows that wait for the display into the table.
     void bringIn();
 
+    /// What the last column shows of the rows' times, from now on; at first the time since the row
+    /// before. Its cells' texts stay empty.
+    void setShownTime(ShownTime shown);
+    ShownTime shownTime() const;
+
 signals:
     /// The number of filled rows has changed; once in a display frame at most.
     void countChanged(int used);
@@ -41,10 +48,12 @@ private:
     void followCleared();
     void moveOn();
     void showBlankTable();
-    void fillRow(int row, const LogRecord &record);
+    void fillRow(int row);
+    QTableWidgetItem *timeItem(int row) const;
     static LogItems::Colour colourOf(LogRecord::Kind kind, int column);
 
     LogItems m_items;
+    LogCellDelegate *m_cells;
     LogTable &m_table;
     const RecordLog &m_records;
     /// Rows that show a record; of records that are gone, while the table is stale.

@@ -20,7 +20,7 @@ Receiver::Receiver(ReadStartBytes readStartBytes, QObject *parent)
         if (m_gapMs) {
             endRun();
         } else {
-            giveOut(m_reassembler.giveUpLoneStartByte(), m_lastArrival);
+            giveOut(m_reassembler.giveUpLoneStartByte(), m_lastArrival, {});
         }
     });
 }
@@ -41,22 +41,34 @@ void Receiver::take(const QByteArray &chunk, ArrivalTime time)
         takeIntoRun(chunk, time);
         return;
     }
+    takeIntoFrames(chunk, time);
+}
+
+void Receiver::takeIntoFrames(const QByteArray &chunk, ArrivalTime time)
+{
     m_silence.stop();
-    giveOut(m_reassembler.take(chunk, m_readStartBytes()), time);
+    const Waited waited{m_reassembler.waitingBytes(), m_waitingSince};
+    const QVector<ReceivedPiece> pieces = m_reassembler.take(chunk, m_readStartBytes());
+    if (m_reassembler.waitingBytes() <= chunk.size()) {
+        m_waitingSince = time;
+    }
+    giveOut(pieces, time, waited);
     if (m_reassembler.holdsLoneStartByte()) {
         m_lastArrival = time;
         m_silence.start();
     }
 }
 
-void Receiver::giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time)
+void Receiver::giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time, const Waited &waited)
 {
+    int given = 0;
     for (const ReceivedPiece &piece : pieces) {
         if (piece.kind == ReceivedPiece::Kind::Frame) {
-            emit frameReceived(piece.bytes, time);
+            emit frameReceived(piece.bytes, time, given < waited.bytes ? waited.since : time);
         } else {
             emit strayReceived(piece.bytes, time);
         }
+        given += piece.bytes.size();
     }
 }
 
@@ -80,6 +92,6 @@ void Receiver::endRun()
 {
     m_silence.stop();
     if (!m_run.isEmpty()) {
-        emit frameReceived(std::exchange(m_run, {}), m_runBegan);
+        emit frameReceived(std::exchange(m_run, {}), m_runBegan, m_runBegan);
     }
 }

@@ -29,14 +29,22 @@ public:
     void take(const QByteArray &chunk, ArrivalTime time = ArrivalTime::now());
 
 signals:
-    /// A whole frame, and the time of the chunk that completed it.
-    void frameReceived(const QByteArray &frame, ArrivalTime time);
+    /// A whole frame, the time of the chunk that completed it, and of the one that it began in.
+    void frameReceived(const QByteArray &frame, ArrivalTime time, ArrivalTime begun);
 
     /// Bytes that belong to no frame, and the time of the chunk that showed it.
     void strayReceived(const QByteArray &bytes, ArrivalTime time);
 
 private:
-    void giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time);
+    /// Bytes that waited for the rest of their frame, and when the first of them was read.
+    struct Waited
+    {
+        int bytes = 0;
+        ArrivalTime since;
+    };
+
+    void takeIntoFrames(const QByteArray &chunk, ArrivalTime time);
+    void giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time, const Waited &waited);
     void takeIntoRun(const QByteArray &chunk, ArrivalTime time);
     void endRun();
 
@@ -44,6 +52,8 @@ private:
     FrameReassembler m_reassembler;
     QTimer m_silence;
     ArrivalTime m_lastArrival;
+    /// When the first of the bytes that wait for the rest of their frame was read.
+    ArrivalTime m_waitingSince;
     std::optional<int> m_gapMs;
     /// What has come since the last silence.
     QByteArray m_run;

@@ -16,9 +16,9 @@ void RecordLog::appendSent(const QByteArray &frame, bool withCrc, Time time, int
     appendNumbered({LogRecord::Kind::Sent, 0, 0, 0, frame, withCrc, {}, {}, rowId}, time);
 }
 
-void RecordLog::appendReceived(const QByteArray &frame, bool withCrc, Time time)
+void RecordLog::appendReceived(const QByteArray &frame, bool withCrc, Time time, Time begun)
 {
-    appendNumbered({LogRecord::Kind::Received, 0, 0, 0, frame, withCrc, {}, {}}, time);
+    appendNumbered({LogRecord::Kind::Received, 0, 0, 0, frame, withCrc, {}, {}}, time, begun);
 }
 
 void RecordLog::appendStray(const QByteArray &bytes, Time time)
@@ -38,18 +38,19 @@ void RecordLog::clear()
     emit cleared();
 }
 
-void RecordLog::appendNumbered(LogRecord record, Time time)
+void RecordLog::appendNumbered(LogRecord record, Time time, Time begun)
 {
     startOverIfFull();
     record.number = m_nextNumber++;
-    append(std::move(record), time);
+    append(std::move(record), time, begun);
 }
 
-void RecordLog::append(LogRecord record, Time time)
+void RecordLog::append(LogRecord record, Time time, Time begun)
 {
     const ArrivalTime when = time ? *time : m_clock();
     record.utcUs = when.utcUs;
     record.monotonicNs = when.monotonicNs;
+    record.begun = begun.value_or(when);
     m_records.append(record);
     // Not the one in the log: a listener may empty that.
     emit appended(record);

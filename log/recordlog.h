@@ -34,8 +34,10 @@ public:
     /// identity.
     void appendSent(const QByteArray &frame, bool withCrc, Time time = std::nullopt, int rowId = 0);
 
-    /// Records a frame that was read from the system at that time.
-    void appendReceived(const QByteArray &frame, bool withCrc, Time time = std::nullopt);
+    /// Records a frame that was read from the system at that time; of one that came in pieces, the
+    /// first byte was read when it was begun.
+    void appendReceived(const QByteArray &frame, bool withCrc, Time time = std::nullopt,
+                        Time begun = std::nullopt);
 
     /// Records bytes that were read from the system at that time and form no frame.
     void appendStray(const QByteArray &bytes, Time time = std::nullopt);
@@ -63,8 +65,8 @@ signals:
     void startedOver();
 
 private:
-    void appendNumbered(LogRecord record, Time time);
-    void append(LogRecord record, Time time);
+    void appendNumbered(LogRecord record, Time time, Time begun = std::nullopt);
+    void append(LogRecord record, Time time, Time begun = std::nullopt);
     void startOverIfFull();
     void forgetAll();
 

@@ -67,8 +67,8 @@ void Session::connectRecords()
                 m_log.appendSent(frame, m_format.withCrc(), time, rowId);
             });
     connect(&m_receiver, &Receiver::frameReceived, this,
-            [this](const QByteArray &frame, ArrivalTime time) {
-                m_log.appendReceived(frame, m_format.withCrc(), time);
+            [this](const QByteArray &frame, ArrivalTime time, ArrivalTime begun) {
+                m_log.appendReceived(frame, m_format.withCrc(), time, begun);
             });
     connect(&m_receiver, &Receiver::strayReceived, this, &Session::recordStray);
     connect(&m_links.hid(), &HidLink::dropped, this, [this](qint64 bytes) {

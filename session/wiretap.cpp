@@ -5,6 +5,7 @@
 #include "frames/startbytes.h"
 #include "links/linkpair.h"
 #include "links/serial/serialline.h"
+#include "log/localtime.h"
 #include "session/devicewatch.h"
 #include "session/framecrc.h"
 #include "session/frameformat.h"
@@ -12,7 +13,6 @@
 #include <QDateTime>
 #include <QTimeZone>
 
-#include <cstdlib>
 #include <utility>
 
 namespace {
@@ -20,13 +20,7 @@ namespace {
 /// The local time's distance from UTC and its name, such as "+01:00 Europe/Berlin".
 QString localZone()
 {
-    constexpr int secondsPerMinute = 60;
-    constexpr int minutesPerHour = 60;
-    const int minutes = QDateTime::currentDateTime().offsetFromUtc() / secondsPerMinute;
-    const QTime offset =
-        QTime(0, 0).addSecs(std::abs(minutes) % (24 * minutesPerHour) * secondsPerMinute);
-    return (minutes < 0 ? QLatin1Char('-') : QLatin1Char('+')) +
-           offset.toString(QStringLiteral("HH:mm ")) +
+    return utcOffsetText(QDateTime::currentDateTime().offsetFromUtc()) + QLatin1Char(' ') +
            QString::fromLatin1(QTimeZone::systemTimeZoneId());
 }
 

@@ -92,6 +92,7 @@ QString CellTips::tipOf(const QModelIndex &cell) const
     }
     if (const auto *delegate = qobject_cast<PlainCellDelegate *>(m_table.itemDelegate(cell))) {
         lines.append(delegate->fault(cell));
+        lines.append(delegate->remark(cell));
     }
     lines.removeAll(QString());
     return lines.join(QLatin1Char('\n'));

@@ -9,8 +9,8 @@ class QTableView;
 void showCellText(const QString &text);
 
 /// Tips that come when the mouse rests on a cell of a table: the text of one that is cut off, and
-/// what its delegate finds wrong with it (see PlainCellDelegate::fault). In one column the whole
-/// text is shown as soon as the mouse enters, by somebody else; its tip stays.
+/// what its delegate says about it (see PlainCellDelegate::fault and remark). In one column the
+/// whole text is shown as soon as the mouse enters, by somebody else; its tip stays.
 class CellTips : public QObject
 {
     Q_OBJECT

@@ -24,6 +24,9 @@ public:
     /// Empty where nothing is.
     virtual QString fault(const QModelIndex & /*index*/) const { return {}; }
 
+    /// What a tip says about a cell besides. Empty where there is nothing to say.
+    virtual QString remark(const QModelIndex & /*index*/) const { return {}; }
+
 private:
     void paintText(QPainter &painter, const QStyleOptionViewItem &option,
                    const QModelIndex &index) const;

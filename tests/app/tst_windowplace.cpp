@@ -50,6 +50,11 @@ void TestWindowPlace::whatIsWrittenIsRead_data()
     recording.recordings = QString::fromUtf8("/home/me/a = b/\u6E29");
     recording.repeat = 99999;
     QTest::newRow("choices") << recording;
+    for (const ShownTime shown : {ShownTime::OfDay, ShownTime::Nothing}) {
+        WindowPlace other = place(inside);
+        other.shownTime = shown;
+        QTest::addRow("time %d", int(shown)) << other;
+    }
     QTest::newRow("splitter alone") << place({}, true, {1, 700});
 }
 
@@ -62,6 +67,7 @@ void TestWindowPlace::whatIsWrittenIsRead()
     QCOMPARE(read.splitter, written.splitter);
     QCOMPARE(read.recordings, written.recordings);
     QCOMPARE(read.repeat, written.repeat);
+    QCOMPARE(read.shownTime, written.shownTime);
 }
 
 void TestWindowPlace::theFileIsPlain()
@@ -90,6 +96,7 @@ void TestWindowPlace::whatMakesNoSenseIsUnknown_data()
     QTest::newRow("words") << QByteArray("[window]\nx=left\ny=1\nwidth=5\nheight=5\n");
     QTest::newRow("half a splitter") << QByteArray("[window]\nsplitter=410\n");
     QTest::newRow("three areas") << QByteArray("[window]\nsplitter=410,250,9\n");
+    QTest::newRow("an unknown time") << QByteArray("[window]\ntime=Day\n");
     QTest::newRow("an area without height") << QByteArray("[window]\nsplitter=0,250\n");
     QTest::newRow("no pass") << QByteArray("[window]\nrepeat=0\n");
     QTest::newRow("fewer passes than none") << QByteArray("[window]\nrepeat=-1\n");
@@ -104,6 +111,7 @@ void TestWindowPlace::whatMakesNoSenseIsUnknown()
     QVERIFY(!read.maximized);
     QCOMPARE(read.splitter, QList<int>());
     QCOMPARE(read.repeat, 0);
+    QCOMPARE(read.shownTime, ShownTime::SinceRowBefore);
 }
 
 void TestWindowPlace::foreignLinesAreNoHarm()

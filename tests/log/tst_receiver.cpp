@@ -18,6 +18,7 @@ private slots:
     void aStartByteThatIsFollowedIsNotShown();
     void whatIsMoreThanAStartByteIsKept();
     void piecesHaveTheTimeOfTheirLastChunk();
+    void aFrameTellsWhenItBegan();
     void silenceEndsAFrameThatNothingElseEnds();
     void aGapThatTheTimerHasMissedCounts();
 };
@@ -129,6 +130,28 @@ void TestReceiver::piecesHaveTheTimeOfTheirLastChunk()
     receiver.take(hex("07 5AA501"), {1000, 10});
     receiver.take(hex("01 5A"), {2000, 20});
     QTRY_COMPARE(pieces, QStringList({"07@1000/10", "5aa50101@2000/20", "5a@2000/20"}));
+}
+
+void TestReceiver::aFrameTellsWhenItBegan()
+{
+    Receiver receiver([] { return StartBytes{0x5A, 0xA5}; });
+    QStringList frames;
+    connect(&receiver, &Receiver::frameReceived, this,
+            [&frames](const QByteArray & /*frame*/, ArrivalTime time, ArrivalTime begun) {
+                frames.append(QStringLiteral("%1-%2 %3-%4")
+                                  .arg(begun.utcUs)
+                                  .arg(time.utcUs)
+                                  .arg(begun.monotonicNs)
+                                  .arg(time.monotonicNs));
+            });
+    receiver.take(hex("5AA50101 5A"), {1000, 10});
+    receiver.take(hex("A5"), {2000, 20});
+    receiver.take(hex("0102 5AA50103 5AA5"), {3000, 30});
+    // What waits turns out to be no beginning of a frame.
+    receiver.take(hex("0104 5A"), {4000, 40});
+    receiver.take(hex("07 5AA50105"), {5000, 50});
+    QCOMPARE(frames, QStringList({"1000-1000 10-10", "1000-3000 10-30", "3000-3000 30-30",
+                                  "3000-4000 30-40", "5000-5000 50-50"}));
 }
 
 void TestReceiver::silenceEndsAFrameThatNothingElseEnds()

@@ -146,10 +146,14 @@ void TestRecordLog::aTimeThatIsKnownIsKept()
     RecordLog log([] { return ArrivalTime{1000, 50}; });
     log.appendSent(recordedFrame, true, known);
     log.appendReceived(recordedFrame, true, known);
+    log.appendReceived(recordedFrame, true, known, ArrivalTime{650, 25});
     log.appendStray("x", known);
     for (const LogRecord &record : log.records()) {
         QCOMPARE(record.utcUs, known.utcUs);
         QCOMPARE(record.monotonicNs, known.monotonicNs);
+        const bool isInPieces = &record == &log.records().at(2);
+        QCOMPARE(record.begun.utcUs, isInPieces ? 650 : known.utcUs);
+        QCOMPARE(record.begun.monotonicNs, isInPieces ? 25 : known.monotonicNs);
     }
 }
 

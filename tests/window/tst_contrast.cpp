@@ -1,3 +1,4 @@
+#include "app/messagepanel.h"
 #include "codec/directeditor.h"
 #include "commands/unitlineedit.h"
 #include "contrast.h"
@@ -221,13 +222,14 @@ void TestContrast::cellsAreReadable()
     QTRY_COMPARE(window.messageCount(), 2);
     window.commands()->selectRow(1);
     window.messages()->selectRow(1);
+    window.window().findChild<MessagePanel *>()->setShownTime(ShownTime::OfDay);
     QTRY_VERIFY(window.messages()->updatesEnabled());
     for (const int row : {0, 1}) {
         for (const int column : {CommandColumn::Description, CommandColumn::Cmd,
                                  CommandColumn::Addr, CommandColumn::Data, CommandColumn::Crc}) {
             QVERIFY(contrastOfCell(*window.commands(), row, column) >= readable);
         }
-        for (const int column : {0, 1, 2, 3, 4, 5}) {
+        for (const int column : {0, 1, 2, 3, 4, 5, 7}) {
             QVERIFY(contrastOfCell(*window.messages(), row, column) >= readable);
         }
     }

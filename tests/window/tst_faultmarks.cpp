@@ -1,8 +1,7 @@
 #include "log/messagelog.h"
+#include "seencells.h"
 #include "windowdriver.h"
 
-#include <QHelpEvent>
-#include <QToolTip>
 #include <QtTest>
 
 namespace Column = CommandColumn;
@@ -37,21 +36,6 @@ bool showsRed(const QImage &image)
         }
     }
     return false;
-}
-
-QImage pictureOf(const QTableWidget &table, int row, int column)
-{
-    const QRect cell = table.visualRect(table.model()->index(row, column));
-    return table.viewport()->grab(cell).toImage();
-}
-
-QString tipOf(const QTableWidget &table, int row, int column)
-{
-    QToolTip::hideText();
-    const QPoint place = table.visualRect(table.model()->index(row, column)).center();
-    QHelpEvent event(QEvent::ToolTip, place, table.viewport()->mapToGlobal(place));
-    QCoreApplication::sendEvent(table.viewport(), &event);
-    return QToolTip::text();
 }
 
 } // namespace
