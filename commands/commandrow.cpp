@@ -5,12 +5,28 @@
 #include "frames/framebuilder.h"
 #include "frames/hextext.h"
 
+#include <tuple>
+
 namespace {
 
 constexpr int addressDigits = 4;
 constexpr int hexBase = 16;
 
 } // namespace
+
+bool operator==(const CommandRow &left, const CommandRow &right)
+{
+    const auto all = [](const CommandRow &row) {
+        return std::tie(row.description, row.selected, row.cmd, row.addr, row.data, row.crc,
+                        row.dataType, row.originalData, row.expectations);
+    };
+    return all(left) == all(right);
+}
+
+bool operator!=(const CommandRow &left, const CommandRow &right)
+{
+    return !(left == right);
+}
 
 CommandRow emptyRow()
 {

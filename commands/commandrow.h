@@ -26,6 +26,9 @@ struct CommandRow
     int id = 0;
 };
 
+bool operator==(const CommandRow &left, const CommandRow &right);
+bool operator!=(const CommandRow &left, const CommandRow &right);
+
 /// An empty row, as new rows are: its data type is "short".
 CommandRow emptyRow();
 
