@@ -13,9 +13,13 @@ CommandPanel::CommandPanel(CommandArea &area, bool withEdit, QWidget &window)
     , m_actions(m_table, m_rows, m_menus, this)
     , m_keys(m_table, m_rows, m_actions, m_menus, this)
     , m_editor(m_table, m_rows, &window)
+    , m_clipboard(m_table, m_rows, this)
 {
     m_table.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&m_actions, &RowActions::refused, this, &CommandPanel::notice);
+    connect(&m_actions, &RowActions::modified, this, &CommandPanel::modified);
+    connect(&m_clipboard, &TableClipboard::refused, this, &CommandPanel::notice);
+    connect(&m_clipboard, &TableClipboard::modified, this, &CommandPanel::modified);
     connect(&m_actions, &RowActions::editRequested, &m_editor, &RowEditor::open);
     // A box must not open within the key press that it is about.
     connect(&editor(), &DirectEditor::unencodableTyped, this, &CommandPanel::notice,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/roweditor.h"
+#include "app/tableclipboard.h"
 #include "commands/commandtable.h"
 #include "commands/rowactions.h"
 #include "commands/rowmenus.h"
@@ -10,7 +11,8 @@
 
 class CommandArea;
 
-/// The command table at work: its rows, its menus and keys, and the editor for a row's value.
+/// The command table at work: its rows, its menus, keys and clipboard, and the editor for a row's
+/// value.
 class CommandPanel : public QObject
 {
     Q_OBJECT
@@ -40,6 +42,9 @@ public:
     void turnWheel(const QPoint &position);
 
 signals:
+    /// An action has changed the commands.
+    void modified();
+
     /// Something the user must be told; handlers may block.
     void notice(const QString &text);
 
@@ -50,4 +55,5 @@ private:
     RowActions m_actions;
     TableKeys m_keys;
     RowEditor m_editor;
+    TableClipboard m_clipboard;
 };

@@ -119,7 +119,7 @@ void Dialog::setUpCommands()
     connect(&rows, &CommandTable::addressCommitted, this, &Dialog::on_DataEdited);
     connect(&rows, &CommandTable::enterPressed, this, &Dialog::on_DataEnter);
     connect(&m_commands.editor(), &DirectEditor::SendData, this, &Dialog::editor_dataIn);
-    connect(&m_commands.actions(), &RowActions::modified, &m_list, &ListState::setModified);
+    connect(&m_commands, &CommandPanel::modified, &m_list, &ListState::setModified);
     m_form->commandArea->follow(m_list);
     m_messages.menu().setRowCheck([this](int id) { return m_commands.rows().rowWithId(id) >= 0; });
     connect(&m_messages.menu(), &MessageMenu::rowWanted, &m_commands, &CommandPanel::goToRow);

@@ -26,6 +26,7 @@ struct CommandRow
     int id = 0;
 };
 
+/// Whether two rows carry the same, whichever rows of a table they are.
 bool operator==(const CommandRow &left, const CommandRow &right);
 bool operator!=(const CommandRow &left, const CommandRow &right);
 

@@ -6,6 +6,7 @@
 #include "commands/commandcolumns.h"
 #include "commands/datadelegate.h"
 #include "commands/oneline.h"
+#include "commands/rowmarks.h"
 #include "frames/hextext.h"
 #include "widgets/tableitems.h"
 #include "widgets/tablelook.h"
@@ -19,10 +20,6 @@
 namespace Column = CommandColumn;
 
 namespace {
-
-/// Where the item of a description keeps what the row is to be answered with.
-constexpr int expectationsRole = Qt::UserRole + 1;
-constexpr int idRole = Qt::UserRole + 2;
 
 constexpr int leastRows = 9;
 /// See docs/deliberate.md, Blocked signals.
@@ -60,8 +57,7 @@ bool CommandTable::insertEmptyRow(int row)
 {
     m_table.blockSignals(true);
     if (row > lastInsertableRow) {
-        emit insertionRefused(tr("The command table is full: rows can be inserted up to row %1.")
-                                  .arg(lastInsertableRow + 1));
+        refuseInsertion();
         return false;
     }
     const bool inserted = row >= 0 && row <= m_table.rowCount();
@@ -134,6 +130,42 @@ void CommandTable::replaceRows(const QVector<CommandRow> &rows)
     m_table.blockSignals(false);
 }
 
+bool CommandTable::insertRows(int row, const QVector<CommandRow> &rows)
+{
+    if (row + rows.size() - 1 > lastInsertableRow) {
+        refuseInsertion();
+        return false;
+    }
+    exchangeRows({row, 0, rows});
+    return true;
+}
+
+void CommandTable::exchangeRows(const RowExchange &exchange)
+{
+    const QSignalBlocker blocker(m_table);
+    const int kept = std::min(exchange.removed, exchange.rows.size());
+    const int added = exchange.rows.size() - kept;
+    m_table.setUpdatesEnabled(false);
+    for (int i = 0; i < kept; ++i) {
+        const CommandRow &content = exchange.rows.at(i);
+        if (row(exchange.row + i) != content) {
+            fillRow(exchange.row + i, content);
+        } else if (content.id != 0) {
+            identify(exchange.row + i, content.id);
+        }
+    }
+    if (exchange.removed > kept) {
+        m_table.model()->removeRows(exchange.row + kept, exchange.removed - kept);
+    }
+    if (added > 0) {
+        m_table.model()->insertRows(exchange.row + kept, added);
+    }
+    for (int i = kept; i < exchange.rows.size(); ++i) {
+        fillRow(exchange.row + i, exchange.rows.at(i));
+    }
+    m_table.setUpdatesEnabled(true);
+}
+
 int CommandTable::rowCount() const
 {
     return m_table.rowCount();
@@ -149,8 +181,8 @@ CommandRow CommandTable::row(int row) const
             cellText(m_table, row, Column::Crc),
             cellText(m_table, row, Column::DataType),
             cellText(m_table, row, Column::OriginalData),
-            expectationsOf(row),
-            idOf(row)};
+            rowExpectations(m_table, row),
+            rowId(m_table, row)};
 }
 
 QVector<CommandRow> CommandTable::rows() const
@@ -165,7 +197,7 @@ QVector<CommandRow> CommandTable::rows() const
 int CommandTable::rowWithId(int id) const
 {
     for (int row = 0; row < m_table.rowCount(); ++row) {
-        if (id != 0 && idOf(row) == id) {
+        if (id != 0 && rowId(m_table, row) == id) {
             return row;
         }
     }
@@ -244,6 +276,12 @@ void CommandTable::goOnFromCurrentCell()
     edit(row, Column::Data);
 }
 
+void CommandTable::writeData(int row, const QByteArray &bytes)
+{
+    restoreSignals();
+    setLeftItem(m_table, row, Column::Data, formatHexBytes(bytes).trimmed());
+}
+
 void CommandTable::takeInEdit()
 {
     const QModelIndex cell = m_table.currentIndex();
@@ -291,47 +329,30 @@ void CommandTable::installDelegates()
     connect(dataDelegate, &DataDelegate::enterdata, this, &CommandTable::enterPressed);
 }
 
+void CommandTable::refuseInsertion()
+{
+    emit insertionRefused(tr("The command table is full: rows can be inserted up to row %1.")
+                              .arg(lastInsertableRow + 1));
+}
+
 void CommandTable::insertFilledRow(int row, const CommandRow &content)
 {
     m_table.insertRow(row);
     fillRow(row, content);
 }
 
-int CommandTable::idOf(int row) const
-{
-    const QTableWidgetItem *const item = m_table.item(row, Column::Description);
-    return item != nullptr ? item->data(idRole).toInt() : 0;
-}
-
 /// A row that has come from elsewhere gets an identity of its own.
-void CommandTable::setId(int row, int id)
+void CommandTable::identify(int row, int id)
 {
     const QSignalBlocker blocker(m_table);
-    m_table.item(row, Column::Description)->setData(idRole, id != 0 ? id : ++m_lastId);
-}
-
-QString CommandTable::expectationsOf(int row) const
-{
-    const QTableWidgetItem *const item = m_table.item(row, Column::Description);
-    return item != nullptr ? item->data(expectationsRole).toString() : QString();
-}
-
-/// The tip of the description shows them, without the line that makes them count.
-void CommandTable::setExpectations(int row, const QString &expectations)
-{
-    if (expectations == expectationsOf(row)) {
-        return;
-    }
-    QTableWidgetItem *const item = m_table.item(row, Column::Description);
-    item->setData(expectationsRole, expectations);
-    item->setToolTip(expectations.section(QLatin1Char('\n'), 1).trimmed());
+    setRowId(m_table, row, id != 0 ? id : ++m_lastId);
 }
 
 void CommandTable::fillRow(int row, const CommandRow &content)
 {
     setCentredItem(m_table, row, Column::Description, content.description);
-    setId(row, content.id);
-    setExpectations(row, content.expectations);
+    identify(row, content.id);
+    setRowExpectations(m_table, row, content.expectations);
     setSelectCell(m_table, row, Column::Select, content.selected, m_window);
     setCentredItem(m_table, row, Column::Cmd, content.cmd);
     setCentredItem(m_table, row, Column::Addr, content.addr);

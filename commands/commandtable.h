@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/commandrow.h"
+#include "commands/rowexchange.h"
 #include "frames/sendplan.h"
 
 #include <QIcon>
@@ -45,6 +45,12 @@ public:
     /// Replaces all rows; empty rows follow where there are fewer than nine.
     void replaceRows(const QVector<CommandRow> &rows);
 
+    /// Inserts rows and returns whether it did: the last one must not stand beyond index 512.
+    bool insertRows(int row, const QVector<CommandRow> &rows);
+
+    /// Puts rows in the place of others, without a signal of the table.
+    void exchangeRows(const RowExchange &exchange);
+
     int rowCount() const;
     CommandRow row(int row) const;
     QVector<CommandRow> rows() const;
@@ -75,6 +81,9 @@ public:
     /// where there is none, and from Data to the next row's Addr.
     void goOnFromCurrentCell();
 
+    /// Writes the data of a row, as an edit does it.
+    void writeData(int row, const QByteArray &bytes);
+
     /// Takes in the text of an editor that is open in a cell, and closes it.
     void takeInEdit();
 
@@ -98,12 +107,10 @@ signals:
 private:
     CheckedRow checkedRow(int row) const;
     void installDelegates();
+    void refuseInsertion();
     void insertFilledRow(int row, const CommandRow &content);
     void fillRow(int row, const CommandRow &content);
-    int idOf(int row) const;
-    void setId(int row, int id);
-    QString expectationsOf(int row) const;
-    void setExpectations(int row, const QString &expectations);
+    void identify(int row, int id);
     void moveByCopy(int from, int to);
     void edit(int row, int column);
 
