@@ -89,8 +89,7 @@ function(add_test_of room name)
   string(REPLACE "_${folder}_${folder}" "_${folder}" program ${program})
   if(NOT TARGET ${program})
     add_executable(${program} ${tsan_sources})
-    target_link_libraries(${program} PRIVATE Qt5::Test tarnwick_options)
-    target_include_directories(${program} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support)
+    target_link_libraries(${program} PRIVATE testprogram Qt5::Test tarnwick_options)
     set_target_properties(${program} PROPERTIES UNITY_BUILD OFF)
     set_property(GLOBAL APPEND_STRING PROPERTY TARNWICK_TEST_PROGRAMS
       "${program}|${room}|$<TARGET_FILE:${program}>\n")
@@ -115,7 +114,7 @@ function(finish_test_program program)
   foreach(name ${names})
     list(APPEND sources tst_${name}.cpp)
     string(APPEND mains "int tst_${name}(int argc, char **argv);\n")
-    string(APPEND entries "    {\"tst_${name}\", tst_${name}},\n")
+    string(APPEND entries "            {\"tst_${name}\", tst_${name}},\n")
     test_path(link ${name})
     list(APPEND links
       COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_CURRENT_BINARY_DIR}/${name}
