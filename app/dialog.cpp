@@ -102,6 +102,7 @@ void Dialog::setUpSession()
     m_settings.apply(m_session, m_files);
     m_loopPanel.follow(m_session);
     m_loopPanel.remember(m_memory);
+    m_links.remember(m_memory);
     connect(&m_links, &LinkPanels::listsDue, this, &Dialog::Timer1_Out_Event);
     m_links.watchDevices([this] { return quintptr(winId()); });
 }

@@ -1,10 +1,12 @@
 #include "app/linkpanels.h"
 
 #include "app/boxes.h"
+#include "app/datafolder.h"
 #include "app/headerfield.h"
 #include "app/hidtab.h"
 #include "app/serialtab.h"
 #include "app/statusline.h"
+#include "app/windowmemory.h"
 #include "links/linktexts.h"
 #include "session/session.h"
 
@@ -28,6 +30,7 @@ LinkPanels::LinkPanels(SerialTab &serialTab, HidTab &hidTab, Session &session, S
     connect(&m_hid, &HidPanel::failed, this, [] { showOpenFail(QStringLiteral("HID")); });
     connect(&m_lists, &DeviceLists::due, this, &LinkPanels::listsDue);
     connect(&m_session, &Session::linkFailed, this, &LinkPanels::tellLoss);
+    followReopener();
 }
 
 void LinkPanels::goToTab(int index)
@@ -50,16 +53,39 @@ void LinkPanels::watchDevices(const WindowHandle &window)
     }
 }
 
+void LinkPanels::remember(WindowMemory &memory)
+{
+    connect(&m_serialTab, &SerialTab::reopensChanged, this, [this, &memory](bool reopens) {
+        m_session.reopener().setOn(reopens);
+        memory.setReopens(reopens);
+    });
+    m_serialTab.setReopens(memory.reopens());
+}
+
 void LinkPanels::takeCrcFlag()
 {
     const bool isSerial = m_session.links().mode() == LinkMode::Uart;
     m_session.format().setCrc(isSerial ? m_serialTab.wantsCrc() : m_hidTab.wantsCrc());
 }
 
+void LinkPanels::followReopener()
+{
+    PortReopener &reopener = m_session.reopener();
+    connect(&m_serial, &SerialPanel::opening, &reopener, &PortReopener::notePort);
+    connect(&m_serialTab, &SerialTab::lineChosen, this,
+            [this, &reopener] { reopener.noteLine(m_serialTab.settings()); });
+    // The port is in the list again, and selected.
+    connect(&reopener, &PortReopener::reopened, this,
+            [this] { m_serial.refreshPorts(portsFolder()); });
+}
+
+/// A port that will be opened again needs no box, which nobody may be there to close.
 void LinkPanels::tellLoss(LinkMode mode, const QString &name, const QString &reason)
 {
     if (mode == LinkMode::Uart) {
         m_lists.refreshSoon();
-        emit notice(whyLost(name, reason));
+        if (!m_session.reopener().isWaiting()) {
+            emit notice(whyLost(name, reason));
+        }
     }
 }

@@ -12,6 +12,7 @@ class HidTab;
 class SerialTab;
 class Session;
 class StatusLine;
+class WindowMemory;
 
 /// The two link tabs and the session's links behind them: what is opened and closed, which ports
 /// and devices there are, and what the user is told of all that.
@@ -37,6 +38,10 @@ public:
     /// to the window given.
     void watchDevices(const WindowHandle &window);
 
+    /// Whether a lost port is opened again is as in the run before, and kept for the next one. The
+    /// memory must outlive this.
+    void remember(WindowMemory &memory);
+
     /// The CRC box of the tab that is used counts for what is sent and logged from now on.
     void takeCrcFlag();
 
@@ -48,6 +53,7 @@ signals:
     void notice(const QString &text);
 
 private:
+    void followReopener();
     void tellLoss(LinkMode mode, const QString &name, const QString &reason);
 
     SerialTab &m_serialTab;

@@ -16,12 +16,13 @@ LinkStatus::LinkStatus(StatusLine &status, Session &session, QObject *parent)
     , m_status(status)
 {
     followOpen(session);
+    followReopener(session);
     connect(&session, &Session::linkFailed, this,
-            [this](LinkMode, const QString &name, const QString &reason) {
-                m_status.tell(whyLost(name, reason));
+            [this, &session](LinkMode, const QString &name, const QString &reason) {
+                tellLoss(name, reason, session.reopener().isWaiting());
             });
-    connect(&session, &Session::deviceGone, this, [this](LinkMode, const QString &name) {
-        m_status.tell(whyLost(name, tr("the device is gone")));
+    connect(&session, &Session::deviceGone, this, [this, &session](LinkMode, const QString &name) {
+        tellLoss(name, tr("the device is gone"), session.reopener().isWaiting());
     });
 }
 
@@ -44,4 +45,23 @@ void LinkStatus::followOpen(Session &session)
     const HidLink &hid = session.links().hid();
     connect(&hid, &Link::openChanged, this,
             [this, &hid](bool isOpen) { m_status.showLink(isOpen ? describe(hid) : QString()); });
+}
+
+void LinkStatus::followReopener(Session &session)
+{
+    const PortReopener &reopener = session.reopener();
+    connect(&reopener, &PortReopener::reopened, this, [this](const QString &name) {
+        m_status.tell(tr("The connection to %1 was lost and is back.").arg(name));
+    });
+    connect(&reopener, &PortReopener::refused, this, [this, &session](const QString &name) {
+        m_status.tell(whyPortFailed(name, session.links().serial().failure()));
+    });
+    // Nobody is to wait for what was announced.
+    connect(&reopener, &PortReopener::forgotten, this, [this] { m_status.tell({}); });
+}
+
+void LinkStatus::tellLoss(const QString &name, const QString &reason, bool isWaitedFor)
+{
+    const QString loss = whyLost(name, reason);
+    m_status.tell(isWaitedFor ? tr("%1. It is opened again when it is back.").arg(loss) : loss);
 }

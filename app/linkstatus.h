@@ -9,8 +9,8 @@ class SerialPanel;
 class Session;
 class StatusLine;
 
-/// Keeps the status line up to date about the links: what is open, why it didn't open, and that it
-/// was lost.
+/// Keeps the status line up to date about the links: what is open, why it didn't open, that it
+/// was lost, and that it is back.
 class LinkStatus : public QObject
 {
     Q_OBJECT
@@ -25,6 +25,8 @@ public:
 
 private:
     void followOpen(Session &session);
+    void followReopener(Session &session);
+    void tellLoss(const QString &name, const QString &reason, bool isWaitedFor);
 
     StatusLine &m_status;
 };

@@ -22,6 +22,7 @@ void SerialPanel::open()
 {
     const SerialSettings settings = m_tab.settings();
     m_chosenPortName = settings.portName;
+    emit opening(settings.portName);
     if (!m_link.open(settings)) {
         emit failed(whyPortFailed(settings.portName, m_link.failure()));
     }

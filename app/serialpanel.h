@@ -26,6 +26,9 @@ public:
     void toggle();
 
 signals:
+    /// The user wants the port of that name opened.
+    void opening(const QString &portName);
+
     /// The port did not open, for this reason.
     void failed(const QString &reason);
 

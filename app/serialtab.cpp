@@ -14,6 +14,7 @@ SerialTab::SerialTab(QWidget *parent)
 {
     m_form->setupUi(this);
     fillOptions();
+    watchChoices();
     showIdle(*m_form->pushButton_OpenCom, tr("Open Com Port"));
 }
 
@@ -65,6 +66,7 @@ void SerialTab::prepareBaudRate(int index)
     edit.setMaximumWidth(editWidth);
     edit.setFont(QFont(QStringLiteral("Arial"), editPoints));
     edit.setText(QString());
+    connect(&edit, &QLineEdit::textEdited, this, &SerialTab::lineChosen);
 }
 
 void SerialTab::showOpen(bool open)
@@ -102,6 +104,11 @@ void SerialTab::enableCrcBox()
     m_form->checkBox_CRC_EN->setEnabled(true);
 }
 
+void SerialTab::setReopens(bool reopens)
+{
+    m_form->checkBox_Reopen->setChecked(reopens);
+}
+
 HeaderField &SerialTab::header() const
 {
     return *m_form->lineEdit_SBytes;
@@ -121,6 +128,15 @@ void SerialTab::fillOptions()
     m_form->comboBox_Parity->addItems(SerialOptions::parities());
     m_form->comboBox_StopBit->addItems(SerialOptions::stopBits());
     m_form->comboBox_StopBit->setEditable(false);
+}
+
+void SerialTab::watchChoices()
+{
+    for (const QComboBox *box : {m_form->comboBox_Baudrate, m_form->comboBox_DataBit,
+                                 m_form->comboBox_Parity, m_form->comboBox_StopBit}) {
+        connect(box, QOverload<int>::of(&QComboBox::activated), this, &SerialTab::lineChosen);
+    }
+    connect(m_form->checkBox_Reopen, &QCheckBox::toggled, this, &SerialTab::reopensChanged);
 }
 
 qint32 SerialTab::baudRate() const

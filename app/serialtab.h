@@ -44,11 +44,21 @@ public:
     bool wantsCrc() const;
     void enableCrcBox();
 
+    /// Whether a lost port is to be opened again when it is back.
+    void setReopens(bool reopens);
+
     HeaderField &header() const;
     QLabel &statusLabel() const;
 
+signals:
+    /// The user has chosen how a port is opened, but for which one.
+    void lineChosen();
+
+    void reopensChanged(bool reopens);
+
 private:
     void fillOptions();
+    void watchChoices();
     qint32 baudRate() const;
 
     std::unique_ptr<Ui::SerialTab> m_form;

@@ -38,6 +38,10 @@ public:
     ShownTime shownTime() const { return m_place.shownTime; }
     void setShownTime(ShownTime shown) { m_place.shownTime = shown; }
 
+    /// Whether a lost port is opened again.
+    bool reopens() const { return m_place.reopens; }
+    void setReopens(bool reopens) { m_place.reopens = reopens; }
+
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:

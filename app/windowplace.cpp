@@ -101,6 +101,7 @@ WindowPlace parseWindowPlace(const QByteArray &text)
     place.recordings = QString::fromUtf8(entries.value("recordings"));
     place.repeat = numberIn(entries.value("repeat"), 1, mostRepeats).value_or(0);
     place.shownTime = shownTimes.value(entries.value("time"), ShownTime::SinceRowBefore);
+    place.reopens = entries.value("reopen") == "1";
     return place;
 }
 
@@ -126,6 +127,9 @@ QByteArray formatWindowPlace(const WindowPlace &place)
     }
     if (place.shownTime != ShownTime::SinceRowBefore) {
         text += "time=" + shownTimes.key(place.shownTime) + '\n';
+    }
+    if (place.reopens) {
+        text += entry("reopen", 1);
     }
     return text;
 }

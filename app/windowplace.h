@@ -28,6 +28,8 @@ struct WindowPlace
     /// How many passes the loop makes; 0 for an endless one.
     int repeat = 0;
     ShownTime shownTime = ShownTime::SinceRowBefore;
+    /// A lost port is opened again.
+    bool reopens = false;
 };
 
 /// Reads what formatWindowPlace() wrote. What is missing or makes no sense stays unknown.

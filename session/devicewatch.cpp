@@ -32,12 +32,15 @@ DeviceWatch::DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, R
     connect(&m_monitor, &DeviceMonitor::arrived, this, &DeviceWatch::noteArrival);
     connect(&m_monitor, &DeviceMonitor::removed, this, &DeviceWatch::noteRemoval);
     connect(&m_monitor, &DeviceMonitor::refreshNeeded, this, &DeviceWatch::listsOutdated);
+    connect(&m_monitor, &DeviceMonitor::refreshNeeded, this, &DeviceWatch::cameUnseen);
+    connect(&m_monitor, &DeviceMonitor::replacedUnseen, this, &DeviceWatch::cameUnseen);
 }
 
 void DeviceWatch::noteArrival(const WatchedDevice &device)
 {
     emit listsOutdated();
     m_log.appendEvent(linkName(device.kind), QStringLiteral("Insert ") + shownName(device));
+    emit came(device);
 }
 
 void DeviceWatch::noteRemoval(const WatchedDevice &device)

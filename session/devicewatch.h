@@ -32,6 +32,12 @@ signals:
     /// The device behind that open link has gone; emitted before this is recorded.
     void gone(LinkMode mode);
 
+    /// A device has come; emitted after this is recorded.
+    void came(const WatchedDevice &device);
+
+    /// Some device may have come without a word.
+    void cameUnseen();
+
     /// The lists of ports and devices are out of date.
     void listsOutdated();
 

@@ -1,6 +1,8 @@
 #include "session/session.h"
 
+#include "frames/alarmclock.h"
 #include "frames/headernotice.h"
+#include "frames/systemclock.h"
 #include "log/allzero.h"
 
 Session::Session(const QString &deviceIdFile, const QString &portsFolder, QObject *parent)
@@ -12,15 +14,20 @@ Session::Session(const QString &deviceIdFile, const QString &portsFolder, QObjec
     , m_sender(m_format, this)
     , m_tap(m_links, m_sender, m_devices, m_format, this)
     , m_loop(m_sender, this)
+    , m_reopener(m_links.serial(), makeSystemClock(), this)
 {
     connectLinks();
     connectRecords();
     connectNotices();
+    connectReopener();
     use(m_links.mode());
 }
 
 void Session::use(LinkMode mode)
 {
+    if (mode != LinkMode::Uart) {
+        m_reopener.forget();
+    }
     m_links.choose(mode);
     m_sender.setLink(&m_links.chosen());
 }
@@ -40,6 +47,7 @@ void Session::endLink(LinkMode mode)
 void Session::end()
 {
     m_loop.stop();
+    m_reopener.forget();
     m_links.close();
 }
 
@@ -49,13 +57,13 @@ void Session::connectLinks()
         connect(&link(mode), &Link::arrived, &m_receiver, &Receiver::take);
         connect(&link(mode), &Link::lost, this, [this, mode](const QString &reason) {
             const QString name = linkName(mode);
-            endLink(mode);
+            loseLink(mode);
             emit linkFailed(mode, name, reason);
         });
     }
     connect(&m_devices, &DeviceWatch::gone, this, [this](LinkMode mode) {
         const QString name = linkName(mode);
-        endLink(mode);
+        loseLink(mode);
         emit deviceGone(mode, name);
     });
 }
@@ -82,6 +90,31 @@ void Session::connectNotices()
     connect(&m_loop, &LoopControl::notice, this, &Session::notice);
     connect(&m_receivedHeader, &ReceivedHeader::unreadable, this,
             [this] { emit notice(badHeaderMessage); });
+}
+
+void Session::connectReopener()
+{
+    connect(&m_devices, &DeviceWatch::came, this, [this](const WatchedDevice &device) {
+        if (device.kind == DeviceKind::Port) {
+            m_reopener.noteArrival(device.name);
+        }
+    });
+    connect(&m_devices, &DeviceWatch::cameUnseen, this, [this] { m_reopener.noteArrival({}); });
+    const auto record = [this](const QString &text) {
+        m_log.appendEvent(QStringLiteral("Uart"), text);
+    };
+    connect(&m_reopener, &PortReopener::waiting, this,
+            [record](const QString &name) { record(QStringLiteral("Lost ") + name); });
+    connect(&m_reopener, &PortReopener::reopened, this,
+            [record](const QString &name) { record(QStringLiteral("Reopen ") + name); });
+}
+
+void Session::loseLink(LinkMode mode)
+{
+    endLink(mode);
+    if (mode == LinkMode::Uart) {
+        m_reopener.noteLoss();
+    }
 }
 
 Link &Session::link(LinkMode mode)

@@ -7,6 +7,7 @@
 #include "session/devicewatch.h"
 #include "session/frameformat.h"
 #include "session/loopcontrol.h"
+#include "session/portreopener.h"
 #include "session/receivedheader.h"
 #include "session/wiretap.h"
 
@@ -51,6 +52,7 @@ public:
     LoopControl &loop() { return m_loop; }
     RecordLog &log() { return m_log; }
     DeviceWatch &devices() { return m_devices; }
+    PortReopener &reopener() { return m_reopener; }
 
     /// Everything that goes over the wire, for a recording.
     WireTap &tap() { return m_tap; }
@@ -69,6 +71,8 @@ private:
     void connectLinks();
     void connectRecords();
     void connectNotices();
+    void connectReopener();
+    void loseLink(LinkMode mode);
     Link &link(LinkMode mode);
     QString linkName(LinkMode mode) const;
     void recordStray(const QByteArray &bytes, ArrivalTime time);
@@ -82,4 +86,5 @@ private:
     Sender m_sender;
     WireTap m_tap;
     LoopControl m_loop;
+    PortReopener m_reopener;
 };

@@ -40,7 +40,7 @@ bool DeviceMonitor::start(const WindowHandle &window)
         m_folderWatcher = std::make_unique<QFileSystemWatcher>(
             QStringList(QFileInfo(m_portsFolder).absolutePath()));
         connect(m_folderWatcher.get(), &QFileSystemWatcher::directoryChanged, this,
-                &DeviceMonitor::comparePorts);
+                &DeviceMonitor::lookAgain);
         watchPortsFolder();
     }
     m_linkedPorts = linkedPorts(m_portsFolder);
@@ -55,7 +55,16 @@ void DeviceMonitor::watchPortsFolder()
     m_folderWatcher->addPath(m_portsFolder);
 }
 
-void DeviceMonitor::comparePorts()
+/// A link that has gone and come again since the last look is the same as before.
+void DeviceMonitor::lookAgain(const QString &changed)
+{
+    if (!comparePorts() && changed == m_portsFolder) {
+        emit replacedUnseen();
+    }
+}
+
+/// Whether there was anything to tell.
+bool DeviceMonitor::comparePorts()
 {
     watchPortsFolder();
     const auto before = std::exchange(m_linkedPorts, linkedPorts(m_portsFolder));
@@ -66,4 +75,5 @@ void DeviceMonitor::comparePorts()
     for (const QString &path : missingOrChanged(now, before)) {
         emit arrived({DeviceKind::Port, path, path});
     }
+    return before != now;
 }

@@ -35,10 +35,13 @@ signals:
     void removed(const WatchedDevice &device);
     /// More has happened than could be told; the device lists are to be read again.
     void refreshNeeded();
+    /// The folder has changed, and its links are as before: one may have gone and come again.
+    void replacedUnseen();
 
 private:
     void watchPortsFolder();
-    void comparePorts();
+    void lookAgain(const QString &changed);
+    bool comparePorts();
 
     QString m_portsFolder;
     /// None without a folder: on Windows it would also take the messages about devices.

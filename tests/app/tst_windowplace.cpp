@@ -49,6 +49,7 @@ void TestWindowPlace::whatIsWrittenIsRead_data()
     WindowPlace recording = place(inside);
     recording.recordings = QString::fromUtf8("/home/me/a = b/\u6E29");
     recording.repeat = 99999;
+    recording.reopens = true;
     QTest::newRow("choices") << recording;
     for (const ShownTime shown : {ShownTime::OfDay, ShownTime::Nothing}) {
         WindowPlace other = place(inside);
@@ -68,6 +69,7 @@ void TestWindowPlace::whatIsWrittenIsRead()
     QCOMPARE(read.recordings, written.recordings);
     QCOMPARE(read.repeat, written.repeat);
     QCOMPARE(read.shownTime, written.shownTime);
+    QCOMPARE(read.reopens, written.reopens);
 }
 
 void TestWindowPlace::theFileIsPlain()

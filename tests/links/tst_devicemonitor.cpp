@@ -3,6 +3,7 @@
 #include "links/watch/devicemonitor.h"
 #include "privatesystem.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -68,6 +69,7 @@ private slots:
     void listenerEndsTheMonitor();
     void linkComesAndGoes();
     void linkIsReplaced();
+    void linkIsReplacedByItsLike();
     void whatIsNoLinkIsIgnored();
     void missingFolder();
     void folderIsMadeAgain_data();
@@ -290,6 +292,24 @@ void TestDeviceMonitor::linkIsReplaced()
     QVERIFY(QFile::remove(link));
     QVERIFY(QFile::link("/dev/zero", link));
     QTRY_COMPARE(told, QStringList({"- port " + link, "+ port " + link}));
+}
+
+void TestDeviceMonitor::linkIsReplacedByItsLike()
+{
+    const QString link = inFolder("device");
+    QVERIFY(QFile::link("/dev/null", link));
+    DeviceMonitor monitor(m_folder->path());
+    const Told told(monitor);
+    QSignalSpy replaced(&monitor, &DeviceMonitor::replacedUnseen);
+    QVERIFY(monitor.start());
+    QVERIFY(QFile::remove(link));
+    QVERIFY(QFile::link("/dev/null", link));
+    QTRY_COMPARE(replaced.size(), 1);
+    QCOMPARE(told, QStringList());
+    // What is seen is not told so.
+    QVERIFY(QFile::remove(link));
+    QTRY_COMPARE(told, QStringList("- port " + link));
+    QCOMPARE(replaced.size(), 1);
 }
 
 void TestDeviceMonitor::whatIsNoLinkIsIgnored()

@@ -61,6 +61,7 @@ const Piece piecesOfTheWindow[] = {
     {"lineEdit_SBytes", "QLineEdit", "tab", "0x5A,0xA5"},
     {"label_CRC_EN", "QLabel", "tab", "CRC Enable:"},
     {"checkBox_CRC_EN", "QCheckBox", "tab", ""},
+    {"checkBox_Reopen", "QCheckBox", "tab", "Reopen"},
     {"pushButton_OpenCom", "QPushButton", "tab", "Open Com Port"},
     {"pushButton_SendAll", "QPushButton", "tab", "Send selected items"},
     {"label_Status", "QLabel", "tab", ""},
@@ -277,9 +278,9 @@ void TestWindowPieces::theTabKeyVisitsThePieces_data()
     QTest::addColumn<QStringList>("tabPieces");
 
     QTest::newRow("Uart") << QStringList{
-        "comboBox_Comm",    "comboBox_Baudrate",  "comboBox_DataBit",
-        "comboBox_StopBit", "comboBox_Parity",    "lineEdit_SBytes",
-        "checkBox_CRC_EN",  "pushButton_OpenCom", "pushButton_SendAll"};
+        "comboBox_Comm",      "comboBox_Baudrate", "comboBox_DataBit", "comboBox_StopBit",
+        "comboBox_Parity",    "lineEdit_SBytes",   "checkBox_CRC_EN",  "checkBox_Reopen",
+        "pushButton_OpenCom", "pushButton_SendAll"};
     QTest::newRow("HID") << QStringList{"comboBox_Hid_Device",   "lineEdit_RpID",
                                         "lineEdit_SBytes_2",     "checkBox_CRC_EN_2",
                                         "pushButton_ConnectHID", "pushButton_SendAll_2"};
