@@ -34,6 +34,7 @@ Dialog::Dialog(QWidget *parent)
     setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     m_memory.restore();
     m_messages.setShownTime(m_memory.shownTime());
+    m_messages.setRecordingFile([this] { return m_recording.file(); });
     setUpCommands();
     setUpNotices();
     setUpSession();

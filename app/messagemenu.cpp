@@ -3,6 +3,7 @@
 #include "log/messagelog.h"
 #include "log/recordlog.h"
 
+#include <QActionGroup>
 #include <QContextMenuEvent>
 #include <QShortcut>
 #include <QTableWidget>
@@ -16,10 +17,14 @@ MessageMenu::MessageMenu(QTableWidget &table, MessageLog &log, const RecordLog &
     , m_log(log)
     , m_records(records)
     , m_copy(table, log, records)
+    , m_times(new QActionGroup(this))
 {
     m_table.installEventFilter(this);
     m_table.viewport()->installEventFilter(this);
     addCopyEntries();
+    m_menu.addSeparator();
+    addTimeEntries();
+    addViewEntries();
     m_menu.addSeparator();
     m_goToRow = addEntry(tr("&Go to its command"), int(Qt::CTRL) + int(Qt::Key_G),
                          [this] { emit rowWanted(rowOfOrigin()); });
@@ -65,6 +70,30 @@ void MessageMenu::addCopyEntries()
     addData(tr("Copy data as &Python bytes"), DataForm::Python);
 }
 
+void MessageMenu::addTimeEntries()
+{
+    QMenu *menu = m_menu.addMenu(tr("T&ime"));
+    const auto add = [this, menu](const QString &text, ShownTime shown) {
+        QAction *entry = m_times->addAction(menu->addAction(text));
+        entry->setCheckable(true);
+        entry->setData(int(shown));
+        connect(entry, &QAction::triggered, this, [this, shown] { m_log.setShownTime(shown); });
+    };
+    add(tr("Since the &row before"), ShownTime::SinceRowBefore);
+    add(tr("Of the &day"), ShownTime::OfDay);
+    add(tr("&Nothing"), ShownTime::Nothing);
+}
+
+void MessageMenu::addViewEntries()
+{
+    m_hold = addEntry(tr("&Hold"), int(Qt::CTRL) + int(Qt::Key_H),
+                      [this] { m_log.setFollowing(!m_hold->isChecked()); });
+    m_hold->setCheckable(true);
+    // Its key works in all of the window.
+    QAction *find = addEntry(tr("&Find…"), {}, [this] { emit findWanted(); });
+    find->setShortcut(QKeySequence::Find);
+}
+
 void MessageMenu::addKey(const QKeySequence &key, std::function<void()> reaction)
 {
     auto *shortcut = new QShortcut(key, &m_table);
@@ -103,6 +132,10 @@ void MessageMenu::refresh()
     for (QAction *entry : std::as_const(m_copyData)) {
         entry->setEnabled(hasData);
     }
+    for (QAction *entry : m_times->actions()) {
+        entry->setChecked(entry->data().toInt() == int(m_log.shownTime()));
+    }
+    m_hold->setChecked(!m_log.isFollowing());
     m_goToRow->setEnabled(rowOfOrigin() != 0);
 }
 

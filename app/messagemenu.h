@@ -9,6 +9,7 @@
 #include <optional>
 
 class MessageLog;
+class QActionGroup;
 class QTableWidget;
 class RecordLog;
 
@@ -29,6 +30,9 @@ public:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 signals:
+    /// Something is to be looked for in the log.
+    void findWanted();
+
     /// The command row with that identity is to be shown.
     void rowWanted(int id);
 
@@ -36,6 +40,8 @@ private:
     template<typename Reaction>
     QAction *addEntry(const QString &text, const QKeySequence &key, Reaction reaction);
     void addCopyEntries();
+    void addViewEntries();
+    void addTimeEntries();
     void addKey(const QKeySequence &key, std::function<void()> reaction);
     void trigger(QAction &entry);
     void popUp(const QPoint &place);
@@ -51,6 +57,8 @@ private:
     QMenu m_menu;
     QAction *m_copyRows = nullptr;
     QVector<QAction *> m_copyData;
+    QActionGroup *m_times;
+    QAction *m_hold = nullptr;
     QAction *m_goToRow = nullptr;
     std::function<bool(int id)> m_isThere;
 };

@@ -10,5 +10,6 @@ MessagePanel::MessagePanel(MessageArea &area, Session &session, QObject *parent)
     , m_menu(area.table(), m_log, session.log(), this)
 {
     area.follow(m_log);
+    connect(&m_menu, &MessageMenu::findWanted, &area, &MessageArea::openFind);
     m_log.setHold([&session] { return session.loop().isFrameNear(); });
 }

@@ -23,6 +23,9 @@ public:
     void setShownTime(ShownTime shown) { m_log.setShownTime(shown); }
     ShownTime shownTime() const { return m_log.shownTime(); }
 
+    /// What is asked for the file of the recording that runs; empty where none does.
+    void setRecordingFile(const std::function<QString()> &file) { m_log.setRecordingFile(file); }
+
 private:
     MessageLog m_log;
     MessageMenu m_menu;

@@ -54,6 +54,12 @@ RecordControl::~RecordControl()
     m_recorder.disconnect(this);
 }
 
+QString RecordControl::file() const
+{
+    return m_recorder.isRecording() ? QDir::toNativeSeparators(m_recorder.status().path)
+                                    : QString();
+}
+
 void RecordControl::startOrStop()
 {
     if (m_recorder.isRecording()) {

@@ -23,6 +23,9 @@ public:
                   QObject *parent = nullptr);
     ~RecordControl() override;
 
+    /// The file that a running recording writes; empty where none runs.
+    QString file() const;
+
 private:
     void startOrStop();
     void start();

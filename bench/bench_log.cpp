@@ -62,6 +62,26 @@ public:
         return 1000 * medianSeconds([this] { m_table.viewport()->repaint(); }, 51);
     }
 
+    /// For a full log, of which every row is looked at, and shown or hidden by turns.
+    double milliSecondsToFind(const QString &typed)
+    {
+        m_records.clear();
+        for (int row = 0; row < rowsOfAFullLog; ++row) {
+            m_records.appendReceived(m_frame, true, m_time);
+        }
+        m_log.bringIn();
+        bool isTyped = false;
+        const double seconds = medianSeconds(
+            [&] {
+                isTyped = !isTyped;
+                m_log.setFilter(LogFilter(isTyped ? typed : QStringLiteral("nowhere")));
+                QCoreApplication::processEvents();
+            },
+            21);
+        m_log.setFilter({});
+        return 1000 * seconds;
+    }
+
     double milliSecondsToClear()
     {
         return 1000 * medianSeconds([this] { m_records.clear(); });
@@ -88,6 +108,11 @@ int main(int argc, char *argv[])
     printFigure("a full log at once, not painted", log.costOfFullTable(), "us/row");
     printFigure("a flood of 60000 in one turn", log.cost(floodRows, floodRows), "us/row");
     printFigure("painting what is visible", log.milliSecondsToPaint(), "ms");
+    const QString displayFrame = QStringLiteral("16, a display frame");
+    printFigure("finding bytes in a full log", log.milliSecondsToFind("00 77"), "ms", displayFrame);
+    printFigure("finding a text in a full log", log.milliSecondsToFind("rx 1000"), "ms",
+                displayFrame);
+    printFigure("all rows of it again", log.milliSecondsToFind({}), "ms", displayFrame);
     printFigure("emptying a full log", log.milliSecondsToClear(), "ms");
     return 0;
 }

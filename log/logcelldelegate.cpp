@@ -102,5 +102,8 @@ QString LogCellDelegate::remark(const QModelIndex &index) const
 {
     const std::optional<RowTime> time =
         index.column() == LogColumn::Rest ? timeOf(index) : std::nullopt;
-    return time ? tipTimeText(*time) : QString();
+    QStringList lines{time ? tipTimeText(*time) : QString(),
+                      index.siblingAtColumn(LogColumn::Number).data(remarkRole).toString()};
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
 }

@@ -12,6 +12,8 @@ class LogCellDelegate : public PlainCellDelegate
 public:
     /// Where a cell of the last column carries its RowTime.
     static constexpr int timeRole = Qt::UserRole;
+    /// Where the first cell of a row carries what is said about all of the row.
+    static constexpr int remarkRole = Qt::UserRole + 1;
 
     using PlainCellDelegate::PlainCellDelegate;
 

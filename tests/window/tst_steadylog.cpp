@@ -18,6 +18,7 @@ private slots:
     void aLoopAtWorkStaysOnTheScreen_data();
     void aLoopAtWorkStaysOnTheScreen();
     void aNewRowIsAllThatIsPainted();
+    void whatWasMovedLooksAsPaintedAnew_data();
     void whatWasMovedLooksAsPaintedAnew();
 };
 
@@ -223,14 +224,25 @@ void TestSteadyLog::aNewRowIsAllThatIsPainted()
     QCOMPARE(bar.paints(), 0);
 }
 
+void TestSteadyLog::whatWasMovedLooksAsPaintedAnew_data()
+{
+    QTest::addColumn<QString>("sought");
+
+    QTest::newRow("all rows") << QString();
+    QTest::newRow("rows that were found") << "rx";
+}
+
 void TestSteadyLog::whatWasMovedLooksAsPaintedAnew()
 {
+    QFETCH(QString, sought);
+
     constexpr int more = 7;
     WindowDriver window;
     QVERIFY(QTest::qWaitForWindowExposed(&window.window()));
     fillView(window);
     RecordLog &log = window.records();
     window.messages()->selectRow(log.count() - 2);
+    window.window().findChild<MessageLog *>()->setFilter(LogFilter(sought));
     for (int row = 0; row < more; ++row) {
         log.appendSent(frame, false);
         appendAndSee(window);
