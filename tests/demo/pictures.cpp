@@ -25,7 +25,7 @@ constexpr int patienceMs = 10000;
 class Photographer
 {
 public:
-    Photographer(QString port, QString examples, QString folder);
+    Photographer(QString port, const QString &examples, const QString &folder);
 
     /// Whether every picture was taken.
     bool takeAll();
@@ -56,10 +56,10 @@ private:
     bool m_isGood = true;
 };
 
-Photographer::Photographer(QString port, QString examples, QString folder)
+Photographer::Photographer(QString port, const QString &examples, const QString &folder)
     : m_port(std::move(port))
-    , m_examples(std::move(examples))
-    , m_folder(std::move(folder))
+    , m_examples(examples)
+    , m_folder(folder)
 {
     m_window.window().show();
 }
