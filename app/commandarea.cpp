@@ -3,10 +3,13 @@
 #include "app/liststate.h"
 #include "app/tabletips.h"
 #include "ui_commandarea.h"
+#include "widgets/celltips.h"
 #include "widgets/leavingkeys.h"
 
 #include <QDir>
 #include <QShortcut>
+
+#include <utility>
 
 CommandArea::CommandArea(QWidget *parent)
     : QWidget(parent)
@@ -16,7 +19,7 @@ CommandArea::CommandArea(QWidget *parent)
     addButtonKey(*m_form->pushButton_LoadCommand, QKeySequence::Open);
     addButtonKey(*m_form->pushButton_SaveCommand, QKeySequence::Save);
     addLeavingKeys(*m_form->tableWidget_Register);
-    addTableTips(*m_form->tableWidget_Register);
+    m_tips = addTableTips(*m_form->tableWidget_Register);
 }
 
 CommandArea::~CommandArea() = default;
@@ -36,6 +39,11 @@ void CommandArea::setResting(bool resting)
 QTableWidget &CommandArea::table() const
 {
     return *m_form->tableWidget_Register;
+}
+
+void CommandArea::setCellRemark(std::function<QString(const QModelIndex &cell)> remark)
+{
+    m_tips->setRemark(std::move(remark));
 }
 
 void CommandArea::addButtonKey(QPushButton &button, QKeySequence::StandardKey key)

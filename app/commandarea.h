@@ -2,11 +2,13 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
 class CommandArea;
 }
+class CellTips;
 class ListState;
 class QPushButton;
 class QTableWidget;
@@ -30,9 +32,13 @@ public:
 
     QTableWidget &table() const;
 
+    /// What tells what the tip of a cell says besides.
+    void setCellRemark(std::function<QString(const QModelIndex &cell)> remark);
+
 private:
     void addButtonKey(QPushButton &button, QKeySequence::StandardKey key);
     void showList(const ListState &list);
 
     std::unique_ptr<Ui::CommandArea> m_form;
+    CellTips *m_tips;
 };

@@ -4,6 +4,7 @@
 #include "app/commandarea.h"
 #include "app/datafolder.h"
 #include "app/looparea.h"
+#include "app/replytips.h"
 #include "app/tabletips.h"
 #include "app/windowform.h"
 #include "log/logtable.h"
@@ -25,6 +26,7 @@ Dialog::Dialog(QWidget *parent)
     , m_loopPanel({*m_form->loopArea, *m_form->tabWidget, *m_form->tab, *m_form->tab_2,
                    *m_form->commandArea, *m_form->pushButton_SaveMessage},
                   this)
+    , m_loopStatus(m_session, m_status, this)
     , m_commands(*m_form->commandArea, m_settings.settings().isEditorFun != 0, *this)
     , m_messages(*m_form->messageArea, m_session, this)
     , m_files(*this, m_commands.rows(), m_list, m_session.log(), m_status)
@@ -123,6 +125,7 @@ void Dialog::setUpCommands()
     connect(&m_commands.editor(), &DirectEditor::SendData, this, &Dialog::editor_dataIn);
     connect(&m_commands, &CommandPanel::modified, &m_list, &ListState::setModified);
     m_form->commandArea->follow(m_list);
+    showReplyTimes(*m_form->commandArea, rows, m_session.replies());
     m_messages.menu().setRowCheck([this](int id) { return m_commands.rows().rowWithId(id) >= 0; });
     connect(&m_messages.menu(), &MessageMenu::rowWanted, &m_commands, &CommandPanel::goToRow);
 }

@@ -6,6 +6,7 @@
 #include "app/listfiles.h"
 #include "app/liststate.h"
 #include "app/looppanel.h"
+#include "app/loopstatus.h"
 #include "app/messagepanel.h"
 #include "app/recordcontrol.h"
 #include "app/settingskeeper.h"
@@ -99,6 +100,7 @@ private:
     Session m_session;
     LinkPanels m_links;
     LoopPanel m_loopPanel;
+    LoopStatus m_loopStatus;
     CommandPanel m_commands;
     MessagePanel m_messages;
     ListFiles m_files;

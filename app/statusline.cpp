@@ -35,6 +35,7 @@ void StatusLine::showLink(const QString &text)
     m_link = text;
     if (!text.isEmpty()) {
         m_told.clear();
+        m_loop.clear();
     }
     show();
 }
@@ -42,6 +43,12 @@ void StatusLine::showLink(const QString &text)
 void StatusLine::tell(const QString &text)
 {
     m_told = text;
+    show();
+}
+
+void StatusLine::showLoop(const QString &text)
+{
+    m_loop = text;
     show();
 }
 
@@ -71,14 +78,14 @@ void StatusLine::show()
 
 QString StatusLine::plainText() const
 {
-    QStringList lines{m_link, m_told};
+    QStringList lines{m_link, m_told, m_loop};
     lines.removeAll(QString());
     return withLineBreaks(lines.join(QLatin1String("\n\n")), lineLength);
 }
 
 QString StatusLine::htmlText() const
 {
-    QStringList lines{toHtml(m_link), toHtml(m_told),
+    QStringList lines{toHtml(m_link), toHtml(m_told), toHtml(m_loop),
                       toHtml(m_offer) +
                           QStringLiteral(" <a href=\"#\">%1</a>").arg(toHtml(m_linkText))};
     lines.removeAll(QString());

@@ -7,7 +7,7 @@
 class QLabel;
 
 /// What the user is told without being stopped, in labels that all say the same: what is open, the
-/// last thing told, and what is offered. Texts are plain.
+/// last thing told, how the loop goes, and what is offered. Texts are plain.
 class StatusLine : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,14 @@ public:
     explicit StatusLine(QList<QLabel *> labels, QObject *parent = nullptr);
 
     /// Shows the open link until the next call; nothing is open where the text is empty. With an
-    /// open link, what was told before it goes.
+    /// open link, what was told before it goes, and how a loop went.
     void showLink(const QString &text);
 
     /// Shows the text in place of the one told before; an empty one clears it.
     void tell(const QString &text);
+
+    /// Shows how the loop goes, or went, until the next call.
+    void showLoop(const QString &text);
 
     /// Shows the text and, behind it, a link by which the user accepts. That ends the offer, as
     /// another one does.
@@ -43,6 +46,7 @@ private:
     QList<QLabel *> m_labels;
     QString m_link;
     QString m_told;
+    QString m_loop;
     QString m_offer;
     QString m_linkText;
 };

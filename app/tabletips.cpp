@@ -13,10 +13,10 @@ static_assert(tipColumn == CommandColumn::Crc);
 
 } // namespace
 
-void addTableTips(QTableWidget &table)
+CellTips *addTableTips(QTableWidget &table)
 {
     table.setMouseTracking(true);
-    new CellTips(table, tipColumn, &table);
+    return new CellTips(table, tipColumn, &table);
 }
 
 void showInstantTip(const QModelIndex &cell)

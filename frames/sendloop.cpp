@@ -3,6 +3,8 @@
 #include "frames/alarmclock.h"
 #include "frames/sender.h"
 
+#include <utility>
+
 namespace {
 
 constexpr qint64 nsPerMs = 1000000;
@@ -28,7 +30,7 @@ void SendLoop::start(const LoopPlan &plan, LoopTiming timing)
     m_headerNotice = {};
     m_running = true;
     m_deadlines.meet(m_clock.now());
-    m_deadlines.wait(m_cycleDelayMs);
+    wait(m_cycleDelayMs);
     m_clock.setAlarm(m_deadlines.due());
 }
 
@@ -38,6 +40,7 @@ void SendLoop::stop()
     m_running = false;
     m_inPass = false;
     m_sentCount = 0;
+    m_awaited.reset();
     ++m_stops;
 }
 
@@ -125,13 +128,23 @@ void SendLoop::take(const LoopStep &step)
     if (step.sends()) {
         send(step);
     } else {
-        m_deadlines.wait(step.waitMs);
+        wait(step.waitMs);
+    }
+}
+
+void SendLoop::wait(int milliseconds)
+{
+    m_deadlines.wait(milliseconds);
+    if (milliseconds > 0) {
+        m_awaited = m_deadlines.due();
     }
 }
 
 void SendLoop::send(const LoopStep &step)
 {
     const unsigned stops = m_stops;
+    const qint64 now = m_clock.now();
+    const qint64 due = std::exchange(m_awaited, std::nullopt).value_or(now + 1);
     const bool isText = step.kind == LoopStep::Kind::Text;
     m_sentCount += isText ? 1 : 0;
     const QByteArray sent =
@@ -139,7 +152,10 @@ void SendLoop::send(const LoopStep &step)
                : m_sender.handOverBlock(step.block, step.parts);
     if (stops == m_stops) {
         m_deadlines.meet(m_clock.now());
-        m_deadlines.wait(step.waitMs);
+        wait(step.waitMs);
+    }
+    if (now >= due && !sent.isEmpty()) {
+        emit sentLate(now - due);
     }
     if (isText) {
         m_sender.tellFrame(sent);
@@ -157,6 +173,6 @@ void SendLoop::endPass()
         return;
     }
     m_deadlines.meet(m_clock.now());
-    m_deadlines.wait(m_cycleDelayMs);
+    wait(m_cycleDelayMs);
     m_clock.setAlarm(m_deadlines.due());
 }

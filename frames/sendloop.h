@@ -7,6 +7,8 @@
 
 #include <QObject>
 
+#include <optional>
+
 class AlarmClock;
 class Sender;
 
@@ -58,6 +60,10 @@ signals:
     /// That pass has begun, from 1; told when what it begins with is out.
     void passBegan(qint64 pass);
 
+    /// A frame, or a block of them, that the loop had waited for went out so many ns later than
+    /// planned. What comes before its time, since somebody ran a pass, is not told.
+    void sentLate(qint64 ns);
+
     /// The last pass is over; the loop is stopped.
     void finished();
 
@@ -70,6 +76,7 @@ private:
     bool mayGoOn();
     bool maySend();
     void take(const LoopStep &step);
+    void wait(int milliseconds);
     void send(const LoopStep &step);
     void endPass();
 
@@ -80,6 +87,8 @@ private:
     PassCount m_passes;
     HeaderNotice m_headerNotice;
     DeadlinePlan m_deadlines;
+    /// When what is sent next was due, if it was waited for.
+    std::optional<qint64> m_awaited;
     bool m_hasRows = false;
     bool m_running = false;
     bool m_inPass = false;

@@ -4,14 +4,14 @@
 
 namespace {
 
-constexpr int frameMs = 33;
 constexpr int askAgainMs = 2;
 constexpr int longestHoldMs = 50;
 
 } // namespace
 
-DisplayPace::DisplayPace(QObject *parent)
+DisplayPace::DisplayPace(QObject *parent, int frameMs)
     : QObject(parent)
+    , m_frameMs(frameMs)
 {
     m_frame.setSingleShot(true);
     m_frame.setTimerType(Qt::PreciseTimer);
@@ -58,6 +58,6 @@ void DisplayPace::show()
 {
     m_requested = false;
     m_heldSince.invalidate();
-    m_frame.start(frameMs);
+    m_frame.start(m_frameMs);
     emit due();
 }

@@ -7,13 +7,16 @@
 #include <functional>
 
 /// Says when what has changed is to be shown: at once after a quiet time, then once in a display
-/// frame of 33 ms, however often it changes. Nobody reads faster, and each showing costs.
+/// frame, however often it changes. Nobody reads faster, and each showing costs.
 class DisplayPace : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit DisplayPace(QObject *parent = nullptr);
+    /// How long a display frame is, in ms.
+    static constexpr int usualFrameMs = 33;
+
+    explicit DisplayPace(QObject *parent = nullptr, int frameMs = usualFrameMs);
 
     /// What is asked before anything is shown. While the answer is true, showing waits, but no
     /// longer than 50 ms.
@@ -31,6 +34,7 @@ private:
     bool isHeld();
     void show();
 
+    int m_frameMs;
     QTimer m_frame;
     bool m_requested = false;
     std::function<bool()> m_hold;

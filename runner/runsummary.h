@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runner/durations.h"
+#include "frames/durations.h"
 
 /// How a run went.
 struct RunSummary

@@ -19,6 +19,7 @@ LoopControl::LoopControl(Sender &sender, QObject *parent)
 {
     connect(&m_loop, &SendLoop::passDue, this, &LoopControl::passDue);
     connect(&m_loop, &SendLoop::passDue, &m_loop, &SendLoop::runPass);
+    connect(&m_loop, &SendLoop::sentLate, this, &LoopControl::sentLate);
     connect(&m_loop, &SendLoop::passBegan, this, &LoopControl::passBegan);
     connect(&m_loop, &SendLoop::finished, this, &LoopControl::stopped);
     connect(&m_loop, &SendLoop::foundNothing, this, [this] {

@@ -43,6 +43,9 @@ signals:
     /// That pass has begun, from 1; its first frames are out.
     void passBegan(qint64 pass);
 
+    /// A frame went out that the loop had waited for, so many ns later than planned.
+    void sentLate(qint64 ns);
+
     /// The loop was stopped, or its last pass is over.
     void stopped();
 

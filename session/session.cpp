@@ -15,6 +15,7 @@ Session::Session(const QString &deviceIdFile, const QString &portsFolder, QObjec
     , m_tap(m_links, m_sender, m_devices, m_format, this)
     , m_loop(m_sender, this)
     , m_reopener(m_links.serial(), makeSystemClock(), this)
+    , m_replies(m_sender, m_receiver, m_loop, this)
 {
     connectLinks();
     connectRecords();

@@ -9,6 +9,7 @@
 #include "session/loopcontrol.h"
 #include "session/portreopener.h"
 #include "session/receivedheader.h"
+#include "session/replymeter.h"
 #include "session/wiretap.h"
 
 #include <QObject>
@@ -54,6 +55,9 @@ public:
     DeviceWatch &devices() { return m_devices; }
     PortReopener &reopener() { return m_reopener; }
 
+    /// How soon rows are answered, and how the loop goes.
+    const ReplyMeter &replies() const { return m_replies; }
+
     /// Everything that goes over the wire, for a recording.
     WireTap &tap() { return m_tap; }
 
@@ -87,4 +91,5 @@ private:
     WireTap m_tap;
     LoopControl m_loop;
     PortReopener m_reopener;
+    ReplyMeter m_replies;
 };

@@ -12,6 +12,7 @@
 #include <QToolTip>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -51,6 +52,11 @@ CellTips::CellTips(QTableView &table, int columnWithInstantTip, QObject *parent)
 {
     m_table.viewport()->installEventFilter(this);
     connect(&m_table, &QTableView::entered, this, &CellTips::onEntered);
+}
+
+void CellTips::setRemark(std::function<QString(const QModelIndex &cell)> remark)
+{
+    m_remark = std::move(remark);
 }
 
 bool CellTips::eventFilter(QObject *object, QEvent *event)
@@ -93,6 +99,10 @@ QString CellTips::tipOf(const QModelIndex &cell) const
     if (const auto *delegate = qobject_cast<PlainCellDelegate *>(m_table.itemDelegate(cell))) {
         lines.append(delegate->fault(cell));
         lines.append(delegate->remark(cell));
+    }
+    lines.append(cell.data(Qt::ToolTipRole).toString());
+    if (m_remark) {
+        lines.append(m_remark(cell));
     }
     lines.removeAll(QString());
     return lines.join(QLatin1Char('\n'));

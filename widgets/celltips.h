@@ -2,13 +2,16 @@
 
 #include <QObject>
 
+#include <functional>
+
 class QModelIndex;
 class QTableView;
 
 /// Shows a cell's text at the mouse, wrapped so that it stays on the screen, until the mouse goes.
 void showCellText(const QString &text);
 
-/// Tips that come when the mouse rests on a cell of a table: the text of one that is cut off, and
+/// Tips that come when the mouse rests on a cell of a table: the text of one that is cut off, what
+/// its item has as its tip, and
 /// what its delegate says about it (see PlainCellDelegate::fault and remark). In one column the
 /// whole text is shown as soon as the mouse enters, by somebody else; its tip stays.
 class CellTips : public QObject
@@ -18,6 +21,9 @@ class CellTips : public QObject
 public:
     /// The table must outlive this.
     CellTips(QTableView &table, int columnWithInstantTip, QObject *parent = nullptr);
+
+    /// What tells what else there is to say about a cell; empty where there is nothing.
+    void setRemark(std::function<QString(const QModelIndex &cell)> remark);
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
@@ -30,4 +36,5 @@ private:
 
     QTableView &m_table;
     int m_columnWithInstantTip;
+    std::function<QString(const QModelIndex &cell)> m_remark;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QHelpEvent>
 #include <QImage>
 #include <QTableWidget>

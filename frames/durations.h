@@ -2,10 +2,11 @@
 
 #include <QtGlobal>
 
-#include <array>
+#include <vector>
 
-/// How long things took: the least, the most, and how many took how long, in a table of a fixed
-/// size however many there are.
+/// How long things took: the least, the most, and how many took how long, in a table that grows
+/// with the range they are in, not with their number: to 1 KiB for each power of two, 58 KiB at
+/// most.
 class Durations
 {
 public:
@@ -27,12 +28,14 @@ private:
     /// Each power of two is cut into so many parts.
     static constexpr int partBits = 7;
     static constexpr int parts = 1 << partBits;
-    static constexpr int powers = 64 - partBits;
 
+    void makeRoomFor(int place);
     static int placeOf(quint64 ns);
     static qint64 highestOf(int place);
 
-    std::array<qint64, size_t(powers + 1) * parts> m_counts{};
+    /// From the power of two of the least one to that of the most.
+    std::vector<qint64> m_counts;
+    int m_firstPlace = 0;
     qint64 m_count = 0;
     qint64 m_least = 0;
     qint64 m_most = 0;

@@ -1,4 +1,4 @@
-#include "runner/durations.h"
+#include "frames/durations.h"
 
 #include <QtAlgorithms>
 
@@ -10,7 +10,25 @@ void Durations::add(qint64 ns)
     m_least = m_count == 0 ? value : std::min(m_least, value);
     m_most = std::max(m_most, value);
     ++m_count;
-    ++m_counts.at(static_cast<size_t>(placeOf(static_cast<quint64>(value))));
+    const int place = placeOf(static_cast<quint64>(value));
+    makeRoomFor(place);
+    ++m_counts[static_cast<size_t>(place - m_firstPlace)];
+}
+
+void Durations::makeRoomFor(int place)
+{
+    const int power = place / parts * parts;
+    if (m_counts.empty()) {
+        m_firstPlace = power;
+    }
+    if (power < m_firstPlace) {
+        m_counts.insert(m_counts.begin(), static_cast<size_t>(m_firstPlace - power), 0);
+        m_firstPlace = power;
+    }
+    const auto needed = static_cast<size_t>(power + parts - m_firstPlace);
+    if (m_counts.size() < needed) {
+        m_counts.resize(needed);
+    }
 }
 
 qint64 Durations::percentile(int percent) const
@@ -21,7 +39,7 @@ qint64 Durations::percentile(int percent) const
     for (size_t place = 0; place < m_counts.size(); ++place) {
         passed += m_counts.at(place);
         if (passed >= wanted) {
-            return std::clamp(highestOf(static_cast<int>(place)), m_least, m_most);
+            return std::clamp(highestOf(m_firstPlace + static_cast<int>(place)), m_least, m_most);
         }
     }
     return m_most;

@@ -1,4 +1,4 @@
-#include "runner/durations.h"
+#include "frames/durations.h"
 
 #include <QtTest>
 
@@ -18,6 +18,7 @@ private slots:
     void smallOnesAreExact();
     void percentilesAreCloseToTheSortedOnes();
     void theLongestFits();
+    void theirOrderIsNoMatter();
 };
 
 void TestDurations::noneAtAll()
@@ -75,6 +76,26 @@ void TestDurations::theLongestFits()
     const auto times = std::make_unique<Durations>();
     times->add(std::numeric_limits<qint64>::max());
     QCOMPARE(times->median(), std::numeric_limits<qint64>::max());
+}
+
+void TestDurations::theirOrderIsNoMatter()
+{
+    QVector<qint64> values;
+    for (qint64 value = 1; value < qint64(1) << 40; value = value * 3 + 1) {
+        values.append(value);
+    }
+    Durations rising;
+    Durations falling;
+    for (int i = 0; i < values.size(); ++i) {
+        rising.add(values.at(i));
+        falling.add(values.at(values.size() - 1 - i));
+    }
+    QCOMPARE(rising.least(), falling.least());
+    QCOMPARE(rising.most(), falling.most());
+    for (int percent = 0; percent <= 100; ++percent) {
+        QCOMPARE(rising.percentile(percent), falling.percentile(percent));
+    }
+    QVERIFY(rising.median() > 1000);
 }
 
 QTEST_APPLESS_MAIN(TestDurations)
