@@ -21,3 +21,22 @@ bool askToSaveCommands()
     question.setStyleSheet(windowStyle());
     return question.exec() == QMessageBox::Yes;
 }
+
+UnsavedCommands askAboutUnsavedCommands()
+{
+    QMessageBox question(
+        QMessageBox::Question, QCoreApplication::translate("Dialog", "Message"),
+        QCoreApplication::translate(
+            "Dialog", "The commands were changed. Do you want to save them before others are "
+                      "loaded?"),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    question.setStyleSheet(windowStyle());
+    switch (question.exec()) {
+    case QMessageBox::Save:
+        return UnsavedCommands::Save;
+    case QMessageBox::Discard:
+        return UnsavedCommands::Discard;
+    default:
+        return UnsavedCommands::Keep;
+    }
+}

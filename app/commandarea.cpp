@@ -46,6 +46,11 @@ void CommandArea::setCellRemark(std::function<QString(const QModelIndex &cell)> 
     m_tips->setRemark(std::move(remark));
 }
 
+QPushButton &CommandArea::loadButton() const
+{
+    return *m_form->pushButton_LoadCommand;
+}
+
 void CommandArea::addButtonKey(QPushButton &button, QKeySequence::StandardKey key)
 {
     // A button's own shortcut would make it hold the key, and its caption show it.

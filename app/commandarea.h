@@ -31,6 +31,7 @@ public:
     void setResting(bool resting);
 
     QTableWidget &table() const;
+    QPushButton &loadButton() const;
 
     /// What tells what the tip of a cell says besides.
     void setCellRemark(std::function<QString(const QModelIndex &cell)> remark);

@@ -30,6 +30,7 @@ Dialog::Dialog(QWidget *parent)
     , m_commands(*m_form->commandArea, m_settings.settings().isEditorFun != 0, *this)
     , m_messages(*m_form->messageArea, m_session, this)
     , m_files(*this, m_commands.rows(), m_list, m_session.log(), m_status)
+    , m_entrances(m_form->commandArea->loadButton(), m_files, m_status, this)
     , m_recording(*m_form->recordPanel, m_session, m_status, m_memory, this)
     , m_helpKey(*this, QCoreApplication::applicationDirPath(), this)
 {
@@ -106,6 +107,7 @@ void Dialog::setUpSession()
     m_loopPanel.follow(m_session);
     m_loopPanel.remember(m_memory);
     m_links.remember(m_memory);
+    m_entrances.remember(m_memory);
     connect(&m_links, &LinkPanels::listsDue, this, &Dialog::Timer1_Out_Event);
     m_links.watchDevices([this] { return quintptr(winId()); });
 }

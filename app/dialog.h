@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/commandpanel.h"
+#include "app/fileentrances.h"
 #include "app/helpkey.h"
 #include "app/linkpanels.h"
 #include "app/listfiles.h"
@@ -104,6 +105,7 @@ private:
     CommandPanel m_commands;
     MessagePanel m_messages;
     ListFiles m_files;
+    FileEntrances m_entrances;
     RecordControl m_recording;
     HelpKey m_helpKey;
     bool m_isEnding = false;

@@ -57,7 +57,14 @@ void FileActions::loadCommandsAt(const QString &path)
 {
     const QString fileName = QFileDialog::getOpenFileName(m_window, tr("Select command txt files"),
                                                           path, QStringLiteral("*.txt"));
-    if (fileName.isEmpty() || !loadCommandsFrom(fileName)) {
+    if (!fileName.isEmpty()) {
+        loadCommandFile(fileName);
+    }
+}
+
+void FileActions::loadCommandFile(const QString &fileName)
+{
+    if (!loadCommandsFrom(fileName)) {
         return;
     }
     m_lastLoadFolder = folderOf(fileName);

@@ -31,6 +31,8 @@ public:
     void loadCommands();
     /// The same, with the dialog open at a file.
     void loadCommandsAt(const QString &path);
+    /// Loads a file without a dialog.
+    void loadCommandFile(const QString &fileName);
     void saveCommands();
     void saveMessages();
 

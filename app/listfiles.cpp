@@ -1,5 +1,6 @@
 #include "app/listfiles.h"
 
+#include "app/boxes.h"
 #include "app/datafolder.h"
 #include "app/liststate.h"
 #include "app/settings.h"
@@ -27,6 +28,27 @@ void ListFiles::save()
 {
     m_commands.takeInEdit();
     m_actions.saveCommands();
+}
+
+void ListFiles::loadFrom(const QString &path)
+{
+    m_commands.takeInEdit();
+    if (mayReplaceList()) {
+        m_actions.loadCommandFile(path);
+    }
+}
+
+/// Whoever wants the list saved, and then closes the dialog or has no room for it, keeps it.
+bool ListFiles::mayReplaceList()
+{
+    if (!m_list.isModified()) {
+        return true;
+    }
+    const UnsavedCommands decision = askAboutUnsavedCommands();
+    if (decision == UnsavedCommands::Save) {
+        save();
+    }
+    return decision == UnsavedCommands::Discard || !m_list.isModified();
 }
 
 void ListFiles::takeFolders(const Settings &settings)
@@ -65,6 +87,7 @@ void ListFiles::followActions()
     connect(&m_actions, &FileActions::commandsStored, this, [this](const QString &path) {
         m_list.setStored(path);
         m_recovery.discard();
+        emit stored(path);
     });
     connect(&m_actions, &FileActions::commandsRecovered, this, &ListFiles::takeRecovered);
     connect(&m_actions, &FileActions::overwriting, this, [this] { m_recovery.write(); });

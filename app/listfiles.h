@@ -23,6 +23,8 @@ public:
               StatusLine &status);
 
     void load() { m_actions.loadCommands(); }
+    /// Loads that file, but first asks what is to become of a modified list.
+    void loadFrom(const QString &path);
     void save();
     void saveMessages() { m_actions.saveMessages(); }
 
@@ -40,12 +42,16 @@ public:
     void discardKept() { m_recovery.discard(); }
 
 signals:
+    /// The list is as it is in this file: it was loaded or saved.
+    void stored(const QString &path);
+
     /// Something the user must be told; handlers may block.
     void notice(const QString &text);
 
 private:
     FileSources sources() const;
     void followActions();
+    bool mayReplaceList();
     void takeRecovered(const QString &path);
 
     CommandTable &m_commands;

@@ -42,6 +42,10 @@ public:
     bool reopens() const { return m_place.reopens; }
     void setReopens(bool reopens) { m_place.reopens = reopens; }
 
+    /// The command files that were used last, the last one first.
+    QStringList recentFiles() const { return m_place.recentFiles; }
+    void setRecentFiles(const QStringList &files) { m_place.recentFiles = files; }
+
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:

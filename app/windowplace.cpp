@@ -1,5 +1,7 @@
 #include "app/windowplace.h"
 
+#include "app/initext.h"
+
 #include <QHash>
 #include <QMargins>
 #include <QRegion>
@@ -69,6 +71,23 @@ const QHash<QByteArray, ShownTime> shownTimes{{"since", ShownTime::SinceRowBefor
                                               {"day", ShownTime::OfDay},
                                               {"nothing", ShownTime::Nothing}};
 
+QByteArray recentFileKey(int place)
+{
+    return "file" + QByteArray::number(place);
+}
+
+QStringList recentFilesOf(const Entries &entries)
+{
+    QStringList files;
+    for (int place = 1; entries.contains(recentFileKey(place)); ++place) {
+        const QString file = iniText(entries.value(recentFileKey(place))).value_or(QString());
+        if (!file.isEmpty()) {
+            files.append(file);
+        }
+    }
+    return files;
+}
+
 QByteArray entry(const QByteArray &key, int value)
 {
     return key + '=' + QByteArray::number(value) + '\n';
@@ -101,6 +120,7 @@ WindowPlace parseWindowPlace(const QByteArray &text)
     place.recordings = QString::fromUtf8(entries.value("recordings"));
     place.repeat = numberIn(entries.value("repeat"), 1, mostRepeats).value_or(0);
     place.shownTime = shownTimes.value(entries.value("time"), ShownTime::SinceRowBefore);
+    place.recentFiles = recentFilesOf(entries);
     place.reopens = entries.value("reopen") == "1";
     return place;
 }
@@ -130,6 +150,9 @@ QByteArray formatWindowPlace(const WindowPlace &place)
     }
     if (place.reopens) {
         text += entry("reopen", 1);
+    }
+    for (int i = 0; i < place.recentFiles.size(); ++i) {
+        text += recentFileKey(i + 1) + '=' + iniValue(place.recentFiles.at(i)) + '\n';
     }
     return text;
 }

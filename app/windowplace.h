@@ -6,6 +6,7 @@
 #include <QList>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <optional>
@@ -30,6 +31,8 @@ struct WindowPlace
     ShownTime shownTime = ShownTime::SinceRowBefore;
     /// A lost port is opened again.
     bool reopens = false;
+    /// The command files that were used last, the last one first.
+    QStringList recentFiles;
 };
 
 /// Reads what formatWindowPlace() wrote. What is missing or makes no sense stays unknown.

@@ -50,6 +50,8 @@ void TestWindowPlace::whatIsWrittenIsRead_data()
     recording.recordings = QString::fromUtf8("/home/me/a = b/\u6E29");
     recording.repeat = 99999;
     recording.reopens = true;
+    recording.recentFiles = QStringList{QString::fromUtf8("/home/me/a = b/\u6E29;,.txt"),
+                                        "/a\nb\\x41\".txt", " /a ", "@Variant(1)", "/last%1"};
     QTest::newRow("choices") << recording;
     for (const ShownTime shown : {ShownTime::OfDay, ShownTime::Nothing}) {
         WindowPlace other = place(inside);
@@ -70,6 +72,7 @@ void TestWindowPlace::whatIsWrittenIsRead()
     QCOMPARE(read.repeat, written.repeat);
     QCOMPARE(read.shownTime, written.shownTime);
     QCOMPARE(read.reopens, written.reopens);
+    QCOMPARE(read.recentFiles, written.recentFiles);
 }
 
 void TestWindowPlace::theFileIsPlain()
