@@ -28,6 +28,14 @@ QString directionMark(LogRecord::Kind kind)
     return {};
 }
 
+/// The log may have emptied itself since the menu was opened: then what was copied before stays.
+void putOnClipboard(const QString &text)
+{
+    if (!text.isEmpty()) {
+        QApplication::clipboard()->setText(text);
+    }
+}
+
 } // namespace
 
 MessageCopy::MessageCopy(QTableWidget &table, MessageLog &log, const RecordLog &records)
@@ -54,7 +62,7 @@ void MessageCopy::copyRows() const
                     copiedTimeText(rowTimeOf(m_records.records(), row)) + QLatin1Char('\n');
         }
     }
-    QApplication::clipboard()->setText(text);
+    putOnClipboard(text);
 }
 
 void MessageCopy::copyData(DataForm form) const
@@ -63,7 +71,7 @@ void MessageCopy::copyData(DataForm form) const
     for (const int row : selectedRows()) {
         data.append(dataOf(m_records.records().at(row)));
     }
-    QApplication::clipboard()->setText(dataText(data, form));
+    putOnClipboard(dataText(data, form));
 }
 
 QVector<int> MessageCopy::selectedRows() const

@@ -264,7 +264,9 @@ void TestLogFind::theHeadKeepsItsPlace()
     QVERIFY(place("label_11").right() < place("lineEdit_Find").left());
     QVERIFY(place("lineEdit_Find").right() < place("label_FindCount").left());
     QVERIFY(place("label_FindCount").right() < place("label_Held").left());
-    QVERIFY(place("label_Held").right() < place("label_MessageCount").left());
+    constexpr int farthest = 20;
+    const int gap = place("label_MessageCount").left() - place("label_Held").right();
+    QVERIFY(gap > 0 && gap < farthest);
     QTest::keyClick(field(), Qt::Key_Escape);
     QTRY_COMPARE(place("label_MessageCount"), count);
 }
