@@ -6,13 +6,16 @@
 #include "windowdriver.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QEventLoop>
 #include <QLabel>
 #include <QMenu>
 #include <QPixmap>
 #include <QScreen>
 #include <QTabWidget>
 #include <QTextStream>
+#include <QTimer>
 #include <QtTest>
 
 #include <utility>
@@ -20,6 +23,24 @@
 namespace {
 
 constexpr int patienceMs = 10000;
+
+/// Waits in the event loop; QtTest's own waiting sleeps in between, and times are in the pictures.
+template<typename Condition>
+bool waitFor(Condition isSo)
+{
+    constexpr int lookMs = 20;
+    QEventLoop loop;
+    QTimer look;
+    const QDeadlineTimer end(patienceMs);
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+        if (isSo() || end.hasExpired()) {
+            loop.quit();
+        }
+    });
+    look.start(lookMs);
+    loop.exec();
+    return isSo();
+}
 
 /// The window at work, and where its pictures go.
 class Photographer
@@ -73,7 +94,7 @@ bool Photographer::takeAll()
 bool Photographer::openPort()
 {
     QComboBox &ports = *m_window.combo("comboBox_Comm");
-    if (!QTest::qWaitFor([&] { return ports.findText(m_port) >= 0; }, patienceMs)) {
+    if (!waitFor([&] { return ports.findText(m_port) >= 0; })) {
         return false;
     }
     ports.setCurrentIndex(ports.findText(m_port));
@@ -92,8 +113,7 @@ void Photographer::load(const QString &example)
 bool Photographer::waitForMessages(int count)
 {
     const auto *counted = m_window.find<QLabel>("label_MessageCount");
-    return QTest::qWaitFor([&] { return counted->text().section(' ', 0, 0).toInt() >= count; },
-                           patienceMs);
+    return waitFor([&] { return counted->text().section(' ', 0, 0).toInt() >= count; });
 }
 
 /// A right click on the row, after which a menu stands at the mouse.
@@ -174,8 +194,7 @@ bool Photographer::takeRecording()
     m_window.click("pushButton_Record");
     m_window.click("pushButton_SendAll");
     const auto *label = m_window.find<QLabel>("label_Record");
-    const bool isRecorded =
-        QTest::qWaitFor([label] { return label->text().contains("14 events"); }, patienceMs);
+    const bool isRecorded = waitFor([label] { return label->text().contains("14 events"); });
     saveSide("record.png");
     m_window.click("pushButton_Record");
     return isRecorded;
@@ -202,7 +221,7 @@ bool Photographer::takeEditor()
     menus.choose("edit");
     askForMenu(5);
     auto *editor = m_window.find<QDialog>("DirectEditor");
-    if (editor == nullptr || !QTest::qWaitFor([&] { return editor->isVisible(); }, patienceMs)) {
+    if (editor == nullptr || !waitFor([&] { return editor->isVisible(); })) {
         return false;
     }
     editor->findChild<QComboBox *>("comboBox_dataType")->setCurrentText("int");
