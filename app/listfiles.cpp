@@ -3,9 +3,9 @@
 #include "app/boxes.h"
 #include "app/datafolder.h"
 #include "app/liststate.h"
-#include "app/settings.h"
 #include "app/statusline.h"
 #include "commands/commandtable.h"
+#include "files/settings.h"
 #include "log/logtexts.h"
 #include "log/recordlog.h"
 

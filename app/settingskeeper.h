@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/settings.h"
+#include "files/settings.h"
 
 class ListFiles;
 class Session;

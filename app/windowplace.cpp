@@ -1,6 +1,6 @@
 #include "app/windowplace.h"
 
-#include "app/initext.h"
+#include "files/initext.h"
 
 #include <QHash>
 #include <QMargins>

@@ -43,7 +43,9 @@ QString whyUnread(const QString &name, FileContent::Outcome outcome)
 void addFile(const TestFile &file, const RunOptions &options, ReadPlan &result)
 {
     QVector<FileFault> faults = file.faults;
-    result.plan.files.append(planFile(file, options.settings, options.rules.rows, faults));
+    TestFile completed = file;
+    completed.settings = merged(file.settings, options.defaults);
+    result.plan.files.append(planFile(completed, options.settings, options.rules.rows, faults));
     for (const FileFault &fault : faults) {
         result.faults.append(faultText(file.name, fault));
     }

@@ -7,7 +7,7 @@
 
 PipeJob::PipeJob(const RunOptions &options)
     : m_options(options)
-    , m_format(emptyPlan(QStringLiteral("-"), options.settings))
+    , m_format(emptyPlan(QStringLiteral("-"), merged(options.settings, options.defaults)))
     , m_session(deviceIdFilePath(), {})
     , m_wire(m_session)
     , m_clock(makeSystemClock())

@@ -8,6 +8,7 @@
 #include "runner/pipejob.h"
 #include "runner/rowtrial.h"
 #include "runner/testjob.h"
+#include "runner/windowsettings.h"
 #include "system/endsignals.h"
 
 #include <QCoreApplication>
@@ -146,6 +147,23 @@ ExitCode perform(const RunOptions &options)
     return runFiles(options);
 }
 
+/// With what the window's settings file says, where one is named.
+ExitCode performWithSettings(RunOptions options)
+{
+    if (options.settingsFile.isEmpty()) {
+        return perform(options);
+    }
+    const WindowSettings read = readWindowSettings(options.settingsFile);
+    if (!read.faults.isEmpty()) {
+        return refuse(read.faults);
+    }
+    options.defaults = read.settings;
+    // A command file may still say otherwise, but nothing does to a pipe.
+    const QString error =
+        options.task == RunOptions::Task::Pipe ? contradictionIn(options) : QString();
+    return error.isEmpty() ? perform(options) : refuse({error});
+}
+
 } // namespace
 
 int runProgram(const QStringList &arguments)
@@ -153,7 +171,7 @@ int runProgram(const QStringList &arguments)
     outliveReaders();
     const ParsedOptions parsed = parseRunOptions(arguments);
     const ExitCode code = parsed.error.isEmpty()
-                              ? perform(parsed.options)
+                              ? performWithSettings(parsed.options)
                               : refuse({parsed.error + QStringLiteral(" See --help.")});
     return static_cast<int>(code);
 }

@@ -33,9 +33,11 @@ void declareRunOptions(QCommandLineParser &parser)
         {"wait-link", "Waits that long for the link.", "SECONDS"},
         {"start", "The start bytes of frames (5AA5).", "5AA5"},
         {"no-start", "Frames have no start bytes; silence ends them."},
+        {"length", "Frames have a length field; so they have without an option."},
         {"no-length", "Frames have no length field; silence ends them."},
         {"crc", "Frames carry a CRC."},
         {"no-crc", "Frames carry no CRC."},
+        {"settings", "Takes over what the window's settings file says of frames.", "FILE"},
         {"gap", "The silence that ends a frame (5).", "MS"},
         {"selected", "Sends the selected rows; so it does without an option."},
         {"all", "Sends all rows."},
@@ -133,10 +135,12 @@ void readFrames(OptionReader &reader, FileSettings &settings)
 {
     reader.atMostOneOf({"crc", "no-crc"});
     reader.atMostOneOf({"start", "no-start"});
+    reader.atMostOneOf({"length", "no-length"});
     reader.readSwitch("crc", true, settings.withCrc);
     reader.readSwitch("no-crc", false, settings.withCrc);
     reader.readSwitch("start", true, settings.withStartBytes);
     reader.readSwitch("no-start", false, settings.withStartBytes);
+    reader.readSwitch("length", true, settings.withLength);
     reader.readSwitch("no-length", false, settings.withLength);
     reader.read("start", "two bytes such as 5AA5", [&settings](const QString &text) {
         settings.startBytes = startBytesOf(text);
@@ -201,10 +205,16 @@ bool opensLink(RunOptions::Task task)
     return task == RunOptions::Task::Run || task == RunOptions::Task::Pipe;
 }
 
-bool isForSimulatedDevice(const FileSettings &settings)
+/// Where nothing is said by the command line, a command file may say it.
+bool isForSimulatedDevice(const FileSettings &settings, const FileSettings &defaults)
 {
-    return settings.withStartBytes.value_or(true) && settings.withLength.value_or(true);
+    const bool withStartBytes = defaults.withStartBytes.value_or(true);
+    const bool withLength = defaults.withLength.value_or(true);
+    return settings.withStartBytes.value_or(withStartBytes) &&
+           settings.withLength.value_or(withLength);
 }
+
+} // namespace
 
 QString contradictionIn(const RunOptions &options)
 {
@@ -222,13 +232,11 @@ QString contradictionIn(const RunOptions &options)
         return QStringLiteral("A link is missing: --port, --hid or --sim.");
     }
     if (options.link.kind == LinkChoice::Kind::Simulated &&
-        !isForSimulatedDevice(options.settings)) {
+        !isForSimulatedDevice(options.settings, options.defaults)) {
         return QStringLiteral("The simulated device needs start bytes and length.");
     }
     return {};
 }
-
-} // namespace
 
 ParsedOptions parseRunOptions(const QStringList &arguments)
 {
@@ -246,6 +254,7 @@ ParsedOptions parseRunOptions(const QStringList &arguments)
     options.files = parser.positionalArguments();
     readLink(reader, options.link);
     readFrames(reader, options.settings);
+    reader.readText("settings", options.settingsFile);
     readRules(reader, options.rules);
     readOutput(reader, options.output);
     const bool isAside =

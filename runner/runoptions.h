@@ -72,6 +72,10 @@ struct RunOptions
     LinkChoice link;
     /// What goes before the settings in the files.
     FileSettings settings;
+    /// The window's settings file; empty for none.
+    QString settingsFile;
+    /// What counts where neither the command line nor a file says anything.
+    FileSettings defaults;
     RunRules rules;
     OutputOptions output;
 };
@@ -85,6 +89,9 @@ struct ParsedOptions
 
 /// Reads a command line, the program's name being the first argument.
 ParsedOptions parseRunOptions(const QStringList &arguments);
+
+/// Why the options can't be carried out, with the defaults that are in them; empty where they can.
+QString contradictionIn(const RunOptions &options);
 
 /// What --help prints. Needs the application object, whose name it shows.
 QString runHelpText();

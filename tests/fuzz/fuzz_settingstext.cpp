@@ -1,4 +1,4 @@
-#include "app/settingstext.h"
+#include "files/settingstext.h"
 #include "fuzzing.h"
 
 namespace {

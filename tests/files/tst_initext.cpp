@@ -1,4 +1,4 @@
-#include "app/initext.h"
+#include "files/initext.h"
 
 #include <QFile>
 #include <QSettings>

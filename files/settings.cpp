@@ -1,18 +1,12 @@
-#include "app/settings.h"
+#include "files/settings.h"
 
-#include "app/settingstext.h"
 #include "files/filesaver.h"
+#include "files/settingstext.h"
 #include "system/filereader.h"
 
 #include <QFileInfo>
 
 #include <utility>
-
-namespace {
-
-constexpr int largestSettingsFile = 1024 * 1024;
-
-} // namespace
 
 SettingsFile::SettingsFile(QString path)
     : m_path(std::move(path))

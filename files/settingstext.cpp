@@ -1,6 +1,6 @@
-#include "app/settingstext.h"
+#include "files/settingstext.h"
 
-#include "app/initext.h"
+#include "files/initext.h"
 
 #include <QVector>
 
@@ -34,12 +34,15 @@ public:
         m_begin = m_end;
         const int lineEnd = m_content.indexOf('\n', m_begin);
         m_end = lineEnd < 0 ? m_content.size() : lineEnd + 1;
+        ++m_number;
         takeApart(line().trimmed());
         return m_begin < m_content.size();
     }
 
     /// The line with its end.
     QByteArray line() const { return m_content.mid(m_begin, m_end - m_begin); }
+    /// Its number, from 1.
+    int number() const { return m_number; }
     bool beginsOurGroup() const { return m_isHeader && m_isInOurGroup; }
     /// Empty outside our group.
     QByteArray key() const { return m_key; }
@@ -63,6 +66,7 @@ private:
     const QByteArray &m_content;
     int m_begin = 0;
     int m_end = 0;
+    int m_number = 0;
     bool m_isHeader = false;
     bool m_isInOurGroup = false;
     QByteArray m_key;
@@ -151,6 +155,30 @@ Settings settingsIn(const QByteArray &content)
         take(settings, walk.key(), walk.value());
     }
     return settings;
+}
+
+QVector<SettingsFault> faultsInSettings(const QByteArray &content)
+{
+    const QVector<QByteArray> numbers{linkModeKey, isEditorFunKey, noAppendHeaderKey,
+                                      noAppendLengthKey};
+    QVector<SettingsFault> faults;
+    bool hasOurGroup = false;
+    LineWalk walk(content);
+    while (walk.next()) {
+        hasOurGroup = hasOurGroup || walk.beginsOurGroup();
+        bool isNumber = false;
+        iniText(walk.value()).value_or(QString()).toInt(&isNumber);
+        if (numbers.contains(walk.key()) && !isNumber) {
+            faults.append({walk.number(), QStringLiteral("the value of %1 is no whole number")
+                                              .arg(QString::fromLatin1(walk.key()))});
+        }
+    }
+    if (!hasOurGroup) {
+        faults.append(
+            {1,
+             QStringLiteral("there is no group [%1] in it").arg(QString::fromLatin1(groupName))});
+    }
+    return faults;
 }
 
 QByteArray withSettings(const QByteArray &content, const Settings &settings)
