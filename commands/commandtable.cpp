@@ -222,7 +222,7 @@ CheckedRow CommandTable::currentRow() const
 CheckedRow CommandTable::checkedRow(int row) const
 {
     const CommandRow command = this->row(row);
-    return {row + 1, frameText(command), command.description, command.id};
+    return {row + 1, frameText(command), command.description, command.id, command.expectations};
 }
 
 QVector<CheckedRow> CommandTable::checkedRows() const

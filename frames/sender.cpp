@@ -92,7 +92,9 @@ QByteArray Sender::handOverText(const QString &frameText, HeaderNotice &header,
         tellNothingToSend();
         return {};
     }
-    return handOverBlock(frame, {{frame.size(), row.row, row.description, row.rowId}});
+    BlockPart part = row;
+    part.size = frame.size();
+    return handOverBlock(frame, {part});
 }
 
 QByteArray Sender::handOverBlock(const QByteArray &block, const QVector<BlockPart> &parts)

@@ -93,7 +93,7 @@ LoopStep queueStep(const QueueEntry &entry)
 
 BlockPart partOf(const CheckedRow &row, int size)
 {
-    return {size, row.number, row.description, row.id};
+    return {size, row.number, row.description, row.id, row.expectations};
 }
 
 BatchPlan planBatch(const QVector<CheckedRow> &rows, bool withCrc, const MakeFrame &makeFrame)

@@ -18,6 +18,8 @@ struct CheckedRow
     QString description = {};
     /// 0 where there is none.
     int id = 0;
+    /// The lines that say what it is to be answered with.
+    QString expectations = {};
 };
 
 /// One frame of a block: how long it is, in bytes, and the row that it is made of.
@@ -29,6 +31,8 @@ struct BlockPart
     QString description = {};
     /// The row's identity; 0 where it isn't known.
     int rowId = 0;
+    /// The lines that say what the row is to be answered with.
+    QString expectations = {};
 };
 
 /// The part that a row's frame of that many bytes is.

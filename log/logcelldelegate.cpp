@@ -91,6 +91,9 @@ void LogCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
 
 QString LogCellDelegate::fault(const QModelIndex &index) const
 {
+    if (index.column() >= LogColumn::Cmd && index.column() <= LogColumn::Data) {
+        return index.siblingAtColumn(LogColumn::Number).data(faultRole).toString();
+    }
     if (index.column() != LogColumn::Crc || !isReceived(index)) {
         return {};
     }

@@ -3,7 +3,8 @@
 #include "log/timecolumn.h"
 #include "widgets/plaincelldelegate.h"
 
-/// Paints the cells of the message log; the CRC of a received frame that does not fit is a fault.
+/// Paints the cells of the message log; what a received frame says, and its CRC,
+/// may be a fault.
 /// In the last column, whose cells have no text, it paints the time that they carry.
 class LogCellDelegate : public PlainCellDelegate
 {
@@ -14,6 +15,8 @@ public:
     static constexpr int timeRole = Qt::UserRole;
     /// Where the first cell of a row carries what is said about all of the row.
     static constexpr int remarkRole = Qt::UserRole + 1;
+    /// Where it carries why the frame is not what was expected.
+    static constexpr int faultRole = Qt::UserRole + 2;
 
     using PlainCellDelegate::PlainCellDelegate;
 

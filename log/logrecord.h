@@ -30,4 +30,6 @@ struct LogRecord
     int rowId = 0;
     /// When the first of the bytes was read; earlier than the rest for a frame that came in pieces.
     ArrivalTime begun = {};
+    /// Why a received frame is not what was expected; empty where nothing is wrong.
+    QString fault = {};
 };

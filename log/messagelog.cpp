@@ -189,6 +189,9 @@ void MessageLog::fillRow(int row)
         put(column, texts[static_cast<size_t>(column)]);
     }
     m_table.setItem(row, LogColumn::Rest, timeItem(row));
+    if (!record.fault.isEmpty()) {
+        m_table.item(row, LogColumn::Number)->setData(LogCellDelegate::faultRole, record.fault);
+    }
     if (row == 0 && m_beganAnew) {
         tellBeginning();
     }

@@ -16,9 +16,12 @@ void RecordLog::appendSent(const QByteArray &frame, bool withCrc, Time time, int
     appendNumbered({LogRecord::Kind::Sent, 0, 0, 0, frame, withCrc, {}, {}, rowId}, time);
 }
 
-void RecordLog::appendReceived(const QByteArray &frame, bool withCrc, Time time, Time begun)
+void RecordLog::appendReceived(const QByteArray &frame, bool withCrc, Time time, Time begun,
+                               const QString &fault)
 {
-    appendNumbered({LogRecord::Kind::Received, 0, 0, 0, frame, withCrc, {}, {}}, time, begun);
+    LogRecord record{LogRecord::Kind::Received, 0, 0, 0, frame, withCrc, {}, {}};
+    record.fault = fault;
+    appendNumbered(std::move(record), time, begun);
 }
 
 void RecordLog::appendStray(const QByteArray &bytes, Time time)

@@ -35,9 +35,9 @@ public:
     void appendSent(const QByteArray &frame, bool withCrc, Time time = std::nullopt, int rowId = 0);
 
     /// Records a frame that was read from the system at that time; of one that came in pieces, the
-    /// first byte was read when it was begun.
+    /// first byte was read when it was begun. With a fault, it is not what was expected.
     void appendReceived(const QByteArray &frame, bool withCrc, Time time = std::nullopt,
-                        Time begun = std::nullopt);
+                        Time begun = std::nullopt, const QString &fault = {});
 
     /// Records bytes that were read from the system at that time and form no frame.
     void appendStray(const QByteArray &bytes, Time time = std::nullopt);

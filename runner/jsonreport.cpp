@@ -1,6 +1,6 @@
 #include "runner/jsonreport.h"
 
-#include "runner/rowtrial.h"
+#include "expectations/rowtrial.h"
 
 #include <QDateTime>
 #include <QJsonArray>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runner/values.h"
+#include "expectations/values.h"
 
 #include <QStringList>
 #include <QVector>

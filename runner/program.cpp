@@ -1,12 +1,12 @@
 #include "runner/program.h"
 
+#include "expectations/rowtrial.h"
 #include "runner/conversion.h"
 #include "runner/exitcode.h"
 #include "runner/inputfiles.h"
 #include "runner/lists.h"
 #include "runner/output.h"
 #include "runner/pipejob.h"
-#include "runner/rowtrial.h"
 #include "runner/testjob.h"
 #include "runner/windowsettings.h"
 #include "system/endsignals.h"

@@ -1,6 +1,6 @@
 #include "runner/rowchoice.h"
 
-#include "runner/values.h"
+#include "expectations/values.h"
 
 #include <QStringList>
 

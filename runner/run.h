@@ -1,9 +1,9 @@
 #pragma once
 
+#include "expectations/rowtrial.h"
 #include "frames/passcount.h"
 #include "runner/pace.h"
 #include "runner/rowresult.h"
-#include "runner/rowtrial.h"
 #include "runner/runplan.h"
 #include "runner/runsummary.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "expectations/filesettings.h"
 #include "links/hid/deviceids.h"
 #include "links/serial/seriallink.h"
-#include "runner/filesettings.h"
 #include "runner/rowchoice.h"
 
 #include <QString>

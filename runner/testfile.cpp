@@ -1,10 +1,10 @@
 #include "runner/testfile.h"
 
+#include "expectations/rowexpectation.h"
 #include "files/commandfile.h"
 #include "files/directivelines.h"
 #include "files/recoverytext.h"
 #include "frames/delaymarker.h"
-#include "runner/directive.h"
 
 namespace {
 
@@ -90,21 +90,8 @@ private:
             complain(directive.fault);
         } else if (m_file.rows.isEmpty() || isDelay(m_file.rows.last().row.cmd)) {
             complain({1, QStringLiteral("there is no row above that sends something")});
-        } else {
-            add(*directive.value, m_file.rows.last().expectation);
-        }
-    }
-
-    void add(const Directive &directive, Expectation &expectation)
-    {
-        if (directive.kind == Directive::Kind::Forbidden) {
-            expectation.forbidden.append(directive.frame);
-        } else if (directive.kind == Directive::Kind::Reply && !expectation.replies.isEmpty()) {
-            expectation.replies.last().append(directive.frame);
-        } else if (directive.kind == Directive::Kind::Further && expectation.replies.isEmpty()) {
+        } else if (!addDirective(*directive.value, m_file.rows.last().expectation)) {
             complain({1, QStringLiteral("a further frame needs a first one: \"//?\"")});
-        } else {
-            expectation.replies.append({directive.frame});
         }
     }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "commands/commandrow.h"
-#include "runner/expectation.h"
-#include "runner/filesettings.h"
+#include "expectations/expectation.h"
+#include "expectations/filesettings.h"
 
 #include <QByteArray>
 #include <QVector>

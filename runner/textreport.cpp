@@ -1,6 +1,6 @@
 #include "runner/textreport.h"
 
-#include "runner/rowtrial.h"
+#include "expectations/rowtrial.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runner/receivedframe.h"
+#include "expectations/receivedframe.h"
 
 #include <QObject>
 

@@ -4,6 +4,7 @@
 #include "frames/headernotice.h"
 #include "frames/systemclock.h"
 #include "log/allzero.h"
+#include "session/framecrc.h"
 
 Session::Session(const QString &deviceIdFile, const QString &portsFolder, QObject *parent)
     : QObject(parent)
@@ -77,8 +78,11 @@ void Session::connectRecords()
             });
     connect(&m_receiver, &Receiver::frameReceived, this,
             [this](const QByteArray &frame, ArrivalTime time, ArrivalTime begun) {
-                m_log.appendReceived(frame, m_format.withCrc(), time, begun);
+                m_log.appendReceived(frame, m_format.withCrc(), time, begun, faultOf(frame, time));
             });
+    connect(&m_sender, &Sender::handedOver, this,
+            [this](const QByteArray & /*block*/, const QVector<BlockPart> &parts,
+                   ArrivalTime time) { m_check.noteSent(parts, time.monotonicNs); });
     connect(&m_receiver, &Receiver::strayReceived, this, &Session::recordStray);
     connect(&m_links.hid(), &HidLink::dropped, this, [this](qint64 bytes) {
         m_log.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
@@ -126,6 +130,16 @@ Link &Session::link(LinkMode mode)
 QString Session::linkName(LinkMode mode) const
 {
     return mode == LinkMode::Uart ? m_links.serial().openPortName() : m_links.hid().openPath();
+}
+
+/// Why a frame is not what the row expects that it answers; empty where nothing is wrong.
+QString Session::faultOf(const QByteArray &frame, ArrivalTime time)
+{
+    if (!m_check.isWaiting()) {
+        return {};
+    }
+    const FrameLayout layout = receivedLayout(m_format.nextFrameLayout());
+    return m_check.judge(takenApart(frame, layout, time.monotonicNs));
 }
 
 /// A HID device fills its last report with zeros; those are not recorded.

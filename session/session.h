@@ -1,5 +1,6 @@
 #pragma once
 
+#include "expectations/replycheck.h"
 #include "frames/sender.h"
 #include "links/linkpair.h"
 #include "log/receiver.h"
@@ -79,6 +80,7 @@ private:
     void loseLink(LinkMode mode);
     Link &link(LinkMode mode);
     QString linkName(LinkMode mode) const;
+    QString faultOf(const QByteArray &frame, ArrivalTime time);
     void recordStray(const QByteArray &bytes, ArrivalTime time);
 
     FrameFormat m_format;
@@ -92,4 +94,5 @@ private:
     LoopControl m_loop;
     PortReopener m_reopener;
     ReplyMeter m_replies;
+    ReplyCheck m_check;
 };

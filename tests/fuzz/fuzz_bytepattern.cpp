@@ -1,5 +1,5 @@
+#include "expectations/bytepattern.h"
 #include "fuzzing.h"
-#include "runner/bytepattern.h"
 
 #include <vector>
 

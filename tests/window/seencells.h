@@ -22,3 +22,19 @@ inline QString tipOf(const QTableWidget &table, int row, int column)
     QCoreApplication::sendEvent(table.viewport(), &event);
     return QToolTip::text();
 }
+
+/// Whether a picture has the red that underlines what is wrong.
+inline bool showsRed(const QImage &image)
+{
+    const auto isRed = [](QRgb pixel) {
+        return qRed(pixel) > 180 && qGreen(pixel) < 60 && qBlue(pixel) < 60;
+    };
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (isRed(image.pixel(x, y))) {
+                return true;
+            }
+        }
+    }
+    return false;
+}

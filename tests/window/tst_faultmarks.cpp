@@ -19,27 +19,6 @@ private slots:
     void aCrcThatDoesNotFitIsUnderlined();
 };
 
-namespace {
-
-bool isRed(QRgb pixel)
-{
-    return qRed(pixel) > 180 && qGreen(pixel) < 60 && qBlue(pixel) < 60;
-}
-
-bool showsRed(const QImage &image)
-{
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (isRed(image.pixel(x, y))) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
-} // namespace
-
 void TestFaultMarks::badHexInACellIsUnderlined_data()
 {
     QTest::addColumn<QString>("cmd");

@@ -20,6 +20,8 @@ private slots:
     void whatGetsNoAnswerIsLost();
     void theStatusLineTellsHowALoopGoes();
     void theTipOfADescriptionTellsWhatIsExpected();
+    void aReplyThatIsNotExpectedIsUnderlined_data();
+    void aReplyThatIsNotExpectedIsUnderlined();
 };
 
 namespace {
@@ -146,6 +148,51 @@ void TestReplyFigures::theTipOfADescriptionTellsWhatIsExpected()
     window.window().findChild<CommandTable *>()->replaceRows({row});
     QCOMPARE(tipOf(*window.commands(), 0, Column::Description),
              QString("//? 03 0010 ??\n//! 83 **"));
+}
+
+void TestReplyFigures::aReplyThatIsNotExpectedIsUnderlined_data()
+{
+    QTest::addColumn<QString>("expectations");
+    QTest::addColumn<QString>("fault");
+
+    QTest::newRow("none") << ""
+                          << "";
+    QTest::newRow("fits") << "//@ tarnwick-run 1\n//? 03 0001\n"
+                          << "";
+    QTest::newRow("does not fit") << "//@ tarnwick-run 1\n//? 03 0002\n"
+                                  << "expected 03 0002, got 03 00 01 after ";
+    QTest::newRow("forbidden") << "//@ tarnwick-run 1\n//! 03 **\n"
+                               << "03 ** is forbidden, got 03 00 01 after ";
+}
+
+void TestReplyFigures::aReplyThatIsNotExpectedIsUnderlined()
+{
+    QFETCH(QString, expectations);
+    QFETCH(QString, fault);
+    constexpr int cmdColumn = 3;
+    constexpr int dataColumn = 5;
+    WindowDriver window;
+    const TestPort port;
+    window.window().resize(1120, 760);
+    window.open(port);
+    CommandRow row = emptyRow();
+    row.cmd = "03";
+    row.addr = "0000";
+    row.data = "00 01";
+    row.expectations = expectations;
+    window.window().findChild<CommandTable *>()->replaceRows({row});
+    window.clickSend(0);
+    QTRY_COMPARE(window.messageCount(), 1);
+    port.send(replyToAll);
+    QTRY_COMPARE(window.messageCount(), 2);
+    QVERIFY(!showsRed(pictureOf(*window.messages(), 0, dataColumn)));
+    for (const int column : {cmdColumn, dataColumn}) {
+        QCOMPARE(showsRed(pictureOf(*window.messages(), 1, column)), !fault.isEmpty());
+        if (!fault.isEmpty()) {
+            const QString tip = tipOf(*window.messages(), 1, column);
+            QVERIFY2(tip.contains(fault), qPrintable(tip));
+        }
+    }
 }
 
 QTEST_MAIN(TestReplyFigures)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runner/bytepattern.h"
+#include "expectations/bytepattern.h"
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include "runner/directive.h"
+#include "expectations/directive.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "runner/bytepattern.h"
+#include "expectations/bytepattern.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "runner/receivedframe.h"
+#include "expectations/receivedframe.h"
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "runner/values.h"
+#include "expectations/values.h"
 
 #include <QRegularExpression>
 

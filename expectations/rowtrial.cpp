@@ -1,4 +1,4 @@
-#include "runner/rowtrial.h"
+#include "expectations/rowtrial.h"
 
 #include <algorithm>
 #include <utility>
@@ -69,16 +69,29 @@ void RowTrial::judge(const ReceivedFrame &frame)
     }
 }
 
+bool RowTrial::fits(const ReceivedFrame &frame) const
+{
+    const QVector<ExpectedFrame> *const wanted = awaited();
+    return frame.timeNs >= m_sentNs && wanted != nullptr && !m_gaveUp &&
+           whyForbidden(frame).isEmpty() && whyNot(*wanted, frame).isEmpty();
+}
+
 void RowTrial::checkForbidden(const ReceivedFrame &frame)
+{
+    fail(whyForbidden(frame));
+}
+
+QString RowTrial::whyForbidden(const ReceivedFrame &frame) const
 {
     for (const ExpectedFrame &forbidden : m_expectation.forbidden) {
         const bool counts = !forbidden.withinMs || frame.timeNs <= limitNs(forbidden, m_sentNs);
         if (counts && forbidden.pattern.matches(frame.payload)) {
-            fail(QStringLiteral("%1 is forbidden, got %2")
-                     .arg(forbidden.pattern.text(), bytesText(frame.payload)) +
-                 after(frame.timeNs));
+            return QStringLiteral("%1 is forbidden, got %2")
+                       .arg(forbidden.pattern.text(), bytesText(frame.payload)) +
+                   after(frame.timeNs);
         }
     }
+    return {};
 }
 
 /// Empty where the frame is one of those that are wanted, and in time.

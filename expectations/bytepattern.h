@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runner/parsed.h"
+#include "expectations/parsed.h"
 
 #include <QByteArray>
 #include <QVector>

@@ -1,5 +1,5 @@
-#include "runner/rowtrial.h"
-#include "runner/testfile.h"
+#include "expectations/rowexpectation.h"
+#include "expectations/rowtrial.h"
 
 #include <QtTest>
 
@@ -27,10 +27,7 @@ constexpr qint64 sentAt = 1000 * msInNs;
 
 Expectation expectationOf(const QString &lines)
 {
-    const QByteArray text =
-        "//@ tarnwick-run 1\nRead,select,03 0010\n" + QString(lines).replace('|', '\n').toLatin1();
-    const TestFile file = readTestFile("f", text);
-    return file.faults.isEmpty() ? file.rows.first().expectation : Expectation();
+    return rowExpectationOf("//@ tarnwick-run 1\n" + QString(lines).replace('|', '\n')).expectation;
 }
 
 ReceivedFrame frameAt(qint64 ms, const char *payload)

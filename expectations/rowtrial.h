@@ -1,7 +1,7 @@
 #pragma once
 
-#include "runner/expectation.h"
-#include "runner/receivedframe.h"
+#include "expectations/expectation.h"
+#include "expectations/receivedframe.h"
 
 #include <QString>
 #include <QStringList>
@@ -23,6 +23,9 @@ public:
     /// A frame has come in. False where it is none of this row's: it is older than the row, or
     /// nothing was waited for.
     bool take(const ReceivedFrame &frame);
+
+    /// Whether the frame is what is waited for, in time and not forbidden.
+    bool fits(const ReceivedFrame &frame) const;
 
     /// Bytes that form no frame have come in.
     void takeStray(const QByteArray &bytes, qint64 timeNs);
@@ -54,6 +57,7 @@ private:
     qint64 quietUntilNs() const;
     void judge(const ReceivedFrame &frame);
     void checkForbidden(const ReceivedFrame &frame);
+    QString whyForbidden(const ReceivedFrame &frame) const;
     QString whyNot(const QVector<ExpectedFrame> &wanted, const ReceivedFrame &frame) const;
     QString after(qint64 timeNs) const;
     void fail(const QString &words);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "runner/expectation.h"
-#include "runner/filesettings.h"
+#include "expectations/expectation.h"
+#include "expectations/filesettings.h"
 
 #include <QByteArray>
 

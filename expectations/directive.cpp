@@ -1,6 +1,6 @@
-#include "runner/directive.h"
+#include "expectations/directive.h"
 
-#include "runner/values.h"
+#include "expectations/values.h"
 
 #include <QHash>
 #include <QRegularExpression>
