@@ -36,6 +36,11 @@ void CommandArea::setResting(bool resting)
     m_form->pushButton_SaveCommand->setDisabled(resting);
 }
 
+bool CommandArea::isResting() const
+{
+    return !m_form->pushButton_LoadCommand->isEnabled();
+}
+
 QTableWidget &CommandArea::table() const
 {
     return *m_form->tableWidget_Register;

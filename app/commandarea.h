@@ -29,6 +29,7 @@ public:
 
     /// The list's file can't be changed meanwhile.
     void setResting(bool resting);
+    bool isResting() const;
 
     QTableWidget &table() const;
     QPushButton &loadButton() const;

@@ -17,6 +17,10 @@ CommandPanel::CommandPanel(CommandArea &area, bool withEdit, QWidget &window)
 {
     m_table.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&m_actions, &RowActions::refused, this, &CommandPanel::notice);
+    connect(&m_actions, &RowActions::acting, this, &CommandPanel::acting);
+    connect(&m_actions, &RowActions::acted, this, &CommandPanel::acted);
+    connect(&m_clipboard, &TableClipboard::acting, this, &CommandPanel::acting);
+    connect(&m_clipboard, &TableClipboard::acted, this, &CommandPanel::acted);
     connect(&m_actions, &RowActions::modified, this, &CommandPanel::modified);
     connect(&m_clipboard, &TableClipboard::refused, this, &CommandPanel::notice);
     connect(&m_clipboard, &TableClipboard::modified, this, &CommandPanel::modified);
@@ -47,13 +51,17 @@ void CommandPanel::goToRow(int id)
 
 void CommandPanel::takeBackEdited()
 {
+    emit acting();
     m_editor.takeBack(m_actions.contextRow());
+    emit acted();
 }
 
 void CommandPanel::turnWheel(const QPoint &position)
 {
     // See docs/deliberate.md, Wheel's place.
     if (m_table.geometry().contains(position)) {
+        emit acting();
         m_actions.appendRowAtEnd();
+        emit appended();
     }
 }

@@ -42,6 +42,12 @@ public:
     void turnWheel(const QPoint &position);
 
 signals:
+    /// The user is about to change the commands, and has done so, in one of two ways; the second
+    /// one is an empty row at the end.
+    void acting();
+    void acted();
+    void appended();
+
     /// An action has changed the commands.
     void modified();
 

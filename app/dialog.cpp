@@ -28,6 +28,7 @@ Dialog::Dialog(QWidget *parent)
                   this)
     , m_loopStatus(m_session, m_status, this)
     , m_commands(*m_form->commandArea, m_settings.settings().isEditorFun != 0, *this)
+    , m_undo(*m_form->commandArea, m_commands, m_list, this)
     , m_messages(*m_form->messageArea, m_session, this)
     , m_files(*this, m_commands.rows(), m_list, m_session.log(), m_status)
     , m_entrances(m_form->commandArea->loadButton(), m_files, m_status, this)
@@ -140,6 +141,7 @@ void Dialog::setUpNotices()
     connect(&m_commands, &CommandPanel::notice, this, &Dialog::showMessage);
     connect(&m_helpKey, &HelpKey::notice, this, &Dialog::showMessage);
     connect(&m_commands.rows(), &CommandTable::insertionRefused, &m_status, &StatusLine::tell);
+    connect(&m_undo, &ListUndo::told, &m_status, &StatusLine::tell);
     connect(&m_form->commandArea->table(), &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
     connect(&m_form->messageArea->table(), &QTableWidget::entered, this, &Dialog::doMouseTrackTip);
 }

@@ -6,6 +6,7 @@
 #include "app/linkpanels.h"
 #include "app/listfiles.h"
 #include "app/liststate.h"
+#include "app/listundo.h"
 #include "app/looppanel.h"
 #include "app/loopstatus.h"
 #include "app/messagepanel.h"
@@ -103,6 +104,7 @@ private:
     LoopPanel m_loopPanel;
     LoopStatus m_loopStatus;
     CommandPanel m_commands;
+    ListUndo m_undo;
     MessagePanel m_messages;
     ListFiles m_files;
     FileEntrances m_entrances;

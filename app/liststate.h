@@ -1,5 +1,7 @@
 #pragma once
 
+#include "commands/listhistory.h"
+
 #include <QObject>
 #include <QString>
 
@@ -17,6 +19,8 @@ public:
     /// The list's file; empty while it has none.
     QString path() const { return m_path; }
 
+    ListStanding standing() const { return {m_path, m_isModified}; }
+
     /// The name of its file, and "*" where the list was changed.
     QString title() const;
 
@@ -28,6 +32,9 @@ public:
 
     /// The list begins anew, without a file.
     void setNew() { become({}, false); }
+
+    /// The list stands again as it did before.
+    void restore(const ListStanding &standing) { become(standing.path, standing.isModified); }
 
 signals:
     /// Another file, or another answer to whether the list was changed.

@@ -55,7 +55,7 @@ private:
 
 } // namespace
 
-void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter)
+QCheckBox *setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter)
 {
     auto *container = new CellWidget<QWidget>(table, table.model()->index(row, column));
     auto *layout = new QHBoxLayout(container);
@@ -67,6 +67,7 @@ void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObje
     layout->addWidget(box);
     container->installEventFilter(filter);
     table.setCellWidget(row, column, container);
+    return box;
 }
 
 QCheckBox *selectBox(const QTableWidget &table, int row, int column)

@@ -7,7 +7,7 @@ class QPushButton;
 class QTableWidget;
 
 /// Puts a new check box into the cell, centred in a container that `filter` watches.
-void setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter);
+QCheckBox *setSelectCell(QTableWidget &table, int row, int column, bool checked, QObject *filter);
 
 /// The cell's check box; null where there is none.
 QCheckBox *selectBox(const QTableWidget &table, int row, int column);

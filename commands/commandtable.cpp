@@ -11,6 +11,7 @@
 #include "widgets/tableitems.h"
 #include "widgets/tablelook.h"
 
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
@@ -118,6 +119,7 @@ void CommandTable::clear()
 
 void CommandTable::replaceRows(const QVector<CommandRow> &rows)
 {
+    emit replacing();
     m_table.blockSignals(true);
     m_table.setUpdatesEnabled(false);
     m_table.setRowCount(0);
@@ -128,6 +130,7 @@ void CommandTable::replaceRows(const QVector<CommandRow> &rows)
     m_table.scrollToTop();
     m_table.setUpdatesEnabled(true);
     m_table.blockSignals(false);
+    emit replaced();
 }
 
 bool CommandTable::insertRows(int row, const QVector<CommandRow> &rows)
@@ -206,7 +209,8 @@ int CommandTable::rowWithId(int id) const
 
 void CommandTable::setSelected(int row, bool selected)
 {
-    setSelectCell(m_table, row, Column::Select, selected, m_window);
+    putSelectBox(row, selected);
+    emit selectChanged(row);
 }
 
 QString CommandTable::currentFrameText() const
@@ -324,6 +328,8 @@ void CommandTable::installDelegates()
     for (const TextDelegate *delegate : {textDelegate, static_cast<TextDelegate *>(addrDelegate),
                                          static_cast<TextDelegate *>(dataDelegate)}) {
         connect(delegate, &TextDelegate::editorOpens, this, &CommandTable::restoreSignals);
+        connect(delegate, &TextDelegate::editorOpens, this, &CommandTable::editorOpened);
+        connect(delegate, &TextDelegate::closeEditor, this, &CommandTable::editorClosed);
     }
     connect(addrDelegate, &AddrDelegate::enterdata, this, &CommandTable::enterPressed);
     connect(dataDelegate, &DataDelegate::enterdata, this, &CommandTable::enterPressed);
@@ -348,12 +354,19 @@ void CommandTable::identify(int row, int id)
     setRowId(m_table, row, id != 0 ? id : ++m_lastId);
 }
 
+void CommandTable::putSelectBox(int row, bool selected)
+{
+    const QCheckBox *box = setSelectCell(m_table, row, Column::Select, selected, m_window);
+    const QPersistentModelIndex cell = m_table.model()->index(row, Column::Select);
+    connect(box, &QCheckBox::toggled, this, [this, cell] { emit selectChanged(cell.row()); });
+}
+
 void CommandTable::fillRow(int row, const CommandRow &content)
 {
     setCentredItem(m_table, row, Column::Description, content.description);
     identify(row, content.id);
     setRowExpectations(m_table, row, content.expectations);
-    setSelectCell(m_table, row, Column::Select, content.selected, m_window);
+    putSelectBox(row, content.selected);
     setCentredItem(m_table, row, Column::Cmd, content.cmd);
     setCentredItem(m_table, row, Column::Addr, content.addr);
     setLeftItem(m_table, row, Column::Data, content.data);

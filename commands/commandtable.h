@@ -91,6 +91,17 @@ public:
     void takeEdited(int row, const CommandRow &edited);
 
 signals:
+    /// All rows are about to be replaced by those of another list, and have been.
+    void replacing();
+    void replaced();
+
+    /// A row's Select box was checked or unchecked, or another one was put into a row.
+    void selectChanged(int row);
+
+    /// A cell is about to be edited, and its editor has been closed.
+    void editorOpened();
+    void editorClosed();
+
     /// A row was not inserted, since it would stand beyond the last index that is allowed.
     void insertionRefused(const QString &reason);
 
@@ -109,6 +120,7 @@ private:
     void installDelegates();
     void refuseInsertion();
     void insertFilledRow(int row, const CommandRow &content);
+    void putSelectBox(int row, bool selected);
     void fillRow(int row, const CommandRow &content);
     void identify(int row, int id);
     void moveByCopy(int from, int to);

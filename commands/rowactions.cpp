@@ -78,6 +78,19 @@ QPoint RowActions::placeBelow(const QModelIndex &cell) const
 
 void RowActions::run(RowAction action)
 {
+    if (action == RowAction::Undo) {
+        emit undoRequested();
+    } else if (action == RowAction::Redo) {
+        emit redoRequested();
+    } else {
+        emit acting();
+        change(action);
+        emit acted();
+    }
+}
+
+void RowActions::change(RowAction action)
+{
     const int row = contextRow();
     switch (action) {
     case RowAction::Edit:
@@ -104,6 +117,9 @@ void RowActions::run(RowAction action)
         m_rows.insertDelayRow(row);
         selectAfterChange(row);
         break;
+    case RowAction::Undo:
+    case RowAction::Redo:
+        break;
     }
 }
 
@@ -120,9 +136,11 @@ void RowActions::checkSelectedRows(QAction *entry)
     if (!checked) {
         return;
     }
+    emit acting();
     for (const QModelIndex &index : m_table.selectionModel()->selectedRows(0)) {
         m_rows.setSelected(index.row(), *checked);
     }
+    emit acted();
 }
 
 void RowActions::writeCmd(QAction *entry)
@@ -130,7 +148,9 @@ void RowActions::writeCmd(QAction *entry)
     const std::optional<QString> cmd = m_menus.cmd(entry);
     QTableWidgetItem *item = m_table.item(m_contextCell.row(), m_contextCell.column());
     if (cmd && item != nullptr) {
+        emit acting();
         item->setText(*cmd);
+        emit acted();
     }
 }
 

@@ -54,6 +54,14 @@ public:
     void appendRowAtEnd();
 
 signals:
+    /// Rows are about to be changed, and have been changed. Appending a row is not announced.
+    void acting();
+    void acted();
+
+    /// The user wants the last step taken back, or done again.
+    void undoRequested();
+    void redoRequested();
+
     /// The user wants to edit a row's value.
     void editRequested(int row);
 
@@ -69,6 +77,7 @@ protected:
 
 private:
     QPoint placeBelow(const QModelIndex &cell) const;
+    void change(RowAction action);
     void removeRow(int row);
     void moveUp(int row);
     void moveDown(int row);

@@ -47,6 +47,12 @@ RowMenus::RowMenus(QWidget *parent, bool withEdit)
     m_rowActions.insert(addAction(*m_rowMenu, translated("down"), int(Qt::ALT) + int(Qt::Key_Down)),
                         RowAction::Down);
     m_rowActions.insert(addAction(*m_rowMenu, translated("delay")), RowAction::Delay);
+    m_rowMenu->addSeparator();
+    m_undo = addAction(*m_rowMenu, translated("undo"), int(Qt::CTRL) + int(Qt::Key_Z));
+    m_redo =
+        addAction(*m_rowMenu, translated("redo"), int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::Key_Z));
+    m_rowActions.insert(m_undo, RowAction::Undo);
+    m_rowActions.insert(m_redo, RowAction::Redo);
 
     m_selections.insert(addAction(*m_selectMenu, translated("select all")), true);
     m_selections.insert(addAction(*m_selectMenu, translated("select none")), false);

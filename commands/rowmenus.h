@@ -5,8 +5,8 @@
 
 #include <optional>
 
-/// What the row menu can do with a row.
-enum class RowAction { Edit, Insert, Clone, Delete, Up, Down, Delay };
+/// What the row menu can do with a row, and with the list.
+enum class RowAction { Edit, Insert, Clone, Delete, Up, Down, Delay, Undo, Redo };
 
 /// The three context menus of the command table. Their actions are told apart by pointer, never by
 /// their texts. They show their keys, which only the table makes work.
@@ -19,6 +19,10 @@ public:
     QMenu &rowMenu() const { return *m_rowMenu; }
     QMenu &selectMenu() const { return *m_selectMenu; }
     QMenu &cmdMenu() const { return *m_cmdMenu; }
+
+    /// The last two entries of the row menu, which mean the whole list.
+    QAction &undoEntry() const { return *m_undo; }
+    QAction &redoEntry() const { return *m_redo; }
 
     /// What an action of the row menu stands for; nothing for any other action.
     std::optional<RowAction> rowAction(QAction *action) const;
@@ -33,6 +37,8 @@ private:
     QMenu *m_rowMenu;
     QMenu *m_selectMenu;
     QMenu *m_cmdMenu;
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
     QHash<QAction *, RowAction> m_rowActions;
     QHash<QAction *, bool> m_selections;
     QHash<QAction *, QString> m_cmds;

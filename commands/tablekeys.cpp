@@ -56,6 +56,10 @@ void TableKeys::addKey(const QKeySequence &key, Qt::ShortcutContext context, Rea
 void TableKeys::addRowMenuKeys(const RowMenus &menus)
 {
     for (QAction *entry : menus.rowMenu().actions()) {
+        if (entry == &menus.undoEntry() || entry == &menus.redoEntry()) {
+            addListKey(*entry);
+            continue;
+        }
         if (entry->shortcut().isEmpty()) {
             continue;
         }
@@ -67,6 +71,12 @@ void TableKeys::addRowMenuKeys(const RowMenus &menus)
             useEntry(*entry);
         });
     }
+}
+
+/// Whoever has just pressed a button means the list, too.
+void TableKeys::addListKey(QAction &entry)
+{
+    addKey(entry.shortcut(), Qt::WindowShortcut, [&entry] { entry.trigger(); });
 }
 
 /// Where the row goes, the next one takes its place as the current one.

@@ -11,6 +11,13 @@ namespace {
 
 const char *const openedWith = "openedWith";
 
+/// Whether a key takes back or does again what has nothing to do with the text being edited.
+bool meansTheList(const QKeyEvent &key, const QLineEdit *editor)
+{
+    return editor != nullptr && ((key.matches(QKeySequence::Undo) && !editor->isUndoAvailable()) ||
+                                 (key.matches(QKeySequence::Redo) && !editor->isRedoAvailable()));
+}
+
 } // namespace
 
 QWidget *TextDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
@@ -57,11 +64,17 @@ void TextDelegate::setModelData(QWidget *widget, QAbstractItemModel *model,
 
 bool TextDelegate::eventFilter(QObject *object, QEvent *event)
 {
-    // Elsewhere in the table this key deletes a row.
-    if (event->type() == QEvent::ShortcutOverride &&
-        static_cast<const QKeyEvent *>(event)->matches(QKeySequence::DeleteEndOfWord)) {
-        event->accept();
-        return true;
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto &key = *static_cast<const QKeyEvent *>(event);
+        // Elsewhere in the table this key deletes a row.
+        if (key.matches(QKeySequence::DeleteEndOfWord)) {
+            event->accept();
+            return true;
+        }
+        if (meansTheList(key, qobject_cast<const QLineEdit *>(object))) {
+            event->ignore();
+            return true;
+        }
     }
     return QStyledItemDelegate::eventFilter(object, event);
 }

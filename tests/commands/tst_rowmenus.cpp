@@ -22,7 +22,8 @@ private slots:
 
 namespace {
 
-const QStringList rowEntries{"insert", "clone", "delete", "up", "down", "delay"};
+const QStringList rowEntries{"insert", "clone", "delete", "up",  "down",
+                             "delay",  "",      "undo",   "redo"};
 const QStringList selectEntries{"select all", "select none"};
 
 QString settingsPath()

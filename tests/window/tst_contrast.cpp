@@ -333,8 +333,10 @@ void TestContrast::menusAreReadable()
         menu->actions().constLast()->setEnabled(false);
         menu->setActiveAction(menu->actions().constFirst());
         for (QAction *action : menu->actions()) {
-            QVERIFY(contrastIn(*menu, menu->actionGeometry(action)) >= readable);
-            ++entries;
+            if (!action->isSeparator()) {
+                QVERIFY(contrastIn(*menu, menu->actionGeometry(action)) >= readable);
+                ++entries;
+            }
         }
     });
     QTableWidget &table = *window.commands();

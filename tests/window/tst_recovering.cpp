@@ -24,6 +24,7 @@ private slots:
     void theProgramMayEndDuringTheQuestion();
     void aSessionThatEndsIsNoReasonToClose();
     void theLoopEndsBeforeTheQuestion();
+    void whatIsTakenBackIsKept();
 };
 
 namespace {
@@ -232,6 +233,27 @@ void TestRecovering::theLoopEndsBeforeTheQuestion()
             [&] { label = window.button("pushButton_Start_Loop")->text(); });
     window.window().close();
     QCOMPARE(label, QString("Auto Send"));
+}
+
+/// The list that is there again is in no file; taken back to how it was loaded, it is.
+void TestRecovering::whatIsTakenBackIsKept()
+{
+    const QTemporaryDir folder;
+    writeFile(folder.filePath("list.txt"), "a,5A0001\n");
+    MessageBoxes boxes;
+    const FileDialogUser user(folder.filePath("list.txt"));
+    WindowDriver window;
+    edit(window, "edited");
+    QTRY_COMPARE(keptIn("recovery-1.txt"), QString("edited"));
+    window.click("pushButton_LoadCommand");
+    QCOMPARE(recoveryFiles(), QStringList());
+    auto *actions = window.window().findChild<RowActions *>();
+    actions->run(RowAction::Undo);
+    QTRY_COMPARE(keptIn("recovery-1.txt"), QString("edited"));
+    actions->run(RowAction::Redo);
+    QCOMPARE(recoveryFiles(), QStringList());
+    window.window().close();
+    QCOMPARE(boxes.texts(), QStringList());
 }
 
 QTEST_MAIN(TestRecovering)
