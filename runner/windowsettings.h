@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runner/filesettings.h"
+#include "expectations/filesettings.h"
 
 #include <QString>
 #include <QStringList>
