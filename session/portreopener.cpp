@@ -57,9 +57,13 @@ void PortReopener::noteLoss()
 
 void PortReopener::noteArrival(const QString &portName)
 {
+    const bool isWaitedFor = isWanted(portName);
+    if (isWaiting() && !isWaitedFor) {
+        return;
+    }
     m_arrived = portName;
     m_arrivedNs = m_clock->now();
-    if (isWanted(portName)) {
+    if (isWaitedFor) {
         beginToTry();
     }
 }
@@ -109,7 +113,7 @@ void PortReopener::tryToOpen()
         emit reopened(wanted.portName);
     } else if (m_clock->now() < m_tryUntilNs) {
         m_clock->setAlarm(m_clock->now() + retryMs * nsPerReopenMs);
-    } else {
+    } else if (!m_arrived.isEmpty()) {
         emit refused(wanted.portName);
     }
 }

@@ -55,7 +55,7 @@ signals:
     /// It is open again.
     void reopened(const QString &portName);
 
-    /// It is back, but didn't open; it is still waited for. The link says why.
+    /// It is back by its name, but didn't open; it is still waited for. The link says why.
     void refused(const QString &portName);
 
     /// What was waited for isn't any more.

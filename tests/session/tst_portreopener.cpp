@@ -19,6 +19,7 @@ private slots:
     void nothingIsTriedBeforeItIsBack();
     void anotherPortIsNotTheLostOne();
     void aPortMayComeUnseen();
+    void aPortThatDidNotComeUnseenIsNotTold();
     void aPortThatRefusesIsTriedAgain();
     void itIsNotTriedForEver();
     void aPortThatWasClosedStaysClosed();
@@ -144,6 +145,17 @@ void TestPortReopener::aPortMayComeUnseen()
     bench.reopener.noteArrival({});
     bench.clock->advance(0);
     QVERIFY(bench.link.isOpen());
+}
+
+void TestPortReopener::aPortThatDidNotComeUnseenIsNotTold()
+{
+    ReopenBench bench;
+    bench.lose();
+    bench.reopener.noteArrival({});
+    bench.reopener.noteArrival(bench.otherPort.path());
+    bench.clock->advance(aWhileMs);
+    QVERIFY(bench.refused.isEmpty());
+    QVERIFY(bench.reopener.isWaiting());
 }
 
 void TestPortReopener::aPortThatRefusesIsTriedAgain()
