@@ -87,8 +87,9 @@ Photographer::Photographer(QString port, const QString &examples, const QString 
 
 bool Photographer::takeAll()
 {
-    return openPort() && takeFirstFrame() && takeWindow() && takeLoop() && takeBadCrc() &&
-           takeRecording() && takeRowMenu() && takeEditor() && takeHid() && m_isGood;
+    // The loop comes last: how it went stays in the side panel.
+    return takeHid() && openPort() && takeFirstFrame() && takeBadCrc() && takeWindow() &&
+           takeRecording() && takeRowMenu() && takeEditor() && takeLoop() && m_isGood;
 }
 
 bool Photographer::openPort()
@@ -178,9 +179,11 @@ bool Photographer::takeLoop()
 /// The device takes the CRC for another register, and answers without one.
 bool Photographer::takeBadCrc()
 {
-    load("loop.txt");
+    m_window.click("pushButton_ClearMessage");
+    m_window.commands()->item(1, CommandColumn::Description)->setText("Switch on");
+    m_window.setRow(1, "10", "0200", "00 01");
     m_window.check("checkBox_CRC_EN")->setChecked(true);
-    m_window.clickSend(0);
+    m_window.clickSend(1);
     const bool isAnswered = waitForMessages(2);
     saveWindow("bad-crc.png");
     m_window.check("checkBox_CRC_EN")->setChecked(false);
@@ -234,9 +237,11 @@ bool Photographer::takeEditor()
 
 bool Photographer::takeHid()
 {
-    m_window.find<QTabWidget>("tabWidget")->setCurrentIndex(1);
+    auto *tabs = m_window.find<QTabWidget>("tabWidget");
+    tabs->setCurrentIndex(1);
     m_window.listPorts();
     saveSide("hid.png");
+    tabs->setCurrentIndex(0);
     return true;
 }
 
