@@ -20,14 +20,14 @@ void ReplyTimes::noteSent(int rowId, qint64 timeNs)
     row.lastSentNs = timeNs;
 }
 
-void ReplyTimes::noteReceived(qint64 timeNs)
+bool ReplyTimes::noteReceived(qint64 timeNs)
 {
     passTime(timeNs);
     const auto lastBefore =
         std::find_if(m_waiting.rbegin(), m_waiting.rend(),
                      [timeNs](const Waiting &sent) { return sent.sentNs <= timeNs; });
     if (lastBefore == m_waiting.rend()) {
-        return;
+        return false;
     }
     auto answered = std::prev(lastBefore.base());
     while (answered != m_waiting.begin() && std::prev(answered)->sentNs == answered->sentNs) {
@@ -35,6 +35,7 @@ void ReplyTimes::noteReceived(qint64 timeNs)
     }
     answer(*answered, timeNs);
     m_waiting.erase(answered);
+    return true;
 }
 
 void ReplyTimes::passTime(qint64 nowNs)

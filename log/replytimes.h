@@ -36,8 +36,8 @@ public:
     /// A frame of the row with that identity, or of an unknown one (0), went out at that time.
     void noteSent(int rowId, qint64 timeNs);
 
-    /// A frame that was read at that time came in.
-    void noteReceived(qint64 timeNs);
+    /// A frame that was read at that time came in. Returns whether it answers something.
+    bool noteReceived(qint64 timeNs);
 
     /// It is that late by now: what has waited too long is lost.
     void passTime(qint64 nowNs);

@@ -4,6 +4,8 @@
 #include "log/receiver.h"
 #include "session/loopcontrol.h"
 
+#include <utility>
+
 namespace {
 
 /// A bit more than the wait for an answer.
@@ -76,11 +78,21 @@ void ReplyMeter::takeBlock(const QVector<BlockPart> &parts, ArrivalTime time)
 void ReplyMeter::takeFrame(ArrivalTime time)
 {
     const bool belongsToLoop = m_runs || m_endsSoon;
-    m_times.noteReceived(time.monotonicNs);
+    noteReceived(time.monotonicNs);
     m_endsSoon = m_endsSoon && m_times.isWaiting();
     if (belongsToLoop) {
         ++m_received;
         emit loopChanged();
+    }
+}
+
+/// Frames that are handed up together have the time of the first one. A later one of them may
+/// answer what was sent meanwhile.
+void ReplyMeter::noteReceived(qint64 timeNs)
+{
+    const bool isLater = std::exchange(m_lastReceivedNs, timeNs) == timeNs;
+    if (!m_times.noteReceived(timeNs) && isLater) {
+        m_times.noteReceived(ArrivalTime::now().monotonicNs);
     }
 }
 

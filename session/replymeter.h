@@ -35,12 +35,14 @@ private:
     void end();
     void takeBlock(const QVector<BlockPart> &parts, ArrivalTime time);
     void takeFrame(ArrivalTime time);
+    void noteReceived(qint64 timeNs);
     void passTime();
 
     ReplyTimes m_times;
     Durations m_lateness;
     qint64 m_passes = 0;
     qint64 m_received = 0;
+    qint64 m_lastReceivedNs = 0;
     bool m_runs = false;
     /// The loop is over, and something of it waits for its answer.
     bool m_endsSoon = false;
