@@ -25,7 +25,7 @@ public:
     /// The most steps that are kept, and the most memory that their rows may take, in bytes. Beyond
     /// either, the oldest step goes.
     static constexpr int mostSteps = 20;
-    static constexpr qint64 mostBytes = 64 * 1024 * 1024;
+    static constexpr qint64 mostBytes = qint64(64) * 1024 * 1024;
 
     enum class Kind {
         Change,

@@ -166,7 +166,7 @@ private:
         case RowCell::Select:
             return isChecked(line(RowCell::Select)) || isUnchecked(line(RowCell::Select))
                        ? QString()
-                       : rowTextWords("neither \"select\" nor \"unselect\".");
+                       : rowTextWords(R"(neither "select" nor "unselect".)");
         case RowCell::Cmd:
             return cellFault(row, CommandColumn::Cmd);
         case RowCell::Addr:
