@@ -50,7 +50,9 @@ void PortReopener::noteLoss()
     m_wanted = m_link.settings();
     emit waiting(m_wanted->portName);
     const bool hasNews = m_arrivedNs && m_clock->now() - *m_arrivedNs < newsLastNs;
+    m_isBackByName = false;
     if (hasNews && isWanted(m_arrived)) {
+        m_isBackByName = !m_arrived.isEmpty();
         beginToTry();
     }
 }
@@ -64,6 +66,7 @@ void PortReopener::noteArrival(const QString &portName)
     m_arrived = portName;
     m_arrivedNs = m_clock->now();
     if (isWaitedFor) {
+        m_isBackByName = m_isBackByName || !portName.isEmpty();
         beginToTry();
     }
 }
@@ -113,7 +116,7 @@ void PortReopener::tryToOpen()
         emit reopened(wanted.portName);
     } else if (m_clock->now() < m_tryUntilNs) {
         m_clock->setAlarm(m_clock->now() + retryMs * nsPerReopenMs);
-    } else if (!m_arrived.isEmpty()) {
+    } else if (m_isBackByName) {
         emit refused(wanted.portName);
     }
 }

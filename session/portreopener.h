@@ -70,6 +70,8 @@ private:
     std::unique_ptr<AlarmClock> m_clock;
     bool m_isOn = false;
     std::optional<SerialSettings> m_wanted;
+    /// It was told to have come since it was lost.
+    bool m_isBackByName = false;
     qint64 m_tryUntilNs = 0;
     /// What has come last, and when: it may be told before the loss is.
     QString m_arrived;
