@@ -30,6 +30,11 @@ if(TARNWICK_SANITIZE)
   add_link_options(-fsanitize=${TARNWICK_SANITIZE})
 endif()
 
+if(TARNWICK_COVERAGE)
+  add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+  add_link_options(-fprofile-instr-generate)
+endif()
+
 if(TARNWICK_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
