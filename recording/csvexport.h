@@ -10,13 +10,13 @@
 
 class QIODevice;
 
-/// What came of an export.
+/// The outcome of an export.
 struct CsvExport
 {
     qint64 events = 0;
-    /// Whether the recording ends within an event; what came before was written.
+    /// Whether the recording ends in the middle of an event. All events before it were written.
     bool isTorn = false;
-    /// What could not be read or written; empty where all went well.
+    /// What could not be read or written; empty if all went well.
     QString error;
 };
 
@@ -28,7 +28,7 @@ QByteArray csvHead();
 /// before, if there was one.
 QByteArray csvLine(const RecordEvent &event, std::optional<ArrivalTime> before);
 
-/// Writes what is in a recording to a device as CSV; both are open. It is given up, which is an
-/// error, where `mayGoOn` says no; it is asked a few times a megabyte.
+/// Writes a recording as CSV. Both devices must be open. `mayGoOn` is asked a few times per
+/// megabyte; if it returns false, the export stops with an error.
 CsvExport exportCsv(QIODevice &recording, QIODevice &csv,
                     const std::function<bool()> &mayGoOn = {});

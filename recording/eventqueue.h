@@ -6,12 +6,12 @@
 #include <QVector>
 #include <QWaitCondition>
 
-/// What waits between the thread that events happen in and the one that writes them. It has room
-/// for so many bytes; an event that it has no room for is dropped and counted.
+/// The queue between the thread in which events happen and the thread that writes them. Its room is
+/// limited, in bytes. An event that doesn't fit is dropped and counted.
 class EventQueue
 {
 public:
-    /// What has been gathered since the last time.
+    /// The events that came in since the last batch.
     struct Batch
     {
         QVector<RecordEvent> events;
@@ -22,21 +22,20 @@ public:
     };
 
     static constexpr qint64 mostBytes = 8LL * 1024 * 1024;
-    /// With so many bytes, a waiting reader is woken.
+    /// From this number of bytes on, a waiting reader is woken.
     static constexpr qint64 bytesToWake = 64LL * 1024;
 
-    /// Appends an event without waiting for anybody; false where there is no room, and after
-    /// `close`.
+    /// Appends an event and never blocks. Returns false if there is no room, or after `close`.
     bool put(const RecordEvent &event);
 
-    /// Nothing more will be put in; a waiting reader is woken.
+    /// Ends the queue: nothing more is accepted, and a waiting reader is woken.
     void close();
 
-    /// Takes all that is there, after at most so many ms: sooner once enough has been gathered, and
-    /// where the queue is closed.
+    /// Takes all events. Waits for that many ms at most: less if enough have come in, or if the
+    /// queue is closed.
     Batch take(int patienceMs);
 
-    /// What an event counts for, in bytes: about what it needs in memory.
+    /// The size of an event in bytes, about what it needs in memory.
     static qint64 weightOf(const RecordEvent &event);
 
 private:

@@ -8,15 +8,15 @@
 
 #include <variant>
 
-/// What keeps a line from being read, in words.
+/// Why a line can't be read, in words.
 struct JsonFault
 {
     QString words;
 };
 
-/// What a line of a recording says.
+/// The content of one line of a recording.
 using JsonLine = std::variant<JsonFault, RecordingHead, RecordEvent, RecordingTail>;
 
-/// Reads a line, as jsonHead(), JsonLinesWriter and jsonTail() write it. Members that it doesn't
-/// know are passed over.
+/// Reads a line as jsonHead(), JsonLinesWriter and jsonTail() write it. Unknown members are
+/// skipped.
 JsonLine parseJsonLine(const QByteArray &line);

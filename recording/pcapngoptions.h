@@ -10,5 +10,5 @@ struct PcapngOption
     QByteArray value;
 };
 
-/// The options in these bytes, up to the one that ends them or to one that goes beyond them.
+/// The options in these bytes, up to the end mark or to the first one that is cut off.
 QVector<PcapngOption> parsePcapngOptions(const QByteArray &bytes);

@@ -4,8 +4,8 @@
 
 #include <QByteArray>
 
-/// Reads pcapng as PcapngWriter writes it. Blocks and options that it doesn't know are passed over;
-/// a last block that was cut off is no error.
+/// Reads pcapng as PcapngWriter writes it. Unknown blocks and options are skipped. A last block
+/// that was cut off is no error.
 class PcapngReader : public RecordingReader
 {
 public:

@@ -9,14 +9,14 @@
 
 /// Records events into files in a thread of its own, so that nobody waits for a disk.
 ///
-/// Where the disk is too slow, up to 8 MiB of events wait for it; what comes beyond them is dropped
-/// and counted.
+/// If the disk is too slow, up to 8 MiB of events wait for it. Further events are dropped and
+/// counted.
 class Recorder : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Makes where a recording goes; called in its thread.
+    /// Makes the sink of a recording; called in the recorder's thread.
     using MakeSink = std::function<std::unique_ptr<RecordingSink>()>;
 
     /// Records into files of the system.
@@ -25,24 +25,24 @@ public:
     /// Ends a recording as `finish` does.
     ~Recorder() override;
 
-    /// Begins a recording; one that runs is ended before. Whether its file could be made is known
-    /// when `changed` is emitted.
+    /// Begins a recording; a running one is ended first. `changed` tells whether the file could be
+    /// made.
     void start(const RecordingPlan &plan);
 
-    /// Takes in an event; without a recording nothing happens.
+    /// Records an event; does nothing if no recording runs.
     void record(const RecordEvent &event);
 
-    /// Ends the recording; `ended` follows when its file is closed in good order.
+    /// Ends the recording; `ended` follows when its file is complete and closed.
     void stop();
 
-    /// Ends the recording and waits until its file is closed, for so many ms at most. Returns
+    /// Ends the recording and waits until its file is closed, for that many ms at most. Returns
     /// whether it is closed.
     bool finish(int patienceMs = 3000);
 
-    /// Whether events are taken in: from `start` until `stop`, or until something goes wrong.
+    /// Whether events are recorded: from `start` until `stop`, or until something goes wrong.
     bool isRecording() const { return m_isRecording; }
 
-    /// How far the recording is, or how far the last one came.
+    /// The progress of the running recording, or of the last one.
     const RecordingStatus &status() const { return m_status; }
 
 signals:

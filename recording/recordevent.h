@@ -15,9 +15,9 @@ struct RecordEvent
     enum class Crc { None, Ok, Bad };
 
     Kind kind = Kind::Note;
-    /// When the bytes were given to the system or read from it, or the rest was noticed.
+    /// When the bytes were given to the system or read from it, or when anything else was noticed.
     ArrivalTime time;
-    /// What went over the wire; opening, closing and notes have nothing.
+    /// What went over the wire; empty for opening, closing and notes.
     QByteArray bytes;
     Crc crc = Crc::None;
     /// The row of the command table that was sent, from 1; 0 where it isn't known.

@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// What a file of a recording begins with.
+/// The head of a recording's file.
 struct RecordingHead
 {
     ArrivalTime time;
@@ -24,7 +24,7 @@ struct RecordingHead
     int part = 1;
 };
 
-/// What went in one direction.
+/// The traffic in one direction.
 struct DirectionSum
 {
     qint64 frames = 0;
@@ -42,7 +42,7 @@ struct WireSums
     DirectionSum received;
 };
 
-/// What a file of a recording ends with when it was closed in good order.
+/// The end of a recording's file. It is there if the file was closed in good order.
 struct RecordingTail
 {
     ArrivalTime time;
@@ -50,7 +50,7 @@ struct RecordingTail
     WireSums file;
     /// What is in this file and in those of the recording before it.
     WireSums recording;
-    /// Events that the recording had no room for, and their bytes, since it began.
+    /// Events that were dropped for lack of room since the recording began, and their bytes.
     qint64 droppedEvents = 0;
     qint64 droppedBytes = 0;
     /// Why the file ends: "stopped", "file is full", "midnight", or what went wrong.

@@ -13,7 +13,7 @@
 /// When a recording writes, goes over to another file, and stops.
 struct RecordingLimits
 {
-    /// Bytes that are written at once at the latest.
+    /// With that many bytes waiting, they are written at once.
     int batchBytes = 64 * 1024;
     /// Bytes of a file before the next one begins.
     qint64 fileBytes = 256LL * 1024 * 1024;
@@ -35,7 +35,7 @@ struct RecordingPlan
     RecordingLimits limits;
 };
 
-/// How far a recording is.
+/// The progress of a recording.
 struct RecordingStatus
 {
     bool isRunning = false;
@@ -46,12 +46,12 @@ struct RecordingStatus
     qint64 events = 0;
     qint64 droppedEvents = 0;
     qint64 droppedBytes = 0;
-    /// Why it has stopped by itself; empty where it was told to.
+    /// Why it stopped by itself; empty if it was told to stop.
     QString error;
 };
 
-/// A recording from its first file to its last, by rules that know neither clock nor disk. It is
-/// told the time and writes to a sink; what it does may take as long as the sink takes.
+/// A recording from its first file to its last. It knows neither clock nor disk: it is told the
+/// time and writes to a sink. Each call may take as long as the sink takes.
 class RecordingJob
 {
 public:
@@ -61,16 +61,16 @@ public:
     /// Begins the first file. Returns whether the recording runs.
     bool begin(ArrivalTime now);
 
-    /// Takes in an event, which is written with what else waits, or at the next pass.
+    /// Accepts an event. It is written when enough is waiting, or in the next pass.
     void take(const RecordEvent &event);
 
-    /// So many events could not be taken in, since there was no room for them, with so many bytes.
+    /// Counts events that were dropped for lack of room, and their bytes.
     void noteDropped(qint64 events, qint64 bytes, ArrivalTime now);
 
-    /// Writes what waits, and does what else is due. To be called every 100 ms.
+    /// Writes what is waiting and does whatever is due. Call it every 100 ms.
     void pass(ArrivalTime now);
 
-    /// Ends the last file in good order.
+    /// Completes and closes the last file.
     void end(ArrivalTime now);
 
     const RecordingStatus &status() const { return m_status; }

@@ -22,10 +22,10 @@ public:
     /// What the file begins with; known once `next` was called.
     const RecordingHead &head() const { return m_head; }
 
-    /// The next event; nothing at the end of the file, and where what follows can't be read.
+    /// The next event; nothing at the end of the file, or if the rest can't be read.
     virtual std::optional<RecordEvent> next() = 0;
 
-    /// What the file ends with, once `next` has given nothing: nothing where the file was not
+    /// The end of the file, known once `next` has returned nothing; nothing if the file was not
     /// closed in good order.
     const std::optional<RecordingTail> &tail() const { return m_tail; }
 
@@ -33,7 +33,7 @@ public:
     /// was read.
     bool isTorn() const { return m_isTorn; }
 
-    /// What can't be read, and where ("line 3: no time"); empty where all could be.
+    /// What can't be read, and where ("line 3: no time"); empty if all could be read.
     QString error() const { return m_error; }
 
 protected:

@@ -6,7 +6,7 @@
 #include <optional>
 
 /// Where the bytes of a recording go, one file at a time. Every call may take as long as a disk
-/// does.
+/// takes.
 class RecordingSink
 {
 public:
@@ -30,7 +30,7 @@ public:
     /// Whether the open file can still be found under its name.
     virtual bool isThere() const = 0;
 
-    /// Bytes that are free where the file lies; nothing where the system doesn't tell.
+    /// Free bytes on the file's disk; nothing if the system doesn't tell.
     virtual std::optional<qint64> freeBytes() const = 0;
 
     /// Closes the open file.

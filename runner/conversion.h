@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// What came of a conversion; the words tell what is wrong, or worth knowing.
+/// The outcome of a conversion; the text says what is wrong or worth knowing.
 struct Conversion
 {
     ExitCode code = ExitCode::Good;

@@ -16,8 +16,8 @@ enum class ExitCode {
     Terminated = 143
 };
 
-/// What a run ends with. How it ended goes before what could not be written, and that before what
-/// failed.
+/// The exit code of a run. The way it ended comes before a report that can't be written, and that
+/// before a failed expectation.
 inline ExitCode exitCodeOf(RunEnd end, const RunSummary &summary, bool isWritten)
 {
     switch (end) {

@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/// What came of reading the command files: the plan, or what is wrong, a line each.
+/// The outcome of reading the command files: the plan, or the faults, one a line.
 struct ReadPlan
 {
     RunPlan plan;

@@ -10,7 +10,7 @@
 class Session;
 class SimulatedDevice;
 
-/// Opens the link of a session, and waits for it if it is to.
+/// Opens the link of a session. If asked to, it waits until the device is there.
 class LinkOpener : public QObject
 {
     Q_OBJECT
@@ -20,10 +20,10 @@ public:
     LinkOpener(Session &session, LinkChoice choice, QObject *parent = nullptr);
     ~LinkOpener() override;
 
-    /// A simulated device speaks with these.
+    /// The start bytes of a simulated device.
     void setDeviceFormat(StartBytes startBytes, bool withCrc);
 
-    /// Tries at once, and tells from the event loop what came of it.
+    /// Tries at once. The outcome is told from the event loop.
     void start();
 
 signals:

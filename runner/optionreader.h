@@ -9,11 +9,11 @@
 
 class QCommandLineParser;
 
-/// Takes values over from a command line. The first one that is wrong is remembered, in words.
+/// Reads values from a command line. The first fault is remembered, in words.
 class OptionReader
 {
 public:
-    /// The parser has parsed, and outlives this.
+    /// The parser must have parsed, and must outlive this.
     explicit OptionReader(const QCommandLineParser &parser)
         : m_parser(parser)
     {}

@@ -26,8 +26,8 @@ public:
         m_due += interval;
     }
 
-    /// What comes next is due that much later, counted from `over` where the row before was done
-    /// only then.
+    /// Postpones the next row by that much, counted from `over` if the row before was done only
+    /// then.
     void pause(qint64 over, int milliseconds)
     {
         m_due = std::max(m_due, over) + milliseconds * nsPerMs;

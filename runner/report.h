@@ -6,7 +6,7 @@
 
 #include <QByteArray>
 
-/// Tells of a run in the form of a kind of its own. Each call gives the bytes to be written next.
+/// Reports a run in one format. Each call returns the bytes to write next.
 class Report
 {
 public:

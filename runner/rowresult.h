@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// What came of a row.
+/// The outcome of a row.
 struct RowResult
 {
     /// Sent, with nothing to check; answered as expected; not so; the link was lost meanwhile.

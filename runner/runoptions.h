@@ -67,7 +67,7 @@ struct RunOptions
     Task task = Task::Run;
     bool asJson = false;
     QStringList files;
-    /// The recording that is to be converted.
+    /// The recording to convert.
     QString recording;
     LinkChoice link;
     /// What goes before the settings in the files.

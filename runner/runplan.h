@@ -52,6 +52,6 @@ FilePlan emptyPlan(const QString &name, const FileSettings &settings);
 /// What a row sends; a row that is neither a pause nor makes a frame has nothing.
 PlannedRow plannedRow(const TestRow &row, const FrameLayout &layout);
 
-/// What is sent of a file. Rows that are chosen and make no frame are told as faults.
+/// What is sent of a file. A chosen row that makes no frame is a fault.
 FilePlan planFile(const TestFile &file, const FileSettings &settings, const RowChoice &choice,
                   QVector<FileFault> &faults);

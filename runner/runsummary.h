@@ -10,7 +10,7 @@ struct RunSummary
     qint64 replies = 0;
     qint64 failures = 0;
     Durations replyTimes;
-    /// How late rows went out that were due at a time of their own.
+    /// How late the rows went out that were due at a certain time.
     Durations lateness;
     bool isRealTime = false;
 };

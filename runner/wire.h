@@ -19,10 +19,10 @@ public:
     /// Gives a frame to the system, and returns when that was.
     virtual qint64 send(const QByteArray &frame) = 0;
 
-    /// Whether something still waits to leave the program.
+    /// Whether something is still waiting to leave the program.
     virtual bool isBehind() const = 0;
 
-    /// Whether all that was sent has left the system, too, as far as it tells.
+    /// Whether the system has sent everything, as far as it tells.
     virtual bool isDrained() const = 0;
 
 signals:
