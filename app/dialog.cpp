@@ -1,6 +1,5 @@
 #include "app/dialog.h"
 
-#include "app/boxes.h"
 #include "app/commandarea.h"
 #include "app/datafolder.h"
 #include "app/looparea.h"
@@ -35,9 +34,7 @@ Dialog::Dialog(QWidget *parent)
     , m_recording(*m_form->recordPanel, m_session, m_status, m_memory, this)
     , m_helpKey(*this, QCoreApplication::applicationDirPath(), this)
 {
-    setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     m_memory.restore();
-    m_messages.setShownTime(m_memory.shownTime());
     m_messages.setRecordingFile([this] { return m_recording.file(); });
     setUpCommands();
     setUpNotices();
@@ -54,10 +51,7 @@ Dialog::~Dialog()
 void Dialog::closeEvent(QCloseEvent *event)
 {
     m_session.loop().stop();
-    m_commands.rows().takeInEdit();
-    if (m_list.isModified() && askToSaveCommands()) {
-        m_files.save();
-    }
+    m_files.saveIfWanted();
     saveSettings();
     // While the question was asked, the program may have been told to end.
     if (!m_isEnding) {
@@ -76,7 +70,6 @@ void Dialog::end()
 
 void Dialog::keepForNextStart()
 {
-    m_commands.rows().takeInEdit();
     m_files.keep();
     saveSettings();
 }
@@ -84,7 +77,6 @@ void Dialog::keepForNextStart()
 void Dialog::saveSettings()
 {
     m_settings.save(m_session, m_files);
-    m_memory.setShownTime(m_messages.shownTime());
     m_memory.save();
 }
 
@@ -95,17 +87,14 @@ void Dialog::wheelEvent(QWheelEvent * /*event*/)
 
 bool Dialog::nativeEvent(const QByteArray & /*eventType*/, void *message, long *result)
 {
-    const bool taken = m_session.devices().takeMessage(message);
-    if (taken && result != nullptr) {
-        *result = 1;
-    }
-    return taken;
+    return m_session.devices().takeMessage(message, result);
 }
 
 void Dialog::setUpSession()
 {
     m_settings.apply(m_session, m_files);
     m_loopPanel.follow(m_session);
+    m_messages.remember(m_memory);
     m_loopPanel.remember(m_memory);
     m_links.remember(m_memory);
     m_entrances.remember(m_memory);
@@ -129,8 +118,7 @@ void Dialog::setUpCommands()
     connect(&m_commands, &CommandPanel::modified, &m_list, &ListState::setModified);
     m_form->commandArea->follow(m_list);
     showReplyTimes(*m_form->commandArea, rows, m_session.replies());
-    m_messages.menu().setRowCheck([this](int id) { return m_commands.rows().rowWithId(id) >= 0; });
-    connect(&m_messages.menu(), &MessageMenu::rowWanted, &m_commands, &CommandPanel::goToRow);
+    m_messages.goToRowsOf(m_commands);
 }
 
 void Dialog::setUpNotices()

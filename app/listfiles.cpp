@@ -30,6 +30,14 @@ void ListFiles::save()
     m_actions.saveCommands();
 }
 
+void ListFiles::saveIfWanted()
+{
+    m_commands.takeInEdit();
+    if (m_list.isModified() && askToSaveCommands()) {
+        save();
+    }
+}
+
 void ListFiles::loadFrom(const QString &path)
 {
     m_commands.takeInEdit();
@@ -70,6 +78,12 @@ void ListFiles::offerLeftBehind()
         m_status.offer(tr("A command list was not saved when the program ended."),
                        tr("Load it..."));
     }
+}
+
+void ListFiles::keep()
+{
+    m_commands.takeInEdit();
+    m_recovery.keep();
 }
 
 FileSources ListFiles::sources() const

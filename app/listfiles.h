@@ -26,6 +26,8 @@ public:
     /// Loads that file, but first asks what is to become of a modified list.
     void loadFrom(const QString &path);
     void save();
+    /// Asks whether a modified list is to be saved, and saves it then.
+    void saveIfWanted();
     void saveMessages() { m_actions.saveMessages(); }
 
     /// The folders that dialogs open with, from one run to the next.
@@ -36,7 +38,7 @@ public:
     void offerLeftBehind();
 
     /// The program may end now: a modified list is left to the next start.
-    void keep() { m_recovery.keep(); }
+    void keep();
 
     /// The list isn't needed any more.
     void discardKept() { m_recovery.discard(); }

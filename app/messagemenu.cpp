@@ -77,7 +77,7 @@ void MessageMenu::addTimeEntries()
         QAction *entry = m_times->addAction(menu->addAction(text));
         entry->setCheckable(true);
         entry->setData(int(shown));
-        connect(entry, &QAction::triggered, this, [this, shown] { m_log.setShownTime(shown); });
+        connect(entry, &QAction::triggered, this, [this, shown] { emit timeWanted(shown); });
     };
     add(tr("Since the &row before"), ShownTime::SinceRowBefore);
     add(tr("Of the &day"), ShownTime::OfDay);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/messagecopy.h"
+#include "log/timecolumn.h"
 
 #include <QMenu>
 #include <QObject>
@@ -35,6 +36,9 @@ signals:
 
     /// The command row with that identity is to be shown.
     void rowWanted(int id);
+
+    /// The log's last column is to show that.
+    void timeWanted(ShownTime shown);
 
 private:
     template<typename Reaction>

@@ -15,6 +15,7 @@ static void initImages()
 std::unique_ptr<Ui::Dialog> fillWindow(QDialog &window)
 {
     initImages();
+    window.setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
     window.setWindowTitle(QLatin1String(windowTitleText));
     new LightLook(window);
     window.setStyleSheet(windowStyle());

@@ -36,6 +36,15 @@ DeviceWatch::DeviceWatch(const SerialLink &serialLink, const HidLink &hidLink, R
     connect(&m_monitor, &DeviceMonitor::replacedUnseen, this, &DeviceWatch::cameUnseen);
 }
 
+bool DeviceWatch::takeMessage(void *message, long *result)
+{
+    const bool taken = m_monitor.takeMessage(message);
+    if (taken && result != nullptr) {
+        *result = 1;
+    }
+    return taken;
+}
+
 void DeviceWatch::noteArrival(const WatchedDevice &device)
 {
     emit listsOutdated();

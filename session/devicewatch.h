@@ -25,8 +25,9 @@ public:
     /// go to the window given.
     bool start(const WindowHandle &window) { return m_monitor.start(window); }
 
-    /// Takes a native message of that window. Returns whether it told of a device.
-    bool takeMessage(void *message) { return m_monitor.takeMessage(message); }
+    /// Takes a native message of that window. Returns whether it told of a device; then `*result`,
+    /// if there is one, becomes 1, which is the answer to such a message.
+    bool takeMessage(void *message, long *result);
 
 signals:
     /// The device behind that open link has gone; emitted before this is recorded.
