@@ -211,7 +211,7 @@ void TestRowText::aBadCellIsNamed_data()
     QTest::newRow("quote") << "a\n\"b"
                            << "Row 2, a quote is not closed.";
     QTest::newRow("Select") << "a\tyes"
-                            << "Row 1, Select: neither \"select\" nor \"unselect\".";
+                            << R"(Row 1, Select: neither "select" nor "unselect".)";
     QTest::newRow("CMD") << "a\tselect\t03\nb\tselect\t3"
                          << "Row 2, CMD: A digit is missing: each byte has two.";
     QTest::newRow("Addr") << "a\tselect\t03\tfirst"

@@ -51,7 +51,7 @@ void TestTabText::anOpenQuoteIsFound_data()
 
     QTest::newRow("only a quote") << "\"" << 1;
     QTest::newRow("later") << "a\n\n\"b\"\t\"c\nd" << 2;
-    QTest::newRow("a doubled one at the end") << "\"a\"\"" << 1;
+    QTest::newRow("a doubled one at the end") << R"("a"")" << 1;
 }
 
 void TestTabText::anOpenQuoteIsFound()
