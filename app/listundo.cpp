@@ -113,8 +113,9 @@ void ListUndo::followCommands()
     connect(&m_commands, &CommandPanel::acting, this, &ListUndo::beginAct);
     connect(&m_commands, &CommandPanel::acted, this, [this] { endAct(Kind::Change); });
     connect(&m_commands, &CommandPanel::appended, this, [this] { endAct(Kind::Appending); });
-    connect(&m_commands.actions(), &RowActions::undoRequested, this, &ListUndo::undo);
-    connect(&m_commands.actions(), &RowActions::redoRequested, this, &ListUndo::redo);
+    const RowMenus &menus = m_commands.menus();
+    connect(&menus.undoAction(), &QAction::triggered, this, &ListUndo::undo);
+    connect(&menus.redoAction(), &QAction::triggered, this, &ListUndo::redo);
 }
 
 /// What was done before is no part of it.
@@ -219,6 +220,6 @@ void ListUndo::show(const RowExchange &back, Kind kind)
 void ListUndo::refreshEntries()
 {
     const RowMenus &menus = m_commands.menus();
-    menus.undoEntry().setEnabled(m_history.canUndo() || m_tracker.isTouched());
-    menus.redoEntry().setEnabled(m_history.canRedo());
+    menus.undoAction().setEnabled(m_history.canUndo() || m_tracker.isTouched());
+    menus.redoAction().setEnabled(m_history.canRedo());
 }

@@ -78,15 +78,9 @@ QPoint RowActions::placeBelow(const QModelIndex &cell) const
 
 void RowActions::run(RowAction action)
 {
-    if (action == RowAction::Undo) {
-        emit undoRequested();
-    } else if (action == RowAction::Redo) {
-        emit redoRequested();
-    } else {
-        emit acting();
-        change(action);
-        emit acted();
-    }
+    emit acting();
+    change(action);
+    emit acted();
 }
 
 void RowActions::change(RowAction action)
@@ -116,9 +110,6 @@ void RowActions::change(RowAction action)
     case RowAction::Delay:
         m_rows.insertDelayRow(row);
         selectAfterChange(row);
-        break;
-    case RowAction::Undo:
-    case RowAction::Redo:
         break;
     }
 }

@@ -58,10 +58,6 @@ signals:
     void acting();
     void acted();
 
-    /// The user wants the last step taken back, or done again.
-    void undoRequested();
-    void redoRequested();
-
     /// The user wants to edit a row's value.
     void editRequested(int row);
 

@@ -10,10 +10,16 @@ QString translated(const char *text)
     return QCoreApplication::translate("RowMenus", text);
 }
 
+QAction *makeAction(QObject *parent, const QString &text, const QKeySequence &key)
+{
+    auto *action = new QAction(text, parent);
+    action->setShortcut(key);
+    return action;
+}
+
 QAction *addAction(QMenu &menu, const QString &text, const QKeySequence &key = {})
 {
-    auto *action = new QAction(text, menu.parent());
-    action->setShortcut(key);
+    QAction *action = makeAction(menu.parent(), text, key);
     menu.addAction(action);
     return action;
 }
@@ -47,12 +53,9 @@ RowMenus::RowMenus(QWidget *parent, bool withEdit)
     m_rowActions.insert(addAction(*m_rowMenu, translated("down"), int(Qt::ALT) + int(Qt::Key_Down)),
                         RowAction::Down);
     m_rowActions.insert(addAction(*m_rowMenu, translated("delay")), RowAction::Delay);
-    m_rowMenu->addSeparator();
-    m_undo = addAction(*m_rowMenu, translated("undo"), int(Qt::CTRL) + int(Qt::Key_Z));
+    m_undo = makeAction(parent, translated("undo"), int(Qt::CTRL) + int(Qt::Key_Z));
     m_redo =
-        addAction(*m_rowMenu, translated("redo"), int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::Key_Z));
-    m_rowActions.insert(m_undo, RowAction::Undo);
-    m_rowActions.insert(m_redo, RowAction::Redo);
+        makeAction(parent, translated("redo"), int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::Key_Z));
 
     m_selections.insert(addAction(*m_selectMenu, translated("select all")), true);
     m_selections.insert(addAction(*m_selectMenu, translated("select none")), false);

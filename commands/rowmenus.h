@@ -5,11 +5,11 @@
 
 #include <optional>
 
-/// What the row menu can do with a row, and with the list.
-enum class RowAction { Edit, Insert, Clone, Delete, Up, Down, Delay, Undo, Redo };
+/// What the row menu can do with a row.
+enum class RowAction { Edit, Insert, Clone, Delete, Up, Down, Delay };
 
-/// The three context menus of the command table. Their actions are told apart by pointer, never by
-/// their texts. They show their keys, which only the table makes work.
+/// The three context menus of the command table, and what keys alone do. Actions are told apart by
+/// pointer, never by their texts. Menus show their keys, which only the table makes work.
 class RowMenus
 {
 public:
@@ -20,9 +20,9 @@ public:
     QMenu &selectMenu() const { return *m_selectMenu; }
     QMenu &cmdMenu() const { return *m_cmdMenu; }
 
-    /// The last two entries of the row menu, which mean the whole list.
-    QAction &undoEntry() const { return *m_undo; }
-    QAction &redoEntry() const { return *m_redo; }
+    /// What takes back and does again. They mean the whole list, and stand in no menu.
+    QAction &undoAction() const { return *m_undo; }
+    QAction &redoAction() const { return *m_redo; }
 
     /// What an action of the row menu stands for; nothing for any other action.
     std::optional<RowAction> rowAction(QAction *action) const;

@@ -26,6 +26,8 @@ TableKeys::TableKeys(QTableWidget &table, CommandTable &rows, RowActions &action
 {
     m_table.installEventFilter(this);
     addRowMenuKeys(menus);
+    addListKey(menus.undoAction());
+    addListKey(menus.redoAction());
     addKey(int(Qt::SHIFT) + int(Qt::Key_F10), Qt::WidgetWithChildrenShortcut, [this] {
         goToFocusedRow();
         m_actions.askForMenu();
@@ -56,10 +58,6 @@ void TableKeys::addKey(const QKeySequence &key, Qt::ShortcutContext context, Rea
 void TableKeys::addRowMenuKeys(const RowMenus &menus)
 {
     for (QAction *entry : menus.rowMenu().actions()) {
-        if (entry == &menus.undoEntry() || entry == &menus.redoEntry()) {
-            addListKey(*entry);
-            continue;
-        }
         if (entry->shortcut().isEmpty()) {
             continue;
         }

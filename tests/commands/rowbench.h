@@ -14,7 +14,7 @@ public:
     QTableWidget *table() const { return window.commands(); }
     CommandTable *rows() { return window.window().findChild<CommandTable *>(); }
     RowActions *actions() { return window.window().findChild<RowActions *>(); }
-    /// The first entry of any menu that has this text; null if none has.
+    /// The first action of the window that has this text; null if none has.
     QAction *entry(const QString &text);
 
     /// The descriptions from top to bottom; "-" stands for a row without one, "D" for a delay row.

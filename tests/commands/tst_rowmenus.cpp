@@ -22,8 +22,7 @@ private slots:
 
 namespace {
 
-const QStringList rowEntries{"insert", "clone", "delete", "up",  "down",
-                             "delay",  "",      "undo",   "redo"};
+const QStringList rowEntries{"insert", "clone", "delete", "up", "down", "delay"};
 const QStringList selectEntries{"select all", "select none"};
 
 QString settingsPath()

@@ -42,8 +42,7 @@ private slots:
     void aProgramMayWriteWithoutSignals();
     void whatWasChangedIsShown();
     void manyRowsComeBackAsTheyWere();
-    void theMenuTakesBackAndDoesAgain();
-    void theEntriesRestWhereThereIsNothing();
+    void theKeysRestWhereThereIsNothing();
     void theStatusLineSaysWhat();
     void twentyStepsStay();
 
@@ -316,9 +315,9 @@ void TestUndo::whatIsTypedIsTakenInFirst()
     goTo(1, Column::Addr);
     press(Qt::Key_F2);
     type("1a");
-    m_bench->actions()->run(RowAction::Undo);
+    m_bench->entry("undo")->trigger();
     QVERIFY(text(1, Column::Addr).isEmpty());
-    m_bench->actions()->run(RowAction::Redo);
+    m_bench->entry("redo")->trigger();
     QCOMPARE(text(1, Column::Addr), QString("001A"));
 }
 
@@ -565,23 +564,7 @@ void TestUndo::manyRowsComeBackAsTheyWere()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void TestUndo::theMenuTakesBackAndDoesAgain()
-{
-    QCOMPARE(m_bench->entry("undo")->shortcut(), QKeySequence("Ctrl+Z"));
-    QCOMPARE(m_bench->entry("redo")->shortcut(), QKeySequence("Ctrl+Shift+Z"));
-    goTo(3, Column::Data);
-    press(Qt::Key_D, Qt::ControlModifier);
-    m_bench->menus.choose("undo");
-    m_bench->rightClick(7, Column::Data);
-    QCOMPARE(m_bench->order(), QString("012345678"));
-    comeBack();
-    goTo(7, Column::Data);
-    m_bench->menus.choose("redo");
-    press(Qt::Key_F10, Qt::ShiftModifier);
-    QCOMPARE(m_bench->order(), QString("0123345678"));
-}
-
-void TestUndo::theEntriesRestWhereThereIsNothing()
+void TestUndo::theKeysRestWhereThereIsNothing()
 {
     goTo(0, Column::Data);
     undo();
