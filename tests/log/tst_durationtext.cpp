@@ -19,6 +19,7 @@ namespace {
 constexpr qint64 usInNs = 1000;
 constexpr qint64 msInNs = 1000000;
 constexpr qint64 secondInNs = 1000000000;
+constexpr qint64 dayInNs = 86400 * secondInNs;
 
 } // namespace
 
@@ -53,7 +54,7 @@ void TestDurationText::inThreeDigits_data()
     add(11220 * secondInNs, "3h 07m");
     add(359999 * secondInNs, "99h 59m");
     add(360000 * secondInNs, "4 d");
-    add(12 * 86400 * secondInNs, "12 d");
+    add(12 * dayInNs, "12 d");
     add(-12345 * usInNs, "−12.3 ms");
     add(-725 * secondInNs, "−12m 05s");
 }

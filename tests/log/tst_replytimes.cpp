@@ -109,16 +109,16 @@ void TestReplyTimes::rowsSentTogetherAreAnsweredInOrder()
 
 void TestReplyTimes::aRowWithoutAnswersLeavesOthersAlone()
 {
-    constexpr int passes = 100;
+    constexpr qint64 passes = 100;
     ReplyTimes times;
-    for (int pass = 0; pass < passes; ++pass) {
+    for (qint64 pass = 0; pass < passes; ++pass) {
         const qint64 begin = pass * 200 * replyMs;
         times.noteSent(1, begin);
         times.noteSent(2, begin + 100 * replyMs);
         times.noteReceived(begin + 104 * replyMs);
     }
     times.passTime(passes * 200 * replyMs + 2 * replySecond);
-    QCOMPARE(times.of(1)->lost, qint64(passes));
+    QCOMPARE(times.of(1)->lost, passes);
     QCOMPARE(times.of(1)->times.count(), qint64(0));
     QCOMPARE(times.of(2)->lost, qint64(0));
     QCOMPARE(times.of(2)->times.most(), 4 * replyMs);

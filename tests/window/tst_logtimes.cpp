@@ -103,7 +103,7 @@ void TestLogTimes::theTimeFitsItsColumn_data()
     QTest::newRow("us") << int(ShownTime::SinceRowBefore) << qint64(888888);
     QTest::newRow("ms") << int(ShownTime::SinceRowBefore) << 88888 * msInNs / 1000;
     QTest::newRow("before") << int(ShownTime::SinceRowBefore) << -88888 * msInNs / 1000;
-    QTest::newRow("minutes") << int(ShownTime::SinceRowBefore) << 48 * 60 * 1000 * msInNs;
+    QTest::newRow("minutes") << int(ShownTime::SinceRowBefore) << qint64(48) * 60 * 1000 * msInNs;
     QTest::newRow("of the day") << int(ShownTime::OfDay) << msInNs;
 }
 
@@ -127,8 +127,7 @@ void TestLogTimes::theTimeFitsItsColumn()
 void TestLogTimes::theTipTellsTheTimeInFull()
 {
     const TimedWindow window(12 * msInNs);
-    const QRegularExpression first("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:27\\.123456 [+-]\\d\\d:"
-                                   "\\d\\d$");
+    const QRegularExpression first(R"(^\d{4}-\d\d-\d\d \d\d:\d\d:27\.123456 [+-]\d\d:\d\d$)");
     const QString tip = tipOf(*window.messages(), 0, LogColumn::Rest);
     QVERIFY2(first.match(tip).hasMatch(), qPrintable(tip));
     const QStringList lines = tipOf(*window.messages(), 1, LogColumn::Rest).split('\n');

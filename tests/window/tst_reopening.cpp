@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <functional>
+#include <utility>
 
 /// "Reopen": a port that was lost is opened again when it is back.
 class TestReopening : public QObject
@@ -40,8 +41,8 @@ QString linksFolder()
 class ReopenWindow : public SerialWindow
 {
 public:
-    explicit ReopenWindow(const QString &portName = linksFolder() + "/device")
-        : name(portName)
+    explicit ReopenWindow(QString portName = linksFolder() + "/device")
+        : name(std::move(portName))
     {
         click(check("checkBox_Reopen"));
         plugIn();
