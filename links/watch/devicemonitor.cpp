@@ -55,10 +55,11 @@ void DeviceMonitor::watchPortsFolder()
     m_folderWatcher->addPath(m_portsFolder);
 }
 
-/// A link that has gone and come again since the last look is the same as before.
-void DeviceMonitor::lookAgain(const QString &changed)
+/// A link that has gone and come again since the last look is the same as before. The folder above
+/// may have told first: watching anew drops what the ports' folder has yet to tell.
+void DeviceMonitor::lookAgain()
 {
-    if (!comparePorts() && changed == m_portsFolder) {
+    if (!comparePorts()) {
         emit replacedUnseen();
     }
 }

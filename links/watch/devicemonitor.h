@@ -35,12 +35,13 @@ signals:
     void removed(const WatchedDevice &device);
     /// More has happened than could be told; the device lists are to be read again.
     void refreshNeeded();
-    /// The folder has changed, and its links are as before: one may have gone and come again.
+    /// The folder, or the one above, has changed, and the links are as before: one may have gone
+    /// and come again.
     void replacedUnseen();
 
 private:
     void watchPortsFolder();
-    void lookAgain(const QString &changed);
+    void lookAgain();
     bool comparePorts();
 
     QString m_portsFolder;

@@ -2,6 +2,7 @@
 #include "links/serial/portsfolder.h"
 #include "links/watch/devicemonitor.h"
 #include "privatesystem.h"
+#include "testfiles.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -69,6 +70,7 @@ private slots:
     void listenerEndsTheMonitor();
     void linkComesAndGoes();
     void linkIsReplaced();
+    void linkIsReplacedByItsLike_data();
     void linkIsReplacedByItsLike();
     void whatIsNoLinkIsIgnored();
     void missingFolder();
@@ -294,22 +296,36 @@ void TestDeviceMonitor::linkIsReplaced()
     QTRY_COMPARE(told, QStringList({"- port " + link, "+ port " + link}));
 }
 
+void TestDeviceMonitor::linkIsReplacedByItsLike_data()
+{
+    QTest::addColumn<bool>("afterTheFolderAbove");
+
+    QTest::newRow("alone") << false;
+    QTest::newRow("after a change of the folder above") << true;
+}
+
 void TestDeviceMonitor::linkIsReplacedByItsLike()
 {
-    const QString link = inFolder("device");
+    QFETCH(bool, afterTheFolderAbove);
+    QVERIFY(QDir(m_folder->path()).mkdir("links"));
+    const QString link = inFolder("links/device");
     QVERIFY(QFile::link("/dev/null", link));
-    DeviceMonitor monitor(m_folder->path());
+    DeviceMonitor monitor(inFolder("links"));
     const Told told(monitor);
-    QSignalSpy replaced(&monitor, &DeviceMonitor::replacedUnseen);
+    const QSignalSpy replaced(&monitor, &DeviceMonitor::replacedUnseen);
     QVERIFY(monitor.start());
+    if (afterTheFolderAbove) {
+        writeFile(inFolder("settings.ini"), "another");
+    }
     QVERIFY(QFile::remove(link));
     QVERIFY(QFile::link("/dev/null", link));
-    QTRY_COMPARE(replaced.size(), 1);
+    QTRY_VERIFY(!replaced.isEmpty());
     QCOMPARE(told, QStringList());
     // What is seen is not told so.
+    const auto before = replaced.size();
     QVERIFY(QFile::remove(link));
     QTRY_COMPARE(told, QStringList("- port " + link));
-    QCOMPARE(replaced.size(), 1);
+    QCOMPARE(replaced.size(), before);
 }
 
 void TestDeviceMonitor::whatIsNoLinkIsIgnored()
