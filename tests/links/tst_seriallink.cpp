@@ -28,6 +28,9 @@ private slots:
     void aBusyHandlerLosesNothing();
     void dataDuringAWriteAreSignalledAfterIt();
     void writingWhileDataComeInIsNoLoss();
+    void whatComesInIsHandedUpAtOnceIfWanted_data();
+    void whatComesInIsHandedUpAtOnceIfWanted();
+    void whatTheFarEndDoesNotTakeIsNotDrained();
 };
 
 void TestSerialLink::closedLinkTakesNothing()
@@ -301,6 +304,53 @@ void TestSerialLink::writingWhileDataComeInIsNoLoss()
     QTRY_COMPARE(collector.bytes.size(), 2 * rounds);
     QTRY_COMPARE(port.received().size(), 3 * rounds);
     QCOMPARE(lost.count(), 0);
+}
+
+void TestSerialLink::whatComesInIsHandedUpAtOnceIfWanted_data()
+{
+    QTest::addColumn<bool>("atOnce");
+
+    QTest::newRow("at once") << true;
+    QTest::newRow("after a wait for more") << false;
+}
+
+void TestSerialLink::whatComesInIsHandedUpAtOnceIfWanted()
+{
+    QFETCH(bool, atOnce);
+    const TestPort port;
+    SerialLink link(longestRead);
+    if (atOnce) {
+        link.handUpAtOnce();
+    }
+    const Collector collector(link);
+    QVERIFY(link.open(settingsAt(port)));
+    // Called behind the link, when the port announces what has come in.
+    int handedUpBefore = -1;
+    connect(portOf(link), &QSerialPort::readyRead, this, [&] {
+        if (handedUpBefore < 0) {
+            handedUpBefore = collector.handlers;
+        }
+    });
+    port.send("bytes");
+    QTRY_COMPARE(collector.bytes, QByteArray("bytes"));
+    QCOMPARE(handedUpBefore, atOnce ? 1 : 0);
+}
+
+void TestSerialLink::whatTheFarEndDoesNotTakeIsNotDrained()
+{
+    TestPort port;
+    SerialLink link(longestRead);
+    QVERIFY(link.isDrained());
+    QVERIFY(link.open(settingsAt(port)));
+    QVERIFY(link.isDrained());
+    const QByteArray block = numbered(200000);
+    link.write(block);
+    QVERIFY(!link.isDrained());
+    QTRY_COMPARE(port.received().size(), block.size());
+    QTRY_VERIFY(link.isDrained());
+    link.write(block);
+    link.close();
+    QVERIFY(link.isDrained());
 }
 
 QTEST_GUILESS_MAIN(TestSerialLink)
