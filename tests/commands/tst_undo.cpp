@@ -1,22 +1,16 @@
-#include "filedialoguser.h"
-#include "rowbench.h"
-#include "testfiles.h"
+#include "undotest.h"
 
 #include <QClipboard>
-#include <QLabel>
-#include <QScrollBar>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace Column = CommandColumn;
 
-class TestUndo : public QObject
+/// Each act of the user, or of a program, is one step that is taken back and done again.
+class TestUndo : public UndoTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
     void anActIsOneStep_data();
     void anActIsOneStep();
     void changesWithoutTheMarkAreTakenBackWithoutIt();
@@ -25,81 +19,13 @@ private slots:
     void boxesOfManyRowsAreOneStep();
     void cmdOfTheMenuIsOneStep();
     void anEditIsOneStepWithItsAddress();
-    void aWalkIsAStepForEachCell();
-    void keysOfATextComeFirst();
-    void anUntouchedEditorGivesWay();
-    void whatIsTypedIsTakenInFirst();
-    void keysOfOtherTextsStayTheirs();
-    void afterAButtonTheKeysCount();
     void theEditorOfValuesIsOneStep();
     void pastedRowsAreOneStep();
     void pastedBytesAreOneStep();
     void turnsOfTheWheelAreOneStep();
-    void clearingComesBack();
-    void loadingComesBackWithItsFile();
-    void savingMovesTheMark();
     void aProgramsWritingIsOneStep();
     void aProgramMayWriteWithoutSignals();
-    void whatWasChangedIsShown();
-    void manyRowsComeBackAsTheyWere();
-    void theKeysRestWhereThereIsNothing();
-    void theStatusLineSaysWhat();
-    void twentyStepsStay();
-
-private:
-    QTableWidget *table() const { return m_bench->table(); }
-    QString text(int row, int column) const { return table()->item(row, column)->text(); }
-    QString title() const { return m_bench->window.find<QLabel>("label_ListName")->text(); }
-    QString status() const { return m_bench->window.find<QLabel>("label_Status")->text(); }
-    QVector<CommandRow> rows() const { return m_bench->rows()->rows(); }
-    void goTo(int row, int column) const;
-    static void press(int key, int modifiers = Qt::NoModifier);
-    static void type(const char *keys) { QTest::keyClicks(QApplication::focusWidget(), keys); }
-    static void undo() { press(Qt::Key_Z, Qt::ControlModifier); }
-    static void redo() { press(Qt::Key_Z, int(Qt::ControlModifier) | int(Qt::ShiftModifier)); }
-    bool canUndo() const { return m_bench->entry("undo")->isEnabled(); }
-    bool canRedo() const { return m_bench->entry("redo")->isEnabled(); }
-
-    /// After another window has had the keys.
-    void comeBack() const;
-
-    std::unique_ptr<RowBench> m_bench;
 };
-
-void TestUndo::comeBack() const
-{
-    m_bench->window.window().activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&m_bench->window.window()));
-    table()->setFocus();
-    QTRY_VERIFY(table()->hasFocus());
-}
-
-void TestUndo::init()
-{
-    m_bench = std::make_unique<RowBench>();
-    m_bench->window.window().activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&m_bench->window.window()));
-    // The numbers of the rows are a step of their own.
-    QCoreApplication::processEvents();
-    QVERIFY(canUndo());
-}
-
-void TestUndo::cleanup()
-{
-    m_bench.reset();
-}
-
-void TestUndo::goTo(int row, int column) const
-{
-    table()->setCurrentCell(row, column);
-    table()->setFocus();
-}
-
-void TestUndo::press(int key, int modifiers)
-{
-    QVERIFY(QApplication::focusWidget() != nullptr);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-}
 
 void TestUndo::anActIsOneStep_data()
 {
@@ -246,109 +172,6 @@ void TestUndo::anEditIsOneStepWithItsAddress()
     QCOMPARE(title(), QString("*"));
 }
 
-void TestUndo::aWalkIsAStepForEachCell()
-{
-    goTo(0, Column::Addr);
-    press(Qt::Key_F2);
-    type("10");
-    press(Qt::Key_Return);
-    type("01");
-    press(Qt::Key_Return);
-    press(Qt::Key_Return);
-    type("02");
-    press(Qt::Key_Return);
-    const auto texts = [this] {
-        return QStringList{text(0, Column::Addr), text(0, Column::Data), text(1, Column::Addr),
-                           text(1, Column::Data)};
-    };
-    QCOMPARE(texts(), (QStringList{"0010", "01", "0011", "02"}));
-    undo();
-    QCOMPARE(texts(), (QStringList{"0010", "01", "0011", ""}));
-    undo();
-    QCOMPARE(texts(), (QStringList{"0010", "01", "", ""}));
-    undo();
-    QCOMPARE(texts(), (QStringList{"0010", "", "", ""}));
-    undo();
-    QCOMPARE(texts(), (QStringList{"", "", "", ""}));
-    QCOMPARE(title(), QString());
-}
-
-void TestUndo::keysOfATextComeFirst()
-{
-    goTo(1, Column::Data);
-    press(Qt::Key_D, Qt::ControlModifier);
-    goTo(1, Column::Data);
-    press(Qt::Key_F2);
-    type("77");
-    const auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-    QVERIFY(editor != nullptr);
-    undo();
-    QCOMPARE(QApplication::focusWidget(), editor);
-    QCOMPARE(editor->text(), QString());
-    QCOMPARE(m_bench->order(), QString("0112345678"));
-    redo();
-    QCOMPARE(editor->text(), QString("77"));
-    undo();
-    // Nothing is left to be taken back in it.
-    undo();
-    QVERIFY(table()->hasFocus());
-    QCOMPARE(m_bench->order(), QString("012345678"));
-    QCOMPARE(text(1, Column::Data), QString());
-}
-
-void TestUndo::anUntouchedEditorGivesWay()
-{
-    goTo(1, Column::Description);
-    press(Qt::Key_D, Qt::ControlModifier);
-    press(Qt::Key_F2);
-    QVERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()) != nullptr);
-    undo();
-    QCOMPARE(m_bench->order(), QString("012345678"));
-    QVERIFY(table()->hasFocus());
-    press(Qt::Key_F2);
-    redo();
-    QCOMPARE(m_bench->order(), QString("0112345678"));
-}
-
-void TestUndo::whatIsTypedIsTakenInFirst()
-{
-    goTo(1, Column::Addr);
-    press(Qt::Key_F2);
-    type("1a");
-    m_bench->entry("undo")->trigger();
-    QVERIFY(text(1, Column::Addr).isEmpty());
-    m_bench->entry("redo")->trigger();
-    QCOMPARE(text(1, Column::Addr), QString("001A"));
-}
-
-void TestUndo::keysOfOtherTextsStayTheirs()
-{
-    goTo(1, Column::Data);
-    press(Qt::Key_D, Qt::ControlModifier);
-    QLineEdit *field = m_bench->window.edit("lineEdit_StepValue");
-    const QString before = field->text();
-    field->setFocus();
-    press(Qt::Key_End);
-    type("7");
-    undo();
-    QCOMPARE(field->text(), before);
-    undo();
-    QCOMPARE(m_bench->order(), QString("0112345678"));
-}
-
-void TestUndo::afterAButtonTheKeysCount()
-{
-    const QVector<CommandRow> before = rows();
-    m_bench->window.button("pushButton_ClearCommand")->setFocus();
-    press(Qt::Key_Space);
-    QCOMPARE(m_bench->order(), QString("---------"));
-    undo();
-    QVERIFY(rows() == before);
-    m_bench->window.messages()->setFocus();
-    redo();
-    QCOMPARE(m_bench->order(), QString("---------"));
-}
-
 void TestUndo::theEditorOfValuesIsOneStep()
 {
     m_bench->window.setRow(3, "10", "0001", "00 00 00 01");
@@ -412,76 +235,6 @@ void TestUndo::turnsOfTheWheelAreOneStep()
     QCOMPARE(table()->rowCount(), 38);
 }
 
-void TestUndo::clearingComesBack()
-{
-    goTo(3, Column::Data);
-    press(Qt::Key_D, Qt::ControlModifier);
-    const QVector<CommandRow> before = rows();
-    QCOMPARE(title(), QString("*"));
-    m_bench->window.click("pushButton_ClearCommand");
-    QCOMPARE(title(), QString());
-    undo();
-    QVERIFY(rows() == before);
-    QCOMPARE(title(), QString("*"));
-    redo();
-    QCOMPARE(m_bench->order(), QString("---------"));
-    QCOMPARE(title(), QString());
-}
-
-void TestUndo::loadingComesBackWithItsFile()
-{
-    const QTemporaryDir folder;
-    writeFile(folder.filePath("a.txt"), "//@ tarnwick-run 1\na,select,03 0001 01\n//? 03 **\n");
-    writeFile(folder.filePath("b.txt"), QByteArray("b,select,03 0002 02\n").repeated(12));
-    {
-        const FileDialogUser user(folder.filePath("a.txt"));
-        m_bench->window.click("pushButton_LoadCommand");
-    }
-    const QVector<CommandRow> first = rows();
-    QCOMPARE(first.first().expectations, QString("//@ tarnwick-run 1\n//? 03 **\n"));
-    {
-        const FileDialogUser user(folder.filePath("b.txt"));
-        m_bench->window.click("pushButton_LoadCommand");
-    }
-    comeBack();
-    const QVector<CommandRow> second = rows();
-    QCOMPARE(title(), QString("b.txt"));
-    goTo(0, Column::Data);
-    press(Qt::Key_D, Qt::ControlModifier);
-    QCOMPARE(title(), QString("b.txt*"));
-    undo();
-    QCOMPARE(title(), QString("b.txt"));
-    QVERIFY(rows() == second);
-    undo();
-    QCOMPARE(title(), QString("a.txt"));
-    QVERIFY(rows() == first);
-    QCOMPARE(m_bench->window.find<QLabel>("label_ListName")->toolTip(),
-             QDir::toNativeSeparators(folder.filePath("a.txt")));
-    undo();
-    QCOMPARE(title(), QString());
-    QCOMPARE(m_bench->order(), QString("012345678"));
-    redo();
-    redo();
-    QCOMPARE(title(), QString("b.txt"));
-    QVERIFY(rows() == second);
-}
-
-void TestUndo::savingMovesTheMark()
-{
-    const QTemporaryDir folder;
-    const FileDialogUser user(folder.filePath("a.txt"));
-    goTo(3, Column::Data);
-    press(Qt::Key_D, Qt::ControlModifier);
-    m_bench->window.click("pushButton_SaveCommand");
-    comeBack();
-    QCOMPARE(title(), QString("a.txt"));
-    table()->setFocus();
-    undo();
-    QCOMPARE(title(), QString("a.txt*"));
-    redo();
-    QCOMPARE(title(), QString("a.txt"));
-}
-
 void TestUndo::aProgramsWritingIsOneStep()
 {
     m_bench->window.setRow(2, "01", "0300", "00 01");
@@ -515,104 +268,6 @@ void TestUndo::aProgramMayWriteWithoutSignals()
     QCOMPARE(text(0, Column::Data), QString());
     redo();
     QCOMPARE(m_bench->order(), QString("0134x678"));
-}
-
-void TestUndo::whatWasChangedIsShown()
-{
-    m_bench->rows()->replaceRows(QVector<CommandRow>(200, emptyRow()));
-    table()->item(150, Column::Addr)->setText("0010");
-    QCoreApplication::processEvents();
-    table()->scrollToTop();
-    goTo(2, Column::Description);
-    undo();
-    QCOMPARE(table()->currentRow(), 150);
-    QCOMPARE(table()->currentColumn(), int(Column::Addr));
-    const QModelIndexList selected = table()->selectionModel()->selectedRows();
-    QCOMPARE(selected.size(), 1);
-    QCOMPARE(selected.first().row(), 150);
-    QVERIFY(table()->viewport()->rect().contains(
-        table()->visualItemRect(table()->item(150, Column::Addr))));
-    // Of rows that are gone, their place is shown.
-    goTo(100, Column::Data);
-    press(Qt::Key_Insert);
-    table()->scrollToTop();
-    undo();
-    QCOMPARE(table()->currentRow(), 100);
-    QVERIFY(table()->selectionModel()->selectedRows().isEmpty());
-    QVERIFY(table()->verticalScrollBar()->value() > 50);
-}
-
-void TestUndo::manyRowsComeBackAsTheyWere()
-{
-    QVector<CommandRow> many(2000, delayRow());
-    for (int row = 0; row < many.size(); ++row) {
-        many[row].description = QString::number(row);
-    }
-    m_bench->rows()->replaceRows(many);
-    const int id = m_bench->rows()->row(1000).id;
-    m_bench->window.click("pushButton_ClearCommand");
-    undo();
-    QVERIFY(rows() == many);
-    // They are the rows that they were, not others that look like them.
-    QCOMPARE(m_bench->rows()->rowWithId(id), 1000);
-    redo();
-    QCOMPARE(table()->rowCount(), 9);
-    undo();
-    QVERIFY(rows() == many);
-    undo();
-    QCOMPARE(m_bench->order(), QString("012345678"));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-void TestUndo::theKeysRestWhereThereIsNothing()
-{
-    goTo(0, Column::Data);
-    undo();
-    QVERIFY(!canUndo());
-    QVERIFY(canRedo());
-    QCOMPARE(m_bench->order(), QString("---------"));
-    undo();
-    QVERIFY(!canUndo());
-    // What is written is offered at once.
-    table()->item(5, Column::Description)->setText("x");
-    QVERIFY(canUndo());
-    QCoreApplication::processEvents();
-    QVERIFY(!canRedo());
-    redo();
-    QCOMPARE(m_bench->order(), QString("-----x---"));
-}
-
-void TestUndo::theStatusLineSaysWhat()
-{
-    goTo(3, Column::Data);
-    press(Qt::Key_D, Qt::ControlModifier);
-    undo();
-    QCOMPARE(status(), QString("Undone: row 5 inserted."));
-    redo();
-    QCOMPARE(status(), QString("Redone: row 5 inserted."));
-    press(Qt::Key_Delete, Qt::ControlModifier);
-    undo();
-    QCOMPARE(status(), QString("Undone: row 5 deleted."));
-    press(Qt::Key_Up, Qt::AltModifier);
-    goTo(3, Column::Select);
-    press(Qt::Key_Space);
-    undo();
-    QCOMPARE(status(), QString("Undone: row 4 changed."));
-    m_bench->window.click("pushButton_ClearCommand");
-    undo();
-    QCOMPARE(status(), QString("Undone: another list."));
-}
-
-void TestUndo::twentyStepsStay()
-{
-    for (int step = 0; step < 30; ++step) {
-        goTo(0, Column::Data);
-        press(Qt::Key_Insert);
-    }
-    for (int step = 0; step < 30; ++step) {
-        undo();
-    }
-    QCOMPARE(m_bench->order(), QString("----------012345678"));
 }
 
 QTEST_MAIN(TestUndo)
