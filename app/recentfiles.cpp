@@ -40,7 +40,8 @@ RecentFiles::RecentFiles(QPushButton &loadButton, QObject *parent)
     , m_button(loadButton)
     , m_menu(&loadButton)
 {
-    const auto *key = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_R), m_button.window());
+    const auto *key =
+        new QShortcut(QKeySequence(int(Qt::CTRL) + int(Qt::Key_R)), m_button.window());
     connect(key, &QShortcut::activated, this, &RecentFiles::showMenu);
 }
 

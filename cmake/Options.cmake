@@ -20,7 +20,9 @@ endif()
 
 add_library(tarnwick_options INTERFACE)
 target_compile_options(tarnwick_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  # Qt's QSKIP is one.
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>)
 target_compile_definitions(tarnwick_options INTERFACE
   QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_DEPRECATED_WARNINGS)
 

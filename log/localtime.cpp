@@ -44,11 +44,11 @@ QString localTimeText(qint64 utcUs)
 
 QString utcOffsetText(int seconds)
 {
-    constexpr int secondsPerMinute = 60;
+    constexpr int secondsInMinute = 60;
     constexpr int minutesPerHour = 60;
-    const int minutes = seconds / secondsPerMinute;
+    const int minutes = seconds / secondsInMinute;
     const QTime offset =
-        QTime(0, 0).addSecs(std::abs(minutes) % (24 * minutesPerHour) * secondsPerMinute);
+        QTime(0, 0).addSecs(std::abs(minutes) % (24 * minutesPerHour) * secondsInMinute);
     return (minutes < 0 ? QLatin1Char('-') : QLatin1Char('+')) +
            offset.toString(QStringLiteral("HH:mm"));
 }
