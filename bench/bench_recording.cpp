@@ -156,7 +156,7 @@ int main(int argc, char *argv[])
     Recorder recorder;
     QObject::connect(&session.tap(), &WireTap::happened, &recorder, &Recorder::record);
     RecordingPlan plan;
-    plan.path = folder.filePath(QStringLiteral("bench.jsonl"));
+    plan.path = folder.filePath(QStringLiteral("bench-001.jsonl"));
     plan.head = session.tap().head();
     session.tap().start();
     recorder.start(plan);
