@@ -312,14 +312,18 @@ void TestDeviceMonitor::linkIsReplacedByItsLike()
     QVERIFY(QFile::link("/dev/null", link));
     DeviceMonitor monitor(inFolder("links"));
     const Told told(monitor);
-    const QSignalSpy replaced(&monitor, &DeviceMonitor::replacedUnseen);
+    QSignalSpy replaced(&monitor, &DeviceMonitor::replacedUnseen);
     QVERIFY(monitor.start());
-    if (afterTheFolderAbove) {
-        writeFile(inFolder("settings.ini"), "another");
+    // Which of two folders is told of first differs from time to time.
+    for (int times = 0; times < 20; ++times) {
+        replaced.clear();
+        if (afterTheFolderAbove) {
+            writeFile(inFolder(QString::number(times)), "another");
+        }
+        QVERIFY(QFile::remove(link));
+        QVERIFY(QFile::link("/dev/null", link));
+        QTRY_VERIFY(!replaced.isEmpty());
     }
-    QVERIFY(QFile::remove(link));
-    QVERIFY(QFile::link("/dev/null", link));
-    QTRY_VERIFY(!replaced.isEmpty());
     QCOMPARE(told, QStringList());
     // What is seen is not told so.
     const auto before = replaced.size();

@@ -29,11 +29,7 @@ private slots:
 namespace {
 
 /// A sanitizer keeps what was freed.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool isSanitized = true;
-#else
-constexpr bool isSanitized = false;
-#endif
+constexpr bool isSanitized = TARNWICK_SANITIZED;
 
 const QByteArray mixed("//@ tarnwick-run 1\n"
                        "Echo <&> \"it\",select,42 0000 01\n//? 42 **\n"
