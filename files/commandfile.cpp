@@ -21,17 +21,15 @@ QByteArray takeLine(const QByteArray &bytes, int &begin)
 class ExpectationKeeper
 {
 public:
-    void take(const QByteArray &line, QVector<CommandRow> &rows)
+    /// Takes a line without a row, and its text.
+    void take(const QByteArray &line, const QString &text, QVector<CommandRow> &rows)
     {
-        if (!line.startsWith("//")) {
-            return;
-        }
-        const QString text = QString::fromLocal8Bit(line.trimmed()) + QLatin1Char('\n');
         if (rows.isEmpty() && m_runLine.isEmpty() && isRunLine(line)) {
-            m_runLine = text;
+            m_runLine = text.trimmed() + QLatin1Char('\n');
         } else if (!rows.isEmpty() && !m_runLine.isEmpty() && isExpectationLine(line)) {
             QString &expectations = rows.last().expectations;
-            expectations += (expectations.isEmpty() ? m_runLine : QString()) + text;
+            expectations += (expectations.isEmpty() ? m_runLine : QString()) + text.trimmed() +
+                            QLatin1Char('\n');
         }
     }
 
@@ -65,13 +63,13 @@ std::optional<CommandRow> CommandLineReader::read(const QByteArray &line)
     if (m_isRecovery) {
         return recoveredRow(line);
     }
-    const QString text = m_decoder.decode(line);
-    if (isIgnoredLine(text)) {
+    m_text = m_decoder.decode(line);
+    if (isIgnoredLine(m_text)) {
         return std::nullopt;
     }
     std::optional<CommandRow> row;
     if (line.size() <= longestCommandLine) {
-        row = parseCommandLine(text);
+        row = parseCommandLine(m_text);
     }
     m_sawInvalidLine = m_sawInvalidLine || !row;
     return row;
@@ -88,7 +86,10 @@ CommandFile readCommandFile(const QByteArray &bytes)
         const QByteArray line = takeLine(bytes, begin);
         const std::optional<CommandRow> row = reader.read(line);
         if (!row) {
-            expectations.take(line, file.rows);
+            // A row of a recovery file holds its own.
+            if (!file.isRecovery) {
+                expectations.take(line, reader.text(), file.rows);
+            }
             continue;
         }
         file.hasTooManyRows = file.rows.size() == mostCommandRows;

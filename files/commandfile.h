@@ -31,11 +31,15 @@ public:
     /// comment and for an invalid line: one with too few or too many fields, or too long.
     std::optional<CommandRow> read(const QByteArray &line);
 
+    /// The line read last as text, without its line end; nothing in a recovery file.
+    const QString &text() const { return m_text; }
+
     bool sawInvalidLine() const { return m_sawInvalidLine; }
 
 private:
     bool m_isRecovery;
     LineDecoder m_decoder;
+    QString m_text;
     bool m_sawInvalidLine = false;
 };
 

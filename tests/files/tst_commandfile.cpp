@@ -12,6 +12,8 @@ class TestCommandFile : public QObject
 
 private slots:
     void expectationsStayWithTheirRows();
+    void expectationsKeepEachCharacter_data();
+    void expectationsKeepEachCharacter();
     void withoutTheRunLineCommentsAreDropped();
     void initTestCase();
     void rowsAndFlag_data();
@@ -372,6 +374,31 @@ void TestCommandFile::expectationsStayWithTheirRows()
                                             "//? 42 **\nWrite,select,10 0020 01 F4\n"));
     const QByteArray settingsOnly("//@ tarnwick-run 1\nRead,select,03 0010 00 02\n");
     QCOMPARE(commandFileText(readCommandFile(settingsOnly).rows).toLatin1(), settingsOnly);
+}
+
+void TestCommandFile::expectationsKeepEachCharacter_data()
+{
+    QTest::addColumn<QByteArray>("remark");
+    QTest::addColumn<QString>("kept");
+    QTest::newRow("a zero byte") << QByteArray("a\0b", 3) << QString("a%1b").arg(QChar(0));
+    QTest::newRow("a zero byte at the end")
+        << QByteArray("a\t\0", 3) << QString("a\t%1").arg(QChar(0));
+    QTest::newRow("UTF-8") << QByteArray("\xC2\xB0"
+                                         "C")
+                           << QString::fromUtf8("°C");
+    QTest::newRow("GBK") << gbk("啊") << QString::fromUtf8("啊");
+}
+
+void TestCommandFile::expectationsKeepEachCharacter()
+{
+    QFETCH(QByteArray, remark);
+    QFETCH(QString, kept);
+    const CommandFile file = readCommandFile(
+        "//@ tarnwick-run 1 " + remark + "\nRead,select,03 0010 00 02\n//? 03  " + remark + "\r\n");
+    const QString saved = commandFileText(file.rows);
+    QCOMPARE(saved, QString("//@ tarnwick-run 1 " + kept + "\nRead,select,03 0010 00 02\n//? 03  " +
+                            kept + "\n"));
+    QCOMPARE(commandFileText(readCommandFile(saved.toUtf8()).rows), saved);
 }
 
 void TestCommandFile::withoutTheRunLineCommentsAreDropped()
