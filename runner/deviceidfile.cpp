@@ -13,3 +13,9 @@ QString deviceIdFilePath()
     }
     return folder + QStringLiteral("/hidDeviceID.ini");
 }
+
+std::optional<int> reportSizeOf(const HidChoice &wanted)
+{
+    const bool isLeftOpen = !wanted.reportSize && !QFileInfo::exists(deviceIdFilePath());
+    return isLeftOpen ? packetSizeIn(defaultDeviceIdFile(), wanted.ids) : wanted.reportSize;
+}

@@ -2,6 +2,7 @@
 
 #include "links/hid/hiddevices.h"
 #include "links/linktexts.h"
+#include "runner/deviceidfile.h"
 #include "runner/simulateddevice.h"
 #include "session/session.h"
 
@@ -11,6 +12,15 @@ namespace {
 
 constexpr int nextTryMs = 100;
 constexpr qint64 nsPerSecond = 1000000000;
+
+QString whyNoneFound(const HidChoice &wanted)
+{
+    const QString ids = deviceIdsText(wanted.ids);
+    return wanted.serialNumber.isEmpty()
+               ? QStringLiteral("No HID device %1 is attached.").arg(ids)
+               : QStringLiteral("No HID device %1 with the serial number %2 is attached.")
+                     .arg(ids, wanted.serialNumber);
+}
 
 } // namespace
 
@@ -79,8 +89,8 @@ bool LinkOpener::openHid()
     const HidChoice &wanted = m_choice.hid;
     HidLink &hid = m_session.links().hid();
     m_session.use(LinkMode::Hid);
-    hid.setReportSize(wanted.reportSize);
-    m_reason = QStringLiteral("No HID device %1 is attached.").arg(deviceIdsText(wanted.ids));
+    hid.setReportSize(reportSizeOf(wanted));
+    m_reason = whyNoneFound(wanted);
     for (const DescribedHidDevice &found : describedHidDevices()) {
         const bool isMeant =
             found.device.ids == wanted.ids &&
