@@ -1,12 +1,19 @@
 #include "expectations/replycheck.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int usualTimeoutMs = 500;
 constexpr int mostKnown = 1024;
 constexpr size_t mostWaiting = 1024;
+
+ReceivedFrame notBefore(qint64 timeNs, ReceivedFrame frame)
+{
+    frame.timeNs = std::max(frame.timeNs, timeNs);
+    return frame;
+}
 
 } // namespace
 
@@ -27,13 +34,17 @@ void ReplyCheck::noteSent(const QVector<BlockPart> &parts, qint64 timeNs)
     }
 }
 
-QString ReplyCheck::judge(const ReceivedFrame &frame)
+QString ReplyCheck::judge(const ReceivedFrame &frame, qint64 handedUpNs)
 {
     forgetOld(frame.timeNs);
-    if (isTakenByARowThatItFits(frame)) {
+    const bool mayBeLater = std::exchange(m_readNs, frame.timeNs) == frame.timeNs;
+    if (isTakenByARowThatItFits(frame, mayBeLater)) {
         return {};
     }
-    const Place place = answered(frame.timeNs);
+    Place place = answered(frame.timeNs);
+    if (place == m_waiting.end() && mayBeLater) {
+        place = answered(handedUpNs);
+    }
     if (place == m_waiting.end()) {
         return {};
     }
@@ -43,8 +54,10 @@ QString ReplyCheck::judge(const ReceivedFrame &frame)
     }
     RowTrial judged = *place->trial;
     const QString before = judged.failure();
-    judged.take(frame);
-    take(place, frame);
+    const ReceivedFrame answer =
+        frame.timeNs < place->sentNs ? notBefore(handedUpNs, frame) : frame;
+    judged.take(answer);
+    take(place, answer);
     return judged.failure() == before ? QString() : judged.failure();
 }
 
@@ -81,14 +94,20 @@ void ReplyCheck::forgetOld(qint64 nowNs)
     }
 }
 
-bool ReplyCheck::isTakenByARowThatItFits(const ReceivedFrame &frame)
+/// A row that went out meanwhile is taken to be answered at once: nobody knows it to be late.
+bool ReplyCheck::isTakenByARowThatItFits(const ReceivedFrame &frame, bool mayBeLater)
 {
-    const auto fits = [&frame](const Waiting &row) { return row.trial && row.trial->fits(frame); };
+    const auto asSeenBy = [&frame, mayBeLater](const Waiting &row) {
+        return mayBeLater ? notBefore(row.sentNs, frame) : frame;
+    };
+    const auto fits = [&asSeenBy](const Waiting &row) {
+        return row.trial && row.trial->fits(asSeenBy(row));
+    };
     const auto found = std::find_if(m_waiting.rbegin(), m_waiting.rend(), fits);
     if (found == m_waiting.rend()) {
         return false;
     }
-    take(std::prev(found.base()), frame);
+    take(std::prev(found.base()), asSeenBy(*found));
     return true;
 }
 

@@ -27,8 +27,12 @@ public:
     /// Whether a frame that comes in would have to be judged.
     bool isWaiting() const { return !m_waiting.empty(); }
 
-    /// Why a frame is not what is expected; empty where it is, or where nothing is.
-    QString judge(const ReceivedFrame &frame);
+    /// Why a frame is not what is expected; empty where it is, or where nothing is. It was handed
+    /// up at that time, in ns, which may be a while after it was read.
+    ///
+    /// Frames that are handed up together have the time of the first one. A later one of them may
+    /// answer what was sent meanwhile.
+    QString judge(const ReceivedFrame &frame, qint64 handedUpNs);
 
 private:
     struct Waiting
@@ -41,10 +45,12 @@ private:
 
     std::optional<RowTrial> trialOf(const QString &expectations, qint64 timeNs);
     void forgetOld(qint64 nowNs);
-    bool isTakenByARowThatItFits(const ReceivedFrame &frame);
+    bool isTakenByARowThatItFits(const ReceivedFrame &frame, bool mayBeLater);
     Place answered(qint64 timeNs);
     void take(Place place, const ReceivedFrame &frame);
 
     std::deque<Waiting> m_waiting;
+    /// When the last frame was read.
+    qint64 m_readNs = 0;
     QHash<QString, RowExpectation> m_known;
 };

@@ -139,7 +139,8 @@ QString Session::faultOf(const QByteArray &frame, ArrivalTime time)
         return {};
     }
     const FrameLayout layout = receivedLayout(m_format.nextFrameLayout());
-    return m_check.judge(takenApart(frame, layout, time.monotonicNs));
+    return m_check.judge(takenApart(frame, layout, time.monotonicNs),
+                         ArrivalTime::now().monotonicNs);
 }
 
 /// A HID device fills its last report with zeros; those are not recorded.

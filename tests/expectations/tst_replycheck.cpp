@@ -20,6 +20,8 @@ private slots:
     void rowsThatOutrunTheirAnswersAreJudgedByWhatFits();
     void rowsSentTogetherAreAnsweredInOrder();
     void aRowWithoutExpectationsTakesOneFrame();
+    void whatIsHandedUpTogetherMayAnswerWhatWasSentMeanwhile();
+    void theFirstOfWhatIsHandedUpAnswersNothingLater();
     void whatIsOldIsForgotten();
 };
 
@@ -44,15 +46,21 @@ ReceivedFrame payloadAt(int ms, const char *digits)
     return {hex(digits), hex(digits), ReceivedFrame::Crc::None, ms * checkMs};
 }
 
+/// What is handed up as soon as it is read.
+QString judged(ReplyCheck &check, const ReceivedFrame &frame)
+{
+    return check.judge(frame, frame.timeNs);
+}
+
 } // namespace
 
 void TestReplyCheck::withoutExpectationsNothingIsJudged()
 {
     ReplyCheck check;
-    QCOMPARE(check.judge(payloadAt(1, "01")), QString());
+    QCOMPARE(judged(check, payloadAt(1, "01")), QString());
     check.noteSent({freePart()}, 0);
     QVERIFY(!check.isWaiting());
-    QCOMPARE(check.judge(payloadAt(1, "01")), QString());
+    QCOMPARE(judged(check, payloadAt(1, "01")), QString());
 }
 
 void TestReplyCheck::aReplyThatFitsIsGood()
@@ -60,7 +68,7 @@ void TestReplyCheck::aReplyThatFitsIsGood()
     ReplyCheck check;
     check.noteSent({partExpecting("//? 03 ??\n")}, 0);
     QVERIFY(check.isWaiting());
-    QCOMPARE(check.judge(payloadAt(3, "0377")), QString());
+    QCOMPARE(judged(check, payloadAt(3, "0377")), QString());
     QVERIFY(!check.isWaiting());
 }
 
@@ -68,25 +76,26 @@ void TestReplyCheck::anotherReplyIsNot()
 {
     ReplyCheck check;
     check.noteSent({partExpecting("//? 03 ??\n")}, 0);
-    QCOMPARE(check.judge(payloadAt(3, "8302")), QString("expected 03 ??, got 83 02 after 3.0 ms"));
+    QCOMPARE(judged(check, payloadAt(3, "8302")),
+             QString("expected 03 ??, got 83 02 after 3.0 ms"));
     // It was the answer, whatever it was.
-    QCOMPARE(check.judge(payloadAt(4, "8302")), QString());
+    QCOMPARE(judged(check, payloadAt(4, "8302")), QString());
 }
 
 void TestReplyCheck::aFrameThatComesUncalledIsNotJudged()
 {
     ReplyCheck check;
     check.noteSent({partExpecting("//? 03\n")}, 10 * checkMs);
-    QCOMPARE(check.judge(payloadAt(9, "53")), QString());
-    QCOMPARE(check.judge(payloadAt(11, "03")), QString());
-    QCOMPARE(check.judge(payloadAt(12, "53")), QString());
+    QCOMPARE(judged(check, payloadAt(9, "53")), QString());
+    QCOMPARE(judged(check, payloadAt(11, "03")), QString());
+    QCOMPARE(judged(check, payloadAt(12, "53")), QString());
 }
 
 void TestReplyCheck::aLateReplyIsToldSo()
 {
     ReplyCheck check;
     check.noteSent({partExpecting("//? 03  within 200\n")}, 0);
-    QCOMPARE(check.judge(payloadAt(300, "03")),
+    QCOMPARE(judged(check, payloadAt(300, "03")),
              QString("expected 03, got 03 after 300.0 ms, too late"));
 }
 
@@ -94,8 +103,8 @@ void TestReplyCheck::aForbiddenFrameIsTold()
 {
     ReplyCheck check;
     check.noteSent({partExpecting("//! 83 **\n")}, 0);
-    QCOMPARE(check.judge(payloadAt(1, "03")), QString());
-    QCOMPARE(check.judge(payloadAt(2, "8301")),
+    QCOMPARE(judged(check, payloadAt(1, "03")), QString());
+    QCOMPARE(judged(check, payloadAt(2, "8301")),
              QString("83 ** is forbidden, got 83 01 after 2.0 ms"));
 }
 
@@ -105,16 +114,16 @@ void TestReplyCheck::aBadCrcIsTold()
     check.noteSent({partExpecting("//? 03\n")}, 0);
     ReceivedFrame frame = payloadAt(1, "03");
     frame.crc = ReceivedFrame::Crc::Bad;
-    QVERIFY(check.judge(frame).contains("bad CRC"));
+    QVERIFY(judged(check, frame).contains("bad CRC"));
 }
 
 void TestReplyCheck::furtherFramesAreAwaited()
 {
     ReplyCheck check;
     check.noteSent({partExpecting("//? 03\n//+ 10 **\n")}, 0);
-    QCOMPARE(check.judge(payloadAt(1, "03")), QString());
+    QCOMPARE(judged(check, payloadAt(1, "03")), QString());
     QVERIFY(check.isWaiting());
-    QVERIFY(check.judge(payloadAt(2, "11")).startsWith("expected 10 **, got 11"));
+    QVERIFY(judged(check, payloadAt(2, "11")).startsWith("expected 10 **, got 11"));
     QVERIFY(!check.isWaiting());
 }
 
@@ -123,9 +132,9 @@ void TestReplyCheck::aLostReplyBlamesNoOther()
     ReplyCheck check;
     check.noteSent({partExpecting("//? 01\n")}, 0);
     check.noteSent({partExpecting("//? 02\n")}, 100 * checkMs);
-    QCOMPARE(check.judge(payloadAt(105, "02")), QString());
+    QCOMPARE(judged(check, payloadAt(105, "02")), QString());
     check.noteSent({partExpecting("//? 03\n")}, 200 * checkMs);
-    QCOMPARE(check.judge(payloadAt(205, "04")), QString("expected 03, got 04 after 5.0 ms"));
+    QCOMPARE(judged(check, payloadAt(205, "04")), QString("expected 03, got 04 after 5.0 ms"));
 }
 
 void TestReplyCheck::rowsThatOutrunTheirAnswersAreJudgedByWhatFits()
@@ -135,7 +144,7 @@ void TestReplyCheck::rowsThatOutrunTheirAnswersAreJudgedByWhatFits()
         check.noteSent({partExpecting(row % 2 == 0 ? "//? 01\n" : "//? 02\n")}, row * checkMs);
     }
     for (int row = 0; row < 16; ++row) {
-        QCOMPARE(check.judge(payloadAt(16, row % 2 == 0 ? "01" : "02")), QString());
+        QCOMPARE(judged(check, payloadAt(16, row % 2 == 0 ? "01" : "02")), QString());
     }
     QVERIFY(!check.isWaiting());
 }
@@ -144,9 +153,9 @@ void TestReplyCheck::rowsSentTogetherAreAnsweredInOrder()
 {
     ReplyCheck check;
     check.noteSent({partExpecting("//? 01\n"), freePart(), partExpecting("//? 03\n")}, 0);
-    QVERIFY(check.judge(payloadAt(1, "11")).startsWith("expected 01, got 11"));
-    QCOMPARE(check.judge(payloadAt(2, "12")), QString());
-    QVERIFY(check.judge(payloadAt(3, "13")).startsWith("expected 03, got 13"));
+    QVERIFY(judged(check, payloadAt(1, "11")).startsWith("expected 01, got 11"));
+    QCOMPARE(judged(check, payloadAt(2, "12")), QString());
+    QVERIFY(judged(check, payloadAt(3, "13")).startsWith("expected 03, got 13"));
     QVERIFY(!check.isWaiting());
 }
 
@@ -155,8 +164,31 @@ void TestReplyCheck::aRowWithoutExpectationsTakesOneFrame()
     ReplyCheck check;
     check.noteSent({partExpecting("//? 01\n")}, 0);
     check.noteSent({freePart()}, 10 * checkMs);
-    QCOMPARE(check.judge(payloadAt(11, "77")), QString());
-    QVERIFY(check.judge(payloadAt(12, "78")).startsWith("expected 01, got 78"));
+    QCOMPARE(judged(check, payloadAt(11, "77")), QString());
+    QVERIFY(judged(check, payloadAt(12, "78")).startsWith("expected 01, got 78"));
+}
+
+void TestReplyCheck::whatIsHandedUpTogetherMayAnswerWhatWasSentMeanwhile()
+{
+    ReplyCheck check;
+    const auto judgedLater = [&check](const char *payload) {
+        return check.judge(payloadAt(3, payload), 9 * checkMs);
+    };
+    check.noteSent({partExpecting("//? 01\n")}, 0);
+    check.noteSent({partExpecting("//? 02  within 2\n")}, 4 * checkMs);
+    check.noteSent({partExpecting("//? 03\n")}, 5 * checkMs);
+    QCOMPARE(judgedLater("01"), QString());
+    QCOMPARE(judgedLater("02"), QString());
+    QCOMPARE(judgedLater("83"), QString("expected 03, got 83 after 4.0 ms"));
+    QVERIFY(!check.isWaiting());
+}
+
+void TestReplyCheck::theFirstOfWhatIsHandedUpAnswersNothingLater()
+{
+    ReplyCheck check;
+    check.noteSent({partExpecting("//? 02\n")}, 4 * checkMs);
+    QCOMPARE(check.judge(payloadAt(3, "83"), 9 * checkMs), QString());
+    QVERIFY(check.isWaiting());
 }
 
 void TestReplyCheck::whatIsOldIsForgotten()
@@ -164,7 +196,7 @@ void TestReplyCheck::whatIsOldIsForgotten()
     ReplyCheck check;
     check.noteSent({partExpecting("//? 01\n")}, 0);
     check.noteSent({partExpecting("//? 01  within 5000\n")}, 0);
-    QCOMPARE(check.judge(payloadAt(4000, "01")), QString());
+    QCOMPARE(judged(check, payloadAt(4000, "01")), QString());
     check.noteSent({partExpecting("//? 01\n")}, 5000 * checkMs);
     check.noteSent({freePart()}, 7000 * checkMs);
     QVERIFY(!check.isWaiting());

@@ -15,6 +15,8 @@
 #include <deque>
 #include <hidapi.h>
 #include <memory>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -54,8 +56,8 @@ QVector<AttachedDevice> attachedDevices()
 /// One entry of an enumeration, with what it points at.
 struct ListedDevice
 {
-    explicit ListedDevice(const AttachedDevice &itsDevice)
-        : device(itsDevice)
+    explicit ListedDevice(AttachedDevice itsDevice)
+        : device(std::move(itsDevice))
     {
         info.path = device.path.data();
         info.vendor_id = device.vendor;

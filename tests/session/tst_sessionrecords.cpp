@@ -20,6 +20,8 @@ private slots:
     void oneLinkIsInUse();
     void aBadHeaderIsToldOnTheReceivePathOnce();
     void aBadHeaderIsToldAtEachSend();
+    void aWrongReplyIsTold();
+    void aWrongReplyIsToldThatIsHandedUpWithAnEarlierOne();
     void theEndStopsTheLoopAndClosesTheLink();
 };
 
@@ -64,6 +66,18 @@ public:
         return all;
     }
 
+    /// What is wrong with each received frame.
+    QStringList faults()
+    {
+        QStringList all;
+        for (const LogRecord &record : session.log().records()) {
+            if (record.kind == LogRecord::Kind::Received) {
+                all.append(record.fault);
+            }
+        }
+        return all;
+    }
+
     TestPort port;
     QTemporaryDir folder;
     Session session{folder.filePath("hidDeviceID.ini"), {}};
@@ -73,6 +87,13 @@ public:
 QVector<CheckedRow> twoRows()
 {
     return {{1, "0310"}, {2, "0311"}};
+}
+
+CheckedRow rowExpecting(const QString &frameText, const QString &expectation)
+{
+    CheckedRow row{1, frameText};
+    row.expectations = "//@ tarnwick-run 1\n" + expectation;
+    return row;
 }
 
 } // namespace
@@ -186,6 +207,30 @@ void TestSessionRecords::aBadHeaderIsToldAtEachSend()
     QCOMPARE(bench.notices.count(), 2);
     QCOMPARE(bench.records(),
              (QStringList{"sent 1 a55a020310", "sent 2 a55a020310", "sent 3 a55a020311"}));
+}
+
+void TestSessionRecords::aWrongReplyIsTold()
+{
+    RecordBench bench;
+    QVERIFY(bench.openPort());
+    bench.session.sender().sendOne(rowExpecting("0310", "//? 0310"));
+    bench.port.send(QByteArray::fromHex("5AA5028310"));
+    QTRY_COMPARE(bench.faults().size(), 1);
+    QVERIFY(bench.faults().first().startsWith("expected 0310, got 83 10 after "));
+}
+
+void TestSessionRecords::aWrongReplyIsToldThatIsHandedUpWithAnEarlierOne()
+{
+    RecordBench bench;
+    QVERIFY(bench.openPort());
+    bench.session.sender().sendOne(rowExpecting("0310", "//? 0310"));
+    const ArrivalTime readAt = ArrivalTime::now();
+    bench.session.sender().sendOne(rowExpecting("0311", "//? 0311"));
+    emit bench.session.links().serial().arrived(QByteArray::fromHex("5AA50203105AA5028311"),
+                                                readAt);
+    QCOMPARE(bench.faults().size(), 2);
+    QCOMPARE(bench.faults().at(0), QString());
+    QVERIFY(bench.faults().at(1).startsWith("expected 0311, got 83 11 after "));
 }
 
 void TestSessionRecords::theEndStopsTheLoopAndClosesTheLink()
