@@ -12,10 +12,12 @@
 #include <dlfcn.h>
 
 extern "C" {
-void __tsan_acquire(void *address);                         // NOLINT
-void __tsan_release(void *address);                         // NOLINT
-void AnnotateIgnoreWritesBegin(const char *file, int line); // NOLINT
-void AnnotateIgnoreWritesEnd(const char *file, int line);   // NOLINT
+// NOLINTBEGIN(bugprone-reserved-identifier)
+void __tsan_acquire(void *address);
+void __tsan_release(void *address);
+// NOLINTEND(bugprone-reserved-identifier)
+void AnnotateIgnoreWritesBegin(const char *file, int line);
+void AnnotateIgnoreWritesEnd(const char *file, int line);
 }
 
 namespace {
