@@ -1,5 +1,6 @@
 #include "app/csvjob.h"
 
+#include "frames/messages.h"
 #include "system/regularfile.h"
 
 #include <QFile>
@@ -12,7 +13,7 @@ CsvExport exportFile(const QString &recordingPath, const QString &csvPath)
     CsvExport outcome;
     QFile recording;
     if (!openRegularFile(recording, recordingPath, QIODevice::ReadOnly)) {
-        outcome.error = QStringLiteral("the recording can't be read");
+        outcome.error = Messages::tr("the recording can't be read");
         return outcome;
     }
     QSaveFile csv(csvPath);

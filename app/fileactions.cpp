@@ -7,6 +7,7 @@
 #include "files/localtext.h"
 #include "files/recoverytext.h"
 #include "files/saveloss.h"
+#include "frames/messages.h"
 #include "system/filereader.h"
 
 #include <QCoreApplication>
@@ -77,21 +78,21 @@ bool FileActions::loadCommandsFrom(const QString &fileName)
 {
     const FileContent content = readCommandsFile(fileName);
     if (content.outcome == FileContent::Outcome::Unreadable) {
-        emit notice(QStringLiteral("Read fail,please check the path!"));
+        emit notice(Messages::tr("Read fail,please check the path!"));
         return false;
     }
     if (content.outcome == FileContent::Outcome::TooLarge) {
-        emit notice(QStringLiteral("The file is too large for a command list!"));
+        emit notice(Messages::tr("The file is too large for a command list!"));
         return false;
     }
     const CommandFile file = readCommandFile(content.bytes);
     if (file.hasTooManyRows) {
-        emit notice(QStringLiteral("The file has more than %1 commands!").arg(mostCommandRows));
+        emit notice(Messages::tr("The file has more than %1 commands!").arg(mostCommandRows));
         return false;
     }
     takeCommands(file, fileName);
     if (file.hasInvalidLines) {
-        emit notice(QStringLiteral("Input Register:Invalid format!"));
+        emit notice(Messages::tr("Input Register:Invalid format!"));
     }
     return !file.isRecovery;
 }
@@ -148,7 +149,7 @@ bool FileActions::save(const QString &fileName, const QString &text,
 {
     const bool saved = saveFile(fileName, toLocalText(text), beforeOverwriting);
     if (!saved) {
-        emit notice(QStringLiteral("Save the file failed"));
+        emit notice(Messages::tr("Save the file failed"));
     }
     return saved;
 }

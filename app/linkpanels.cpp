@@ -7,6 +7,7 @@
 #include "app/serialtab.h"
 #include "app/statusline.h"
 #include "app/windowmemory.h"
+#include "frames/messages.h"
 #include "links/linktexts.h"
 #include "session/session.h"
 
@@ -47,8 +48,8 @@ void LinkPanels::watchDevices(const WindowHandle &window)
     connect(&devices, &DeviceWatch::listsOutdated, &m_lists, &DeviceLists::refreshSoon);
     if (!devices.start(window)) {
         QTimer::singleShot(0, this, [this] {
-            emit notice(QStringLiteral("The hardware monitoring registration failed, and the "
-                                       "hardware could not be identified!"));
+            emit notice(Messages::tr("The hardware monitoring registration failed, and the "
+                                     "hardware could not be identified!"));
         });
     }
 }

@@ -22,7 +22,7 @@ LinkStatus::LinkStatus(StatusLine &status, Session &session, QObject *parent)
                 tellLoss(name, reason, session.reopener().isWaiting());
             });
     connect(&session, &Session::deviceGone, this, [this, &session](LinkMode, const QString &name) {
-        tellLoss(name, tr("the device is gone"), session.reopener().isWaiting());
+        tellLoss(name, QStringLiteral("the device is gone"), session.reopener().isWaiting());
     });
 }
 

@@ -1,4 +1,5 @@
 #include "app/dialog.h"
+#include "app/translation.h"
 #include "system/endsignals.h"
 
 #include <QApplication>
@@ -35,6 +36,7 @@ int main(int argc, char *argv[])
         qputenv("QT_XCB_GL_INTEGRATION", "none");
     }
     const QApplication application(argc, argv);
+    const Translation translation(systemTranslation());
     const EndSignals endSignals(patienceSeconds);
     Dialog dialog;
     endWithoutQuestions(endSignals, dialog);

@@ -118,9 +118,8 @@ void RecordControl::tellEnd()
 
 void RecordControl::exportRecording()
 {
-    const QString recording =
-        QFileDialog::getOpenFileName(m_panel.window(), tr("Export a recording"), folder(),
-                                     QStringLiteral("Recordings (*.jsonl *.pcapng)"));
+    const QString recording = QFileDialog::getOpenFileName(
+        m_panel.window(), tr("Export a recording"), folder(), tr("Recordings (*.jsonl *.pcapng)"));
     if (recording.isEmpty()) {
         return;
     }

@@ -1,19 +1,14 @@
 #include "app/recordingtexts.h"
 
+#include "frames/messages.h"
 #include "recording/csvexport.h"
 #include "recording/recordingjob.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QLocale>
 #include <QStringList>
 
 namespace {
-
-QString inRecordingTexts(const char *text)
-{
-    return QCoreApplication::translate("RecordingTexts", text);
-}
 
 QString sizeText(qint64 bytes)
 {
@@ -23,7 +18,7 @@ QString sizeText(qint64 bytes)
 
 QString countText(qint64 events)
 {
-    return events == 1 ? inRecordingTexts("1 event") : inRecordingTexts("%1 events").arg(events);
+    return events == 1 ? Messages::tr("1 event") : Messages::tr("%1 events").arg(events);
 }
 
 } // namespace
@@ -32,12 +27,12 @@ QString describeRecording(const RecordingStatus &status, bool isRecording)
 {
     QStringList parts;
     if (!status.error.isEmpty()) {
-        parts += inRecordingTexts("Stopped: %1").arg(status.error);
+        parts += Messages::tr("Stopped: %1").arg(Messages::shown(status.error));
     } else if (!isRecording) {
-        parts += inRecordingTexts("Recorded");
+        parts += Messages::tr("Recorded");
     }
     if (status.droppedEvents > 0) {
-        parts += inRecordingTexts("%1 dropped").arg(countText(status.droppedEvents));
+        parts += Messages::tr("%1 dropped").arg(countText(status.droppedEvents));
     }
     parts += sizeText(status.bytes);
     parts += countText(status.events);
@@ -46,19 +41,18 @@ QString describeRecording(const RecordingStatus &status, bool isRecording)
 
 QString whyRecordingStopped(const RecordingStatus &status)
 {
-    return inRecordingTexts("The recording %1 has stopped: %2.")
-        .arg(QFileInfo(status.path).fileName(), status.error);
+    return Messages::tr("The recording %1 has stopped: %2.")
+        .arg(QFileInfo(status.path).fileName(), Messages::shown(status.error));
 }
 
 QString describeExport(const CsvExport &outcome, const QString &fileName)
 {
     const QString name = QFileInfo(fileName).fileName();
     if (!outcome.error.isEmpty()) {
-        return inRecordingTexts("%1 was not exported: %2.").arg(name, outcome.error);
+        return Messages::tr("%1 was not exported: %2.").arg(name, outcome.error);
     }
-    const QString words =
-        inRecordingTexts("%1 exported to %2.").arg(countText(outcome.events), name);
+    const QString words = Messages::tr("%1 exported to %2.").arg(countText(outcome.events), name);
     return outcome.isTorn ? words + QLatin1Char(' ') +
-                                inRecordingTexts("The recording was cut off within its last event.")
+                                Messages::tr("The recording was cut off within its last event.")
                           : words;
 }

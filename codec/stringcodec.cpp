@@ -2,6 +2,7 @@
 
 #include "codec/hexgroups.h"
 #include "frames/hextext.h"
+#include "frames/messages.h"
 
 #include <QStringList>
 #include <QTextCodec>
@@ -157,7 +158,8 @@ QString unencodableReport(const QString &unencodable, StringEncoding encoding,
                           const QTextCodec *codec)
 {
     const QString name = encodingName(encoding);
-    const QString reason = codec ? QString("%1 has no bytes for: ").arg(name)
-                                 : QString("This system has no %1 codec. Not written: ").arg(name);
-    return reason + unencodable + QString("<br>\"?\" is written in their place.");
+    const QString reason =
+        codec ? Messages::tr("%1 has no bytes for: ").arg(name)
+              : Messages::tr("This system has no %1 codec. Not written: ").arg(name);
+    return reason + unencodable + Messages::tr("<br>\"?\" is written in their place.");
 }

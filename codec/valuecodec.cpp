@@ -3,6 +3,7 @@
 #include "codec/numbercodec.h"
 #include "codec/stringcodec.h"
 #include "frames/hextext.h"
+#include "frames/messages.h"
 
 #include <QStringList>
 
@@ -57,7 +58,7 @@ ConvertedValue convertField(const QString &text, int words, StringEncoding encod
     field.hex = groupPairsFromRight(digits.leftJustified(room, QLatin1Char('0')));
     field.unencodable = encoded.unencodable;
     if (digits.size() > room) {
-        field.report = QStringLiteral("<br>String is over wordNumber!");
+        field.report = Messages::tr("<br>String is over wordNumber!");
     }
     return field;
 }

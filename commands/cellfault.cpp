@@ -4,25 +4,19 @@
 #include "frames/delaymarker.h"
 #include "frames/hexfault.h"
 #include "frames/hextext.h"
-
-#include <QCoreApplication>
+#include "frames/messages.h"
 
 #include <algorithm>
 
 namespace {
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("CellFault", text);
-}
-
 QString hexFaultText(const QString &text)
 {
     switch (hexFaultOf(text)) {
     case HexFault::OddDigits:
-        return translated("A digit is missing: each byte has two.");
+        return Messages::tr("A digit is missing: each byte has two.");
     case HexFault::NoHexDigit:
-        return translated("Not a hexadecimal number.");
+        return Messages::tr("Not a hexadecimal number.");
     case HexFault::None:
         break;
     }
@@ -35,7 +29,7 @@ QString delayFaultText(const QString &text)
     const bool isNumber = std::all_of(digits.cbegin(), digits.cend(), [](QChar character) {
         return character >= QLatin1Char('0') && character <= QLatin1Char('9');
     });
-    return isNumber ? QString() : translated("Not a number of milliseconds.");
+    return isNumber ? QString() : Messages::tr("Not a number of milliseconds.");
 }
 
 } // namespace

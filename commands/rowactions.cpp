@@ -3,6 +3,7 @@
 #include "commands/commandcolumns.h"
 #include "commands/commandtable.h"
 #include "frames/delaymarker.h"
+#include "frames/messages.h"
 
 #include <QContextMenuEvent>
 #include <QScrollBar>
@@ -156,7 +157,7 @@ void RowActions::appendRowAtEnd()
 void RowActions::removeRow(int row)
 {
     if (m_table.rowCount() == 1) {
-        emit refused(QStringLiteral("Keep at least one line!"));
+        emit refused(Messages::tr("Keep at least one line!"));
         return;
     }
     m_table.removeRow(row);
@@ -165,7 +166,7 @@ void RowActions::removeRow(int row)
 void RowActions::moveUp(int row)
 {
     if (!m_rows.moveUp(row)) {
-        emit refused(QStringLiteral("Has reached the top!"));
+        emit refused(Messages::tr("Has reached the top!"));
     }
     selectAfterChange(row - 1);
 }
@@ -173,7 +174,7 @@ void RowActions::moveUp(int row)
 void RowActions::moveDown(int row)
 {
     if (!m_rows.moveDown(row)) {
-        emit refused(QStringLiteral("Has reached the bottom!"));
+        emit refused(Messages::tr("Has reached the bottom!"));
     }
     selectAfterChange(row + 1);
 }

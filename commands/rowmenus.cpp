@@ -1,14 +1,10 @@
 #include "commands/rowmenus.h"
 
-#include <QCoreApplication>
+#include "frames/messages.h"
+
 #include <QWidget>
 
 namespace {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("RowMenus", text);
-}
 
 QAction *makeAction(QObject *parent, const QString &text, const QKeySequence &key)
 {
@@ -39,26 +35,28 @@ RowMenus::RowMenus(QWidget *parent, bool withEdit)
     , m_cmdMenu(new QMenu(parent))
 {
     if (withEdit) {
-        m_rowActions.insert(addAction(*m_rowMenu, translated("edit")), RowAction::Edit);
+        m_rowActions.insert(addAction(*m_rowMenu, Messages::tr("edit")), RowAction::Edit);
     }
-    m_rowActions.insert(addAction(*m_rowMenu, translated("insert"), Qt::Key_Insert),
+    m_rowActions.insert(addAction(*m_rowMenu, Messages::tr("insert"), Qt::Key_Insert),
                         RowAction::Insert);
-    m_rowActions.insert(addAction(*m_rowMenu, translated("clone"), int(Qt::CTRL) + int(Qt::Key_D)),
-                        RowAction::Clone);
     m_rowActions.insert(
-        addAction(*m_rowMenu, translated("delete"), int(Qt::CTRL) + int(Qt::Key_Delete)),
+        addAction(*m_rowMenu, Messages::tr("clone"), int(Qt::CTRL) + int(Qt::Key_D)),
+        RowAction::Clone);
+    m_rowActions.insert(
+        addAction(*m_rowMenu, Messages::tr("delete"), int(Qt::CTRL) + int(Qt::Key_Delete)),
         RowAction::Delete);
-    m_rowActions.insert(addAction(*m_rowMenu, translated("up"), int(Qt::ALT) + int(Qt::Key_Up)),
+    m_rowActions.insert(addAction(*m_rowMenu, Messages::tr("up"), int(Qt::ALT) + int(Qt::Key_Up)),
                         RowAction::Up);
-    m_rowActions.insert(addAction(*m_rowMenu, translated("down"), int(Qt::ALT) + int(Qt::Key_Down)),
-                        RowAction::Down);
-    m_rowActions.insert(addAction(*m_rowMenu, translated("delay")), RowAction::Delay);
-    m_undo = makeAction(parent, translated("undo"), int(Qt::CTRL) + int(Qt::Key_Z));
+    m_rowActions.insert(
+        addAction(*m_rowMenu, Messages::tr("down"), int(Qt::ALT) + int(Qt::Key_Down)),
+        RowAction::Down);
+    m_rowActions.insert(addAction(*m_rowMenu, Messages::tr("delay")), RowAction::Delay);
+    m_undo = makeAction(parent, Messages::tr("undo"), int(Qt::CTRL) + int(Qt::Key_Z));
     m_redo =
-        makeAction(parent, translated("redo"), int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::Key_Z));
+        makeAction(parent, Messages::tr("redo"), int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::Key_Z));
 
-    m_selections.insert(addAction(*m_selectMenu, translated("select all")), true);
-    m_selections.insert(addAction(*m_selectMenu, translated("select none")), false);
+    m_selections.insert(addAction(*m_selectMenu, Messages::tr("select all")), true);
+    m_selections.insert(addAction(*m_selectMenu, Messages::tr("select none")), false);
 
     for (const char *byte : {"10", "03", "42"}) {
         const QString cmd = QLatin1String(byte);

@@ -6,8 +6,8 @@
 #include "commands/tabtext.h"
 #include "frames/delaymarker.h"
 #include "frames/hextext.h"
+#include "frames/messages.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -33,17 +33,18 @@ constexpr QChar apostrophe('\'');
 const QString selectWord = QStringLiteral("select");
 const QString unselectWord = QStringLiteral("unselect");
 
-QString rowTextWords(const char *text)
-{
-    return QCoreApplication::translate("RowText", text);
-}
-
 QString columnName(int cell)
 {
-    static const char *const names[] = {"Description", "Select",       "CMD",
-                                        "Addr",        "Data",         "CRC",
-                                        "DataType",    "OriginalData", "Expectations"};
-    return QLatin1String(names[cell]);
+    static const char *const names[] = {QT_TRANSLATE_NOOP("CommandTable", "Description"),
+                                        QT_TRANSLATE_NOOP("CommandTable", "Select"),
+                                        QT_TRANSLATE_NOOP("CommandTable", "CMD"),
+                                        QT_TRANSLATE_NOOP("CommandTable", "Addr"),
+                                        QT_TRANSLATE_NOOP("CommandTable", "Data"),
+                                        QT_TRANSLATE_NOOP("CommandTable", "CRC"),
+                                        QT_TRANSLATE_NOOP("CommandTable", "DataType"),
+                                        QT_TRANSLATE_NOOP("CommandTable", "OriginalData"),
+                                        QT_TRANSLATE_NOOP("CommandTable", "Expectations")};
+    return QCoreApplication::translate("CommandTable", names[cell]);
 }
 
 QString sheltered(const QString &cell)
@@ -152,7 +153,7 @@ public:
                 return columnName(cell) + QLatin1String(": ") + words;
             }
         }
-        return m_cells.size() > RowCell::Count ? rowTextWords("there are more cells than columns.")
+        return m_cells.size() > RowCell::Count ? Messages::tr("there are more cells than columns.")
                                                : QString();
     }
 
@@ -166,7 +167,7 @@ private:
         case RowCell::Select:
             return isChecked(line(RowCell::Select)) || isUnchecked(line(RowCell::Select))
                        ? QString()
-                       : rowTextWords(R"(neither "select" nor "unselect".)");
+                       : Messages::tr("neither \"select\" nor \"unselect\".");
         case RowCell::Cmd:
             return cellFault(row, CommandColumn::Cmd);
         case RowCell::Addr:
@@ -175,7 +176,7 @@ private:
             return cellFault(row, CommandColumn::Data);
         case RowCell::Expectations:
             return areExpectations(row.expectations) ? QString()
-                                                     : rowTextWords("no expectation lines.");
+                                                     : Messages::tr("no expectation lines.");
         default:
             return {};
         }
@@ -186,7 +187,7 @@ private:
 
 QString rowFault(int number, const QString &words)
 {
-    return rowTextWords("Row %1, %2").arg(number).arg(words);
+    return Messages::tr("Row %1, %2").arg(number).arg(words);
 }
 
 } // namespace
@@ -203,11 +204,11 @@ QString rowsText(const QVector<CommandRow> &rows)
 PastedRows readRowsText(const QString &text)
 {
     if (text.size() > mostRowsText) {
-        return {{}, rowTextWords("There is more text than a command list can have.")};
+        return {{}, Messages::tr("There is more text than a command list can have.")};
     }
     const TabText read = readTabText(text);
     if (read.openQuoteRow > 0) {
-        return {{}, rowFault(read.openQuoteRow, rowTextWords("a quote is not closed."))};
+        return {{}, rowFault(read.openQuoteRow, Messages::tr("a quote is not closed."))};
     }
     PastedRows pasted;
     for (const QStringList &cells : read.rows) {
@@ -218,6 +219,6 @@ PastedRows readRowsText(const QString &text)
         }
         pasted.rows.append(reader.row());
     }
-    return pasted.rows.isEmpty() ? PastedRows{{}, rowTextWords("There are no rows to paste.")}
+    return pasted.rows.isEmpty() ? PastedRows{{}, Messages::tr("There are no rows to paste.")}
                                  : pasted;
 }

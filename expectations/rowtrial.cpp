@@ -1,5 +1,7 @@
 #include "expectations/rowtrial.h"
 
+#include "frames/messages.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -13,7 +15,7 @@ QString textOf(const QVector<ExpectedFrame> &frames)
     for (const ExpectedFrame &frame : frames) {
         texts.append(frame.pattern.text());
     }
-    return texts.join(QLatin1String(" or "));
+    return texts.join(Messages::tr(" or "));
 }
 
 } // namespace
@@ -64,7 +66,7 @@ void RowTrial::judge(const ReceivedFrame &frame)
         ++m_frames;
         m_sinceNs = frame.timeNs;
     } else if (m_isStrict) {
-        fail(QStringLiteral("nothing more expected, got %1").arg(bytesText(frame.payload)) +
+        fail(Messages::tr("nothing more expected, got %1").arg(bytesText(frame.payload)) +
              after(frame.timeNs));
     }
 }
@@ -86,7 +88,7 @@ QString RowTrial::whyForbidden(const ReceivedFrame &frame) const
     for (const ExpectedFrame &forbidden : m_expectation.forbidden) {
         const bool counts = !forbidden.withinMs || frame.timeNs <= limitNs(forbidden, m_sentNs);
         if (counts && forbidden.pattern.matches(frame.payload)) {
-            return QStringLiteral("%1 is forbidden, got %2")
+            return Messages::tr("%1 is forbidden, got %2")
                        .arg(forbidden.pattern.text(), bytesText(frame.payload)) +
                    after(frame.timeNs);
         }
@@ -98,9 +100,9 @@ QString RowTrial::whyForbidden(const ReceivedFrame &frame) const
 QString RowTrial::whyNot(const QVector<ExpectedFrame> &wanted, const ReceivedFrame &frame) const
 {
     const QString got =
-        QStringLiteral("expected %1, got %2").arg(textOf(wanted), bytesText(frame.payload));
+        Messages::tr("expected %1, got %2").arg(textOf(wanted), bytesText(frame.payload));
     if (frame.crc == ReceivedFrame::Crc::Bad) {
-        return got + QLatin1String(" with a bad CRC") + after(frame.timeNs);
+        return got + Messages::tr(" with a bad CRC") + after(frame.timeNs);
     }
     bool isLate = false;
     for (const ExpectedFrame &expected : wanted) {
@@ -111,13 +113,13 @@ QString RowTrial::whyNot(const QVector<ExpectedFrame> &wanted, const ReceivedFra
             isLate = true;
         }
     }
-    return got + after(frame.timeNs) + (isLate ? QStringLiteral(", too late") : QString());
+    return got + after(frame.timeNs) + (isLate ? Messages::tr(", too late") : QString());
 }
 
 void RowTrial::takeStray(const QByteArray &bytes, qint64 timeNs)
 {
     if (m_isStrict && timeNs >= m_sentNs && !isOver()) {
-        fail(QStringLiteral("no frame: %1").arg(bytesText(bytes)) + after(timeNs));
+        fail(Messages::tr("no frame: %1").arg(bytesText(bytes)) + after(timeNs));
     }
 }
 
@@ -128,9 +130,9 @@ void RowTrial::passTime(qint64 nowNs)
     if (wanted == nullptr || m_nowNs < latestNs(*wanted, m_sinceNs)) {
         return;
     }
-    fail(QStringLiteral("expected %1, got nothing").arg(textOf(*wanted)) +
-         QStringLiteral(" within %1")
-             .arg(millisecondsText(latestNs(*wanted, m_sinceNs) - m_sinceNs)));
+    fail(
+        Messages::tr("expected %1, got nothing").arg(textOf(*wanted)) +
+        Messages::tr(" within %1").arg(millisecondsText(latestNs(*wanted, m_sinceNs) - m_sinceNs)));
     m_gaveUp = true;
 }
 
@@ -181,7 +183,7 @@ qint64 RowTrial::quietUntilNs() const
 
 QString RowTrial::after(qint64 timeNs) const
 {
-    return QStringLiteral(" after %1").arg(millisecondsText(timeNs - m_sentNs));
+    return Messages::tr(" after %1").arg(millisecondsText(timeNs - m_sentNs));
 }
 
 /// What went wrong first is what is told.

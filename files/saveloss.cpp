@@ -3,6 +3,7 @@
 #include "files/commandfile.h"
 #include "files/commandline.h"
 #include "frames/hextext.h"
+#include "frames/messages.h"
 
 #include <QStringList>
 #include <QTextCodec>
@@ -61,19 +62,19 @@ QString listOfRows(const QVector<AffectedRow> &rows, SaveLoss loss)
     }
     const QString shown = QStringList(numbers.mid(0, mostNumbers)).join(QLatin1String(", "));
     const int left = numbers.size() - mostNumbers;
-    return left > 0 ? QStringLiteral("%1 and %2 more").arg(shown).arg(left) : shown;
+    return left > 0 ? Messages::tr("%1 and %2 more").arg(shown).arg(left) : shown;
 }
 
 QString explanation(SaveLoss loss)
 {
     switch (loss) {
     case SaveLoss::Encoding:
-        return QStringLiteral("some characters do not exist in this system's text encoding");
+        return Messages::tr("some characters do not exist in this system's text encoding");
     case SaveLoss::Unreadable:
-        return QStringLiteral("cannot be read again (a comma, or \"//\" at the beginning)");
+        return Messages::tr("cannot be read again (a comma, or \"//\" at the beginning)");
     case SaveLoss::Changed:
-        return QStringLiteral("will be different when loaded (CMD needs 2 characters, Addr 4, a "
-                              "delay at most 4)");
+        return Messages::tr("will be different when loaded (CMD needs 2 characters, Addr 4, a "
+                            "delay at most 4)");
     }
     return {};
 }
@@ -97,11 +98,11 @@ QString saveLossMessage(const QVector<AffectedRow> &rows)
     if (rows.isEmpty()) {
         return {};
     }
-    QStringList lines = {QStringLiteral("Saved, but the file does not hold everything:")};
+    QStringList lines = {Messages::tr("Saved, but the file does not hold everything:")};
     for (const SaveLoss loss : {SaveLoss::Encoding, SaveLoss::Unreadable, SaveLoss::Changed}) {
         const QString numbers = listOfRows(rows, loss);
         if (!numbers.isEmpty()) {
-            lines.append(QStringLiteral("row %1: %2").arg(numbers, explanation(loss)));
+            lines.append(Messages::tr("row %1: %2").arg(numbers, explanation(loss)));
         }
     }
     return lines.join(QLatin1Char('\n'));

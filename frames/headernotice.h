@@ -1,11 +1,14 @@
 #pragma once
 
-#include <QString>
+#include "frames/messages.h"
 
 #include <optional>
 
 /// What the user is told about a header field that can't be read.
-inline constexpr QLatin1String badHeaderMessage("Startbytes Length error", 23);
+inline QString badHeaderMessage()
+{
+    return Messages::tr("Startbytes Length error");
+}
 
 /// Remembers which bad header the user knows of, so that many frames tell of it once.
 class HeaderNotice

@@ -4,6 +4,7 @@
 #include "frames/framesettings.h"
 #include "frames/headernotice.h"
 #include "frames/link.h"
+#include "frames/messages.h"
 
 namespace {
 
@@ -71,7 +72,7 @@ void Sender::sendAll(const QVector<CheckedRow> &rows)
         emit notice(overlongRowsMessage(plan.overlongRows));
     }
     if (plan.block.isEmpty()) {
-        emit notice(QStringLiteral("Not thing to send!"));
+        emit notice(Messages::tr("Not thing to send!"));
         return;
     }
     tellBlock(handOverBlock(plan.block, plan.parts));
@@ -150,12 +151,12 @@ QByteArray Sender::makeFrame(const QString &frameText, HeaderNotice &header)
 {
     const FrameLayout layout = m_settings.nextFrameLayout();
     if (header.isNews(m_settings.unreadableHeader())) {
-        emit notice(badHeaderMessage);
+        emit notice(badHeaderMessage());
     }
     return buildFrame(frameText, layout);
 }
 
 void Sender::tellNothingToSend()
 {
-    emit notice(QStringLiteral("No thing to send!"));
+    emit notice(Messages::tr("No thing to send!"));
 }

@@ -1,6 +1,7 @@
 #include "frames/sendplan.h"
 
 #include "frames/delaymarker.h"
+#include "frames/messages.h"
 
 namespace {
 
@@ -159,25 +160,25 @@ int instructionLength(const QString &frameText, bool withCrc)
 
 QString overlongInstructionWarning(int instructionLength)
 {
-    return QStringLiteral(
-               "Instruction length %1 is out of the maximum range,<br> sending errors may occur!")
+    return Messages::tr("Instruction length %1 is out of the maximum range,<br> sending errors "
+                        "may occur!")
         .arg(instructionLength);
 }
 
 QString unsentBytesMessage(qint64 unsentBytes)
 {
-    return QStringLiteral("Not sent: the device has yet to take %1 bytes.").arg(unsentBytes);
+    return Messages::tr("Not sent: the device has yet to take %1 bytes.").arg(unsentBytes);
 }
 
 QString overlongRowsMessage(const QVector<int> &rows)
 {
-    QString message = QStringLiteral("row:");
+    QString numbers;
     for (const int row : rows) {
-        message += QStringLiteral(" %1").arg(row);
+        numbers += QStringLiteral(" %1").arg(row);
     }
-    return message +
-           QStringLiteral(
-               " instruction length is out of the maximum range, sending errors may occur!");
+    return Messages::tr("row:%1 instruction length is out of the maximum range, sending errors "
+                        "may occur!")
+        .arg(numbers);
 }
 
 QVector<QByteArray> splitBlock(const QByteArray &block, StartBytes startBytes)

@@ -1,19 +1,13 @@
 #include "links/linktexts.h"
 
 #include "frames/hextext.h"
+#include "frames/messages.h"
 #include "links/serial/serialline.h"
 #include "links/serial/seriallink.h"
-
-#include <QCoreApplication>
 
 namespace {
 
 constexpr int longestPath = 48;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("LinkTexts", text);
-}
 
 QString shortened(const QString &path)
 {
@@ -24,7 +18,8 @@ QString shortened(const QString &path)
 /// The device's name and the system's words about it.
 QString plainReason(const QString &name, const OpenFailure &failure)
 {
-    const QString words = failure.words.isEmpty() ? tr("cannot be opened") : failure.words;
+    const QString words =
+        failure.words.isEmpty() ? Messages::tr("cannot be opened") : failure.words;
     return QStringLiteral("%1: %2.").arg(name, words);
 }
 
@@ -42,42 +37,44 @@ QString describeLink(const HidDescription &device)
         name += QLatin1Char(' ') + deviceIdsText(device.ids);
     }
     constexpr int idDigits = 2;
-    return tr("%1, %2 bytes, report ID 0x%3")
+    return Messages::tr("%1, %2 bytes, report ID 0x%3")
         .arg(name, QString::number(device.packetSize), paddedHex(device.reportId, idDigits));
 }
 
 QString whyPortFailed(const QString &portName, const OpenFailure &failure)
 {
     if (portName.isEmpty()) {
-        return tr("No port is chosen.");
+        return Messages::tr("No port is chosen.");
     }
     if (failure.cause == OpenFailure::Cause::Busy) {
-        return tr("%1 is in use by another program (%2).").arg(portName, failure.words);
+        return Messages::tr("%1 is in use by another program (%2).").arg(portName, failure.words);
     }
     const QString reason = plainReason(portName, failure);
     if (failure.group.isEmpty()) {
         return reason;
     }
-    return tr("%1 It belongs to the group %2. To join it: sudo adduser \"$USER\" %2, then log in "
-              "again.")
+    return Messages::tr(
+               "%1 It belongs to the group %2. To join it: sudo adduser \"$USER\" %2, then log in "
+               "again.")
         .arg(reason, failure.group);
 }
 
 QString whyLost(const QString &name, const QString &reason)
 {
-    return tr("The connection to %1 is lost: %2").arg(name, reason);
+    return Messages::tr("The connection to %1 is lost: %2").arg(name, Messages::shown(reason));
 }
 
 QString whyHidFailed(const QString &path, DeviceIds ids, const OpenFailure &failure)
 {
     if (path.isEmpty()) {
-        return tr("No device is chosen.");
+        return Messages::tr("No device is chosen.");
     }
     const QString reason = plainReason(shortened(path), failure);
     if (failure.cause != OpenFailure::Cause::NoPermission) {
         return reason;
     }
-    return tr("%1 A udev rule helps: copy 70-tarnwick.rules to /etc/udev/rules.d, with a line for "
-              "%2, and plug the device in again.")
+    return Messages::tr(
+               "%1 A udev rule helps: copy 70-tarnwick.rules to /etc/udev/rules.d, with a line for "
+               "%2, and plug the device in again.")
         .arg(reason, deviceIdsText(ids));
 }

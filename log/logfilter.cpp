@@ -87,7 +87,7 @@ bool LogFilter::matchesTerms(const LogRecord &record) const
             return true;
         }
         if (!texts) {
-            texts = textsOf(record);
+            texts = shownTextsOf(record);
         }
         return haveText(*texts, term.text);
     });

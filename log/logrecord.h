@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frames/arrivaltime.h"
+#include "frames/messages.h"
 
 #include <QByteArray>
 #include <QString>
@@ -25,7 +26,7 @@ struct LogRecord
     bool withCrc = false;
     /// The name of the link that an event happened to, and what happened.
     QString source;
-    QString text;
+    Wording text;
     /// The identity of the command row that a sent frame was made of; 0 where it isn't known.
     int rowId = 0;
     /// When the first of the bytes was read; earlier than the rest for a frame that came in pieces.

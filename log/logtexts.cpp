@@ -41,7 +41,13 @@ LogTexts textsOf(const LogRecord &record)
     case LogRecord::Kind::Event:
         break;
     }
-    return textsOf(record.source, record.text);
+    return textsOf(record.source, record.text.english);
+}
+
+LogTexts shownTextsOf(const LogRecord &record)
+{
+    return record.kind == LogRecord::Kind::Event ? textsOf(record.source, record.text.shown)
+                                                 : textsOf(record);
 }
 
 QVector<LogTexts> textsOf(const QVector<LogRecord> &records)

@@ -180,7 +180,7 @@ void MessageLog::showMatching(int first)
 void MessageLog::fillRow(int row)
 {
     const LogRecord &record = m_records.records().at(row);
-    const LogTexts texts = textsOf(record);
+    const LogTexts texts = shownTextsOf(record);
     const auto put = [&](int column, const QString &text) {
         m_table.setItem(row, column,
                         m_items.make(text, alignmentOf(column), colourOf(record.kind, column)));

@@ -31,6 +31,11 @@ void RecordLog::appendStray(const QByteArray &bytes, Time time)
 
 void RecordLog::appendEvent(const QString &source, const QString &text)
 {
+    appendEvent(source, Wording{text, text});
+}
+
+void RecordLog::appendEvent(const QString &source, const Wording &text)
+{
     startOverIfFull();
     append({LogRecord::Kind::Event, 0, 0, 0, {}, false, source, text}, std::nullopt);
 }

@@ -43,6 +43,9 @@ public:
     void appendStray(const QByteArray &bytes, Time time = std::nullopt);
 
     /// Records something that happened to the link of that name. It takes no number.
+    void appendEvent(const QString &source, const Wording &text);
+
+    /// The same for what is shown as it is saved.
     void appendEvent(const QString &source, const QString &text);
 
     /// Empties the log; numbers start from 1 again.

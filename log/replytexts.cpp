@@ -1,5 +1,6 @@
 #include "log/replytexts.h"
 
+#include "frames/messages.h"
 #include "log/durationtext.h"
 
 #include <QStringList>
@@ -16,12 +17,12 @@ QString rowRepliesText(const Replies *replies)
         return {};
     }
     const Durations &times = replies->times;
-    QStringList lines{QStringLiteral("Sent %1, answered %2, lost %3 (none within 1 s)")
+    QStringList lines{Messages::tr("Sent %1, answered %2, lost %3 (none within 1 s)")
                           .arg(replies->sent)
                           .arg(times.count())
                           .arg(replies->lost)};
     if (times.count() > 0) {
-        lines.append(QStringLiteral("Reply time: last %1, median %2, 99 % within %3")
+        lines.append(Messages::tr("Reply time: last %1, median %2, 99 % within %3")
                          .arg(shortDuration(replies->lastNs), shortDuration(times.median()),
                               shortDuration(times.percentile(nearlyAll))));
     }
@@ -35,8 +36,8 @@ QString loopFiguresText(const LoopFigures &figures)
     const auto text = [](const Durations &durations, qint64 ns) {
         return durations.count() > 0 ? shortDuration(ns) : QStringLiteral("–");
     };
-    return QStringLiteral("Passes: %1\nFrames: %2 out, %3 in, %4 lost\n"
-                          "Reply: %5, 99 %: %6\nLate: %7, 99 %: %8,\nat most %9")
+    return Messages::tr("Passes: %1\nFrames: %2 out, %3 in, %4 lost\n"
+                        "Reply: %5, 99 %: %6\nLate: %7, 99 %: %8,\nat most %9")
         .arg(figures.passes)
         .arg(figures.replies.sent)
         .arg(figures.received)

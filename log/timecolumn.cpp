@@ -1,5 +1,6 @@
 #include "log/timecolumn.h"
 
+#include "frames/messages.h"
 #include "log/durationtext.h"
 #include "log/localtime.h"
 
@@ -49,10 +50,10 @@ QString tipTimeText(const RowTime &time)
     QStringList lines{localTimeText(time.utcUs)};
     if (time.sinceBeforeNs) {
         lines.append(
-            QStringLiteral("%1 after the row before").arg(exactDuration(*time.sinceBeforeNs)));
+            Messages::tr("%1 after the row before").arg(exactDuration(*time.sinceBeforeNs)));
     }
     if (time.takenNs > 0) {
-        lines.append(QStringLiteral("First byte at %1, %2 before")
+        lines.append(Messages::tr("First byte at %1, %2 before")
                          .arg(localClockText(time.begunUtcUs), exactDuration(time.takenNs)));
     }
     return lines.join(QLatin1Char('\n'));

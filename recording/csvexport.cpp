@@ -1,5 +1,6 @@
 #include "recording/csvexport.h"
 
+#include "frames/messages.h"
 #include "recording/eventnames.h"
 #include "recording/recordingreader.h"
 #include "recording/utctext.h"
@@ -71,7 +72,7 @@ CsvExport exportCsv(QIODevice &recording, QIODevice &csv, const std::function<bo
         ++outcome.events;
         if (lines.size() >= batchBytes) {
             if (mayGoOn && !mayGoOn()) {
-                outcome.error = QStringLiteral("it was given up");
+                outcome.error = Messages::tr("it was given up");
                 return outcome;
             }
             isWritten = csv.write(lines) == lines.size();

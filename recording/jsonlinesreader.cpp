@@ -1,5 +1,6 @@
 #include "recording/jsonlinesreader.h"
 
+#include "frames/messages.h"
 #include "recording/jsonobject.h"
 
 #include <QIODevice>
@@ -31,7 +32,7 @@ std::optional<RecordEvent> JsonLinesReader::next()
         return next();
     }
     const auto *fault = std::get_if<JsonFault>(&read);
-    failHere(fault != nullptr ? fault->words : QStringLiteral("it is out of place"));
+    failHere(fault != nullptr ? fault->words : Messages::tr("it is out of place"));
     return std::nullopt;
 }
 
@@ -47,7 +48,7 @@ bool JsonLinesReader::readHead()
         return true;
     }
     const auto *fault = std::get_if<JsonFault>(&read);
-    failHere(fault != nullptr ? fault->words : QStringLiteral("no recording begins like this"));
+    failHere(fault != nullptr ? fault->words : Messages::tr("no recording begins like this"));
     return false;
 }
 
@@ -65,7 +66,7 @@ std::optional<QByteArray> JsonLinesReader::nextLine()
     if (m_device.atEnd()) {
         setTorn();
     } else {
-        failHere(QStringLiteral("it is too long"));
+        failHere(Messages::tr("it is too long"));
     }
     return std::nullopt;
 }
@@ -73,5 +74,5 @@ std::optional<QByteArray> JsonLinesReader::nextLine()
 void JsonLinesReader::failHere(const QString &words)
 {
     m_isOver = true;
-    fail(QStringLiteral("line %1: %2").arg(m_line).arg(words));
+    fail(Messages::tr("line %1: %2").arg(m_line).arg(words));
 }

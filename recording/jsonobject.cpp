@@ -1,5 +1,6 @@
 #include "recording/jsonobject.h"
 
+#include "frames/messages.h"
 #include "recording/eventnames.h"
 #include "recording/utctext.h"
 
@@ -31,7 +32,7 @@ public:
     {
         const QJsonValue value = m_object.value(QLatin1String(name));
         if (!value.isUndefined() && !value.isString()) {
-            complain(QStringLiteral("\"%1\" is no text").arg(QLatin1String(name)));
+            complain(Messages::tr("\"%1\" is no text").arg(QLatin1String(name)));
         }
         return value.toString();
     }
@@ -41,7 +42,7 @@ public:
         const QByteArray digits = text(name).toLatin1();
         QByteArray bytes = QByteArray::fromHex(digits);
         if (bytes.toHex() != digits.toLower()) {
-            complain(QStringLiteral("\"%1\" is no hexadecimal text").arg(QLatin1String(name)));
+            complain(Messages::tr("\"%1\" is no hexadecimal text").arg(QLatin1String(name)));
         }
         return bytes;
     }
@@ -52,7 +53,7 @@ public:
         const double number = value.toDouble();
         if (!value.isUndefined() && (!value.isDouble() || std::abs(number) > largestExact ||
                                      std::floor(number) != number)) {
-            complain(QStringLiteral("\"%1\" is no whole number").arg(QLatin1String(name)));
+            complain(Messages::tr("\"%1\" is no whole number").arg(QLatin1String(name)));
             return 0;
         }
         return static_cast<qint64>(number);
@@ -63,7 +64,7 @@ public:
     {
         const qint64 value = number(name);
         if (value < 0 || value > std::numeric_limits<int>::max()) {
-            complain(QStringLiteral("\"%1\" is out of range").arg(QLatin1String(name)));
+            complain(Messages::tr("\"%1\" is out of range").arg(QLatin1String(name)));
             return 0;
         }
         return static_cast<int>(value);
@@ -73,7 +74,7 @@ public:
     {
         const std::optional<qint64> utc = parseUtcText(text("t").toLatin1());
         if (!utc) {
-            complain(QStringLiteral("no time"));
+            complain(Messages::tr("no time"));
         }
         return {utc.value_or(0), number("mono_us") * nsPerUs};
     }
@@ -107,7 +108,7 @@ JsonLine headIn(MemberReader &members, const QJsonObject &object)
     head.zone = members.text("zone");
     head.part = members.count("part");
     if (!members.text("format").startsWith(QLatin1String("tarnwick-recording-1"))) {
-        members.complain(QStringLiteral("an unknown format"));
+        members.complain(Messages::tr("an unknown format"));
     }
     return head;
 }
@@ -143,7 +144,7 @@ void readBytes(MemberReader &members, RecordEvent &event)
     const QByteArray crc = members.text("crc").toLatin1();
     const auto known = crcNamed(crc.isEmpty() ? QByteArray("none") : crc);
     if (!known) {
-        members.complain(QStringLiteral("\"crc\" is not ok, bad or none"));
+        members.complain(Messages::tr("\"crc\" is not ok, bad or none"));
     }
     event.crc = known.value_or(RecordEvent::Crc::None);
 }
@@ -175,7 +176,7 @@ JsonLine lineIn(MemberReader &members, const QJsonObject &object)
     if (const auto kind = eventKind(name)) {
         return eventIn(members, *kind);
     }
-    return JsonFault{QStringLiteral("an unknown \"ev\"")};
+    return JsonFault{Messages::tr("an unknown \"ev\"")};
 }
 
 } // namespace
@@ -185,7 +186,7 @@ JsonLine parseJsonLine(const QByteArray &line)
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(line, &error);
     if (!document.isObject()) {
-        return JsonFault{document.isNull() ? error.errorString() : QStringLiteral("no object")};
+        return JsonFault{document.isNull() ? error.errorString() : Messages::tr("no object")};
     }
     const QJsonObject object = document.object();
     MemberReader members(object);

@@ -1,5 +1,6 @@
 #include "recording/pcapngreader.h"
 
+#include "frames/messages.h"
 #include "recording/jsonobject.h"
 #include "recording/pcapngformat.h"
 #include "recording/pcapngoptions.h"
@@ -125,7 +126,7 @@ std::optional<PcapngReader::Block> PcapngReader::nextBlock()
     }
     const auto size = numberIn<quint32>(head, sizeOfSize);
     if (size < typeAndSize + sizeOfSize || size % sizeOfSize != 0 || size > longestBlock) {
-        failHere(QStringLiteral("a block of an impossible size"));
+        failHere(Messages::tr("a block of an impossible size"));
         return std::nullopt;
     }
     const int rest = static_cast<int>(size) - typeAndSize;
@@ -135,7 +136,7 @@ std::optional<PcapngReader::Block> PcapngReader::nextBlock()
         return std::nullopt;
     }
     if (numberIn<quint32>(body, rest - sizeOfSize) != size) {
-        failHere(QStringLiteral("a block with two sizes"));
+        failHere(Messages::tr("a block with two sizes"));
         return std::nullopt;
     }
     body.chop(sizeOfSize);
@@ -167,7 +168,7 @@ bool PcapngReader::takeSection(const QByteArray &body)
 {
     if (m_hasSection || body.size() < sectionFixed ||
         numberIn<quint32>(body, 0) != Pcapng::byteOrderMagic) {
-        failHere(QStringLiteral("a section that isn't ours"));
+        failHere(Messages::tr("a section that isn't ours"));
         return false;
     }
     m_hasSection = true;
@@ -181,7 +182,7 @@ bool PcapngReader::takeInterface(const QByteArray &body)
 {
     if (!m_hasSection || m_hasInterface || body.size() < interfaceFixed ||
         numberIn<quint16>(body, 0) != Pcapng::serialLinkType) {
-        failHere(QStringLiteral("no serial line"));
+        failHere(Messages::tr("no serial line"));
         return false;
     }
     m_hasInterface = true;
@@ -193,7 +194,7 @@ bool PcapngReader::takePacket(const QByteArray &body)
     const quint32 size = body.size() < packetFixed ? 0 : numberIn<quint32>(body, 12);
     if (!m_hasInterface || size < Pcapng::serialHeaderSize ||
         size > quint32(body.size() - packetFixed)) {
-        failHere(QStringLiteral("a packet that isn't ours"));
+        failHere(Messages::tr("a packet that isn't ours"));
         return false;
     }
     constexpr int bitsOfHalf = 32;
@@ -201,7 +202,7 @@ bool PcapngReader::takePacket(const QByteArray &body)
     const quint64 utcUs =
         quint64(numberIn<quint32>(body, 4)) << bitsOfHalf | numberIn<quint32>(body, 8);
     if (utcUs > latestUtcUs) {
-        failHere(QStringLiteral("an impossible time"));
+        failHere(Messages::tr("an impossible time"));
         return false;
     }
     const int padding = (sizeOfSize - packet.size() % sizeOfSize) % sizeOfSize;
@@ -216,5 +217,5 @@ bool PcapngReader::takePacket(const QByteArray &body)
 
 void PcapngReader::failHere(const QString &words)
 {
-    fail(QStringLiteral("byte %1: %2").arg(m_offset).arg(words));
+    fail(Messages::tr("byte %1: %2").arg(m_offset).arg(words));
 }

@@ -10,8 +10,9 @@ constexpr qint64 nsPerMs = 1000000;
 constexpr qint64 usPerMs = 1000;
 /// More names than that are not tried.
 constexpr int mostTakenNames = 10000;
-const QString fullDiskWords = QStringLiteral("the disk is nearly full");
-const QString goneFileWords = QStringLiteral("the file is gone");
+const QString fullDiskWords =
+    QLatin1String(QT_TRANSLATE_NOOP("Messages", "the disk is nearly full"));
+const QString goneFileWords = QLatin1String(QT_TRANSLATE_NOOP("Messages", "the file is gone"));
 
 } // namespace
 

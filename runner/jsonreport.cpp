@@ -91,7 +91,7 @@ QByteArray JsonReport::traffic(const LogRecord &record)
                        {"mono_us", record.monotonicNs / nsPerUs},
                        {"ev", eventWord(record.kind)}};
     if (record.kind == LogRecord::Kind::Event) {
-        object.insert("text", record.text);
+        object.insert("text", record.text.english);
     } else {
         object.insert("bytes", hexOf(record.bytes));
     }

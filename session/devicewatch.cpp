@@ -1,6 +1,7 @@
 #include "session/devicewatch.h"
 
 #include "frames/hextext.h"
+#include "frames/messages.h"
 #include "links/hid/hidlink.h"
 #include "links/serial/seriallink.h"
 #include "links/watch/devicenames.h"
@@ -48,7 +49,9 @@ bool DeviceWatch::takeMessage(void *message, long *result)
 void DeviceWatch::noteArrival(const WatchedDevice &device)
 {
     emit listsOutdated();
-    m_log.appendEvent(linkName(device.kind), QStringLiteral("Insert ") + shownName(device));
+    m_log.appendEvent(
+        linkName(device.kind),
+        Messages::wording(QT_TRANSLATE_NOOP("Messages", "Insert %1"), shownName(device)));
     emit came(device);
 }
 
@@ -59,7 +62,9 @@ void DeviceWatch::noteRemoval(const WatchedDevice &device)
     } else if (isOpenHidDevice(device)) {
         emit gone(LinkMode::Hid);
     }
-    m_log.appendEvent(linkName(device.kind), QStringLiteral("Remove ") + shownName(device));
+    m_log.appendEvent(
+        linkName(device.kind),
+        Messages::wording(QT_TRANSLATE_NOOP("Messages", "Remove %1"), shownName(device)));
     emit listsOutdated();
 }
 

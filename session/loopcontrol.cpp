@@ -1,6 +1,7 @@
 #include "session/loopcontrol.h"
 
 #include "frames/alarmclock.h"
+#include "frames/messages.h"
 #include "frames/sender.h"
 #include "frames/systemclock.h"
 
@@ -24,7 +25,7 @@ LoopControl::LoopControl(Sender &sender, QObject *parent)
     connect(&m_loop, &SendLoop::finished, this, &LoopControl::stopped);
     connect(&m_loop, &SendLoop::foundNothing, this, [this] {
         emit foundNothing();
-        emit notice(QStringLiteral("No thing to send"));
+        emit notice(Messages::tr("No thing to send"));
     });
 }
 
@@ -60,14 +61,14 @@ void LoopControl::stop()
 bool LoopControl::isAcceptable(const LoopPlan &plan)
 {
     if (plan.tooManyEntries) {
-        emit notice(QStringLiteral("Too many order!"));
+        emit notice(Messages::tr("Too many order!"));
         return false;
     }
     if (!plan.overlongRows.isEmpty()) {
         emit notice(overlongRowsMessage(plan.overlongRows));
     }
     if (plan.texts.isEmpty()) {
-        emit notice(QStringLiteral("Not a Command was selected to send!"));
+        emit notice(Messages::tr("Not a Command was selected to send!"));
         return false;
     }
     return true;

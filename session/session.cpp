@@ -2,6 +2,7 @@
 
 #include "frames/alarmclock.h"
 #include "frames/headernotice.h"
+#include "frames/messages.h"
 #include "frames/systemclock.h"
 #include "log/allzero.h"
 #include "session/framecrc.h"
@@ -85,7 +86,9 @@ void Session::connectRecords()
                    ArrivalTime time) { m_check.noteSent(parts, time.monotonicNs); });
     connect(&m_receiver, &Receiver::strayReceived, this, &Session::recordStray);
     connect(&m_links.hid(), &HidLink::dropped, this, [this](qint64 bytes) {
-        m_log.appendEvent(QStringLiteral("HID"), tr("%1 bytes dropped").arg(bytes));
+        m_log.appendEvent(QStringLiteral("HID"),
+                          Messages::wording(QT_TRANSLATE_NOOP("Messages", "%1 bytes dropped"),
+                                            QString::number(bytes)));
     });
 }
 
@@ -94,7 +97,7 @@ void Session::connectNotices()
     connect(&m_sender, &Sender::notice, this, &Session::notice);
     connect(&m_loop, &LoopControl::notice, this, &Session::notice);
     connect(&m_receivedHeader, &ReceivedHeader::unreadable, this,
-            [this] { emit notice(badHeaderMessage); });
+            [this] { emit notice(badHeaderMessage()); });
 }
 
 void Session::connectReopener()
@@ -105,13 +108,15 @@ void Session::connectReopener()
         }
     });
     connect(&m_devices, &DeviceWatch::cameUnseen, this, [this] { m_reopener.noteArrival({}); });
-    const auto record = [this](const QString &text) {
-        m_log.appendEvent(QStringLiteral("Uart"), text);
+    const auto record = [this](const Wording &event) {
+        m_log.appendEvent(QStringLiteral("Uart"), event);
     };
-    connect(&m_reopener, &PortReopener::waiting, this,
-            [record](const QString &name) { record(QStringLiteral("Lost ") + name); });
-    connect(&m_reopener, &PortReopener::reopened, this,
-            [record](const QString &name) { record(QStringLiteral("Reopen ") + name); });
+    connect(&m_reopener, &PortReopener::waiting, this, [record](const QString &name) {
+        record(Messages::wording(QT_TRANSLATE_NOOP("Messages", "Lost %1"), name));
+    });
+    connect(&m_reopener, &PortReopener::reopened, this, [record](const QString &name) {
+        record(Messages::wording(QT_TRANSLATE_NOOP("Messages", "Reopen %1"), name));
+    });
 }
 
 void Session::loseLink(LinkMode mode)

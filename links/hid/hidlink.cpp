@@ -1,5 +1,6 @@
 #include "links/hid/hidlink.h"
 
+#include "frames/messages.h"
 #include "frames/reports.h"
 #include "links/hid/hiddevices.h"
 #include "links/nodeaccess.h"
@@ -102,7 +103,7 @@ void HidLink::receive(const HidPacket &packet, ArrivalTime time)
 
 QString HidLink::closedMessage() const
 {
-    return QStringLiteral("Please open the HID Device!");
+    return Messages::tr("Please open the HID Device!");
 }
 
 void HidLink::reportLoss()
@@ -110,7 +111,7 @@ void HidLink::reportLoss()
     // What the device has sent so far.
     m_inbox.handUpAll();
     if (isOpen()) {
-        emit lost(tr("it takes nothing any more"));
+        emit lost(QLatin1String(QT_TRANSLATE_NOOP("Messages", "it takes nothing any more")));
     }
 }
 

@@ -1,3 +1,4 @@
+#include "frames/messages.h"
 #include "links/serial/portentry.h"
 #include "links/serial/portregistry.h"
 
@@ -40,7 +41,7 @@ RegistryEntry readRegistryEntry(const QString &key, int index)
 {
     const Key open = openKey(key);
     if (!open) {
-        return {QStringLiteral("Cannot open regedit!")};
+        return {Messages::tr("Cannot open regedit!")};
     }
     std::array<wchar_t, nameSize> name{};
     std::array<char, dataSize> data{};

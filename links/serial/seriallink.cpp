@@ -1,5 +1,6 @@
 #include "links/serial/seriallink.h"
 
+#include "frames/messages.h"
 #include "links/nodeaccess.h"
 #include "links/serial/portstate.h"
 
@@ -112,7 +113,7 @@ bool SerialLink::isOpen() const
 
 QString SerialLink::closedMessage() const
 {
-    return QStringLiteral("Please open the Com Port!");
+    return Messages::tr("Please open the Com Port!");
 }
 
 int SerialLink::longestInstruction() const
@@ -168,7 +169,9 @@ void SerialLink::onError(QSerialPort::SerialPortError error)
     }
     m_failed = true;
     // Of a device that is gone, the port knows only which call failed first.
-    const QString reason = isGone ? tr("the device is gone") : m_port.errorString();
+    const QString reason = isGone
+                               ? QLatin1String(QT_TRANSLATE_NOOP("Messages", "the device is gone"))
+                               : m_port.errorString();
     QMetaObject::invokeMethod(
         this, [this, reason] { reportLoss(reason); }, Qt::QueuedConnection);
 }

@@ -1,10 +1,12 @@
 #include "links/serial/serialoptions.h"
 
+#include "frames/messages.h"
+
 namespace SerialOptions {
 
 QStringList baudRates()
 {
-    return {QStringLiteral("custom"), QStringLiteral("9600"),   QStringLiteral("19200"),
+    return {Messages::tr("custom"),   QStringLiteral("9600"),   QStringLiteral("19200"),
             QStringLiteral("38400"),  QStringLiteral("57600"),  QStringLiteral("115200"),
             QStringLiteral("230400"), QStringLiteral("256000"), QStringLiteral("460800"),
             QStringLiteral("921600"), QStringLiteral("1382400")};
@@ -17,7 +19,7 @@ QStringList dataBits()
 
 QStringList parities()
 {
-    return {QStringLiteral("None"), QStringLiteral("Even"), QStringLiteral("Odd")};
+    return {Messages::tr("None"), Messages::tr("Even"), Messages::tr("Odd")};
 }
 
 QStringList stopBits()

@@ -24,13 +24,13 @@ Widget *find(const char *name)
 
 void say(const QString &text)
 {
-    std::printf("%s\n", qPrintable(text));
+    std::printf("%s\n", text.toUtf8().constData());
     std::fflush(stdout);
 }
 
 /// Somebody in front of a window of a program that knows nothing of it: types a text into the first
 /// cell of the command table, if there is one to type, and presses a button, if there is one to
-/// press. What can be read in the status line is printed first.
+/// press. What can be read on the loop's button and in the status line is printed first.
 class Typist : public QTimer
 {
 public:
@@ -50,6 +50,7 @@ private:
             return;
         }
         stop();
+        say("loop: " + find<QPushButton>("pushButton_Start_Loop")->text());
         say("status: " + find<QLabel>("label_Status")->text());
         if (!m_text.isEmpty()) {
             table->item(0, 0)->setText(m_text);

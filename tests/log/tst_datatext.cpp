@@ -31,7 +31,7 @@ LogRecord dataRecord(Kind kind, const QByteArray &bytes, bool withCrc = false)
     record.kind = kind;
     record.bytes = bytes;
     record.withCrc = withCrc;
-    record.text = QStringLiteral("Insert x");
+    record.text = {"Insert x", "Insert x"};
     return record;
 }
 

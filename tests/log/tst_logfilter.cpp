@@ -34,7 +34,7 @@ LogRecord soughtRecord(Kind kind, const QByteArray &bytes)
     record.withCrc = true;
     if (kind == Kind::Event) {
         record.source = QStringLiteral("Uart");
-        record.text = QStringLiteral("Insert /dev/ttyUSB0 now");
+        record.text = {"Insert /dev/ttyUSB0 now", "Insert /dev/ttyUSB0 now"};
     }
     return record;
 }

@@ -49,7 +49,8 @@ void TestLogTexts::texts_data()
         << QStringList{"1", "5A A5", " 03", " 01", "", " 02 03 ", ""};
     QTest::newRow("stray") << wireRecord(Kind::Stray, 7, "5A00", false)
                            << QStringList{"7", "", "", "", "", "5A 00 ", ""};
-    QTest::newRow("event") << LogRecord{Kind::Event, 0, 0, 0, {}, false, "HID", "Insert x"}
+    QTest::newRow("event") << LogRecord{Kind::Event, 0,     0,     0,
+                                        {},          false, "HID", {"Insert x", "Insert x"}}
                            << QStringList{"HID", "", "", "", "", "Insert x", ""};
 }
 

@@ -75,7 +75,7 @@ void TestRecordLog::recordsHoldWhatHappened()
     const LogRecord event = log.records().at(3);
     QCOMPARE(event.kind, Kind::Event);
     QCOMPARE(event.source, QString("HID"));
-    QCOMPARE(event.text, QString("Insert y"));
+    QCOMPARE(event.text.english, QString("Insert y"));
     QCOMPARE(event.bytes, QByteArray());
 }
 

@@ -47,7 +47,7 @@ public:
         QObject::connect(&session.log(), &RecordLog::appended, &session,
                          [this](const LogRecord &record) {
                              if (record.kind == LogRecord::Kind::Event) {
-                                 heard.append(record.source + ' ' + record.text);
+                                 heard.append(record.source + ' ' + record.text.english);
                              }
                          });
     }

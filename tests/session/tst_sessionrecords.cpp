@@ -61,7 +61,7 @@ public:
         QStringList all;
         for (const LogRecord &record : session.log().records()) {
             all.append(kinds.at(int(record.kind)) + ' ' + QString::number(record.number) + ' ' +
-                       record.bytes.toHex() + record.text);
+                       record.bytes.toHex() + record.text.english);
         }
         return all;
     }

@@ -78,7 +78,7 @@ public:
         QStringList texts;
         for (const LogRecord &record : records().records()) {
             if (record.kind == LogRecord::Kind::Event) {
-                texts.append(record.source + ' ' + record.text.section(' ', 0, 0));
+                texts.append(record.source + ' ' + record.text.english.section(' ', 0, 0));
             }
         }
         return texts;
