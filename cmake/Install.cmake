@@ -11,13 +11,13 @@ execute_process(
   COMMAND awk -f ${linux_folder}/release-notes.awk ${CMAKE_SOURCE_DIR}/CHANGELOG.md
   OUTPUT_VARIABLE TARNWICK_RELEASES
   COMMAND_ERROR_IS_FATAL ANY)
-configure_file(${linux_folder}/org.tarnwick.tarnwick.metainfo.xml.in
-  org.tarnwick.tarnwick.metainfo.xml @ONLY)
+configure_file(${linux_folder}/org.example.tarnwick.metainfo.xml.in
+  org.example.tarnwick.metainfo.xml @ONLY)
 
 install(TARGETS tarnwick tarnwick-device tarnwick-run)
 install(FILES ${linux_folder}/tarnwick.desktop
   DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/org.tarnwick.tarnwick.metainfo.xml
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/org.example.tarnwick.metainfo.xml
   DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 foreach(program tarnwick-device tarnwick-run)
   install(FILES ${linux_folder}/${program}.bash
