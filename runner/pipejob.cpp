@@ -1,5 +1,6 @@
 #include "runner/pipejob.h"
 
+#include "expectations/rowtrial.h"
 #include "frames/systemclock.h"
 #include "runner/deviceidfile.h"
 #include "runner/jsonreport.h"
@@ -29,6 +30,9 @@ PipeJob::PipeJob(const RunOptions &options)
         complain(why);
         finish(ExitCode::LinkLost);
     });
+    connect(&m_wire, &Wire::frameArrived, this,
+            [this](const ReceivedFrame &frame) { takeUncalled(frame.payload); });
+    connect(&m_wire, &Wire::strayArrived, this, &PipeJob::takeUncalled);
     connect(m_lines.get(), &LineSource::arrived, this, &PipeJob::takeLine);
     connect(m_lines.get(), &LineSource::ended, this, [this] {
         m_isAtEnd = true;
@@ -93,8 +97,10 @@ void PipeJob::runRow(const TestRow &row)
     connect(m_run.get(), &Run::judged, this, &PipeJob::tell);
     // Not from within: the run is in the midst of telling.
     connect(m_run.get(), &Run::ended, this, [this] {
+        m_isBetweenRows = true;
         QMetaObject::invokeMethod(this, &PipeJob::takeAfterRun, Qt::QueuedConnection);
     });
+    m_isBetweenRows = false;
     m_run->start();
 }
 
@@ -106,6 +112,10 @@ void PipeJob::takeAfterRun()
 
 void PipeJob::tell(const RowResult &result)
 {
+    if (result.number == 0) {
+        failBetweenRows(result.why);
+        return;
+    }
     RowResult told = result;
     if (m_isFree && result.replies.isEmpty() && result.verdict == RowResult::Verdict::Failed) {
         told.why.clear();
@@ -114,9 +124,29 @@ void PipeJob::tell(const RowResult &result)
         told.verdict = RowResult::Verdict::Sent;
     }
     if (!told.isGood()) {
-        m_code = m_code == ExitCode::Good ? ExitCode::ExpectationFailed : m_code;
+        noteFailure();
     }
     m_output.write(jsonLine(jsonOf(told)));
+}
+
+/// What comes while no row waits is checked where nothing but the expected may come.
+void PipeJob::takeUncalled(const QByteArray &bytes)
+{
+    if (m_isBetweenRows && m_options.rules.isStrict) {
+        failBetweenRows(QStringLiteral("expected nothing, got %1").arg(bytesText(bytes)));
+    }
+}
+
+/// Each line has one answer, so this is told beside.
+void PipeJob::failBetweenRows(const QString &why)
+{
+    complain(QStringLiteral("Between the rows: ") + why);
+    noteFailure();
+}
+
+void PipeJob::noteFailure()
+{
+    m_code = m_code == ExitCode::Good ? ExitCode::ExpectationFailed : m_code;
 }
 
 void PipeJob::tellFault(const QString &why)

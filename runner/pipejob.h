@@ -35,6 +35,9 @@ private:
     void runRow(const TestRow &row);
     void tell(const RowResult &result);
     void tellFault(const QString &why);
+    void takeUncalled(const QByteArray &bytes);
+    void failBetweenRows(const QString &why);
+    void noteFailure();
     void finish(ExitCode code);
 
     RunOptions m_options;
@@ -48,6 +51,7 @@ private:
     bool m_isAtEnd = false;
     bool m_isReady = false;
     std::unique_ptr<Run> m_run;
+    bool m_isBetweenRows = true;
     /// The row on its way expects nothing of its own: whatever comes is its reply.
     bool m_isFree = false;
     int m_count = 0;

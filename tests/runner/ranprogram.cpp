@@ -41,3 +41,15 @@ QByteArray ListFolder::content(const QString &name) const
     QFile file(path(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
+
+PublicProgram::PublicProgram(const QString &program)
+{
+    QFile::copy(program, path());
+    openToEverybody(path());
+    openToEverybody(m_folder.path("."));
+}
+
+bool openToEverybody(const QString &path)
+{
+    return QFile::setPermissions(path, QFile::Permissions(0x7777));
+}

@@ -35,3 +35,18 @@ public:
 private:
     QTemporaryDir m_folder;
 };
+
+/// A copy of a program where everybody may run it.
+class PublicProgram
+{
+public:
+    explicit PublicProgram(const QString &program);
+
+    QString path() const { return m_folder.path("program"); }
+
+private:
+    ListFolder m_folder;
+};
+
+/// Lets everybody read, change and run a file or folder.
+bool openToEverybody(const QString &path);

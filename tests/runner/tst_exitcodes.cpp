@@ -1,10 +1,15 @@
 #include "ranprogram.h"
+#include "restrictions.h"
 #include "runningdevice.h"
+#include "testport.h"
 
 #include <QtTest>
 
 #include <csignal>
+#include <grp.h>
+#include <sys/stat.h>
 #include <sys/types.h>
+#include <unistd.h>
 
 /// What the built program ends with. Each code is provoked.
 class TestExitCodes : public QObject
@@ -20,6 +25,8 @@ private slots:
     void wrongInput();
     void nothingIsSentWhereAFileIsWrong();
     void linkNotOpened();
+    void portNotPermitted();
+    void portInUse();
     void waitedForInVain();
     void waitedFor();
     void linkLost();
@@ -29,11 +36,28 @@ private slots:
     void timedOut();
     void told_data();
     void told();
+    void timedOutWhileItWaitsForTheLink();
+    void toldWhileItWaitsForTheLink();
+    void unexpectedIsAFailureWhereItIsStrict();
 };
 
 namespace {
 
 const QByteArray endless("//@ tarnwick-run 1 interval=20\nEcho,select,42 0000 01\n//? 42 **\n");
+
+/// Whether a process has a handler of its own for a signal.
+bool minds(int signal, const QProcess &process)
+{
+    constexpr int hexBase = 16;
+    QFile status(QStringLiteral("/proc/%1/status").arg(process.processId()));
+    status.open(QIODevice::ReadOnly);
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("SigCgt:")) {
+            return ((line.mid(7).trimmed().toULongLong(nullptr, hexBase) >> (signal - 1)) & 1) != 0;
+        }
+    }
+    return false;
+}
 
 /// Starts the runner on a list that doesn't end, and waits until it is at work.
 bool startEndless(QProcess &process, const QStringList &arguments)
@@ -154,6 +178,44 @@ void TestExitCodes::linkNotOpened()
     QVERIFY2(hid.error.contains("No HID device VID_FFFE&PID_FFFE is attached."), hid.error);
 }
 
+/// For root there is no such thing, so somebody else runs the program.
+void TestExitCodes::portNotPermitted()
+{
+    const TestPort port;
+    const PublicProgram program(TARNWICK_RUN);
+    const group *const dialout = getgrnam("dialout");
+    QVERIFY(dialout != nullptr);
+    const QByteArray path = port.path().toLocal8Bit();
+    const bool hasGroup = chown(path.constData(), uid_t(-1), dialout->gr_gid) == 0;
+    QCOMPARE(chmod(path.constData(), 0060), 0);
+    const OrdinaryUser user;
+    QVERIFY(user.isInForce());
+    const Ran result = ranOther(program.path(), {"--port", port.path(), "-"}, endless);
+    QCOMPARE(result.code, 3);
+    QVERIFY2(result.error.contains(path + ": Permission denied."), result.error);
+    QVERIFY2(!hasGroup || result.error.contains("It belongs to the group dialout."), result.error);
+}
+
+void TestExitCodes::portInUse()
+{
+    const TestPort port;
+    const PublicProgram program(TARNWICK_RUN);
+    const ListFolder folder;
+    QCOMPARE(chmod(qPrintable(port.path()), 0666), 0);
+    const OrdinaryUser user;
+    QVERIFY(user.isInForce());
+    QProcess other;
+    other.start(program.path(), {"--port", port.path(), "-n", "forever", "--interval", "20", "-"});
+    other.write("Echo,select,42 0000 01\n");
+    other.closeWriteChannel();
+    QVERIFY(other.waitForReadyRead(10000));
+    const Ran result = ranOther(program.path(), {"--port", port.path(), "-"}, endless);
+    QCOMPARE(result.code, 3);
+    QVERIFY2(result.error.contains(" is in use by another program ("), result.error);
+    other.terminate();
+    QCOMPARE(endOf(other).code, 143);
+}
+
 void TestExitCodes::waitedForInVain()
 {
     const ListFolder folder;
@@ -254,6 +316,36 @@ void TestExitCodes::told()
     QTEST(result.code, "code");
     QVERIFY2(result.out.endsWith(told), result.out);
     QVERIFY(QFile::exists(folder.path("r.xml")));
+}
+
+void TestExitCodes::timedOutWhileItWaitsForTheLink()
+{
+    const ListFolder folder;
+    const Ran result = ran({"--port", folder.path("no-port"), "--wait-link", "60",
+                            "--total-timeout", "1", folder.file(endless)});
+    QCOMPARE(result.code, 124);
+}
+
+void TestExitCodes::toldWhileItWaitsForTheLink()
+{
+    const ListFolder folder;
+    QProcess process;
+    process.start(TARNWICK_RUN, {"--port", folder.path("no-port"), "--wait-link", "60", "--junit",
+                                 folder.path("r.xml"), folder.file(endless)});
+    QVERIFY(process.waitForStarted());
+    QTRY_VERIFY(minds(SIGTERM, process));
+    ::kill(static_cast<pid_t>(process.processId()), SIGTERM);
+    QCOMPARE(endOf(process).code, 143);
+    QVERIFY(folder.content("r.xml").contains("<testsuites>"));
+}
+
+void TestExitCodes::unexpectedIsAFailureWhereItIsStrict()
+{
+    const QByteArray list("//@ tarnwick-run 1\nEcho,select,42 0000 01\n//! 55  within 100\n");
+    QCOMPARE(ran({"--sim", "-"}, list).code, 0);
+    const Ran result = ran({"--sim", "--strict", "-"}, list);
+    QCOMPARE(result.code, 1);
+    QVERIFY2(result.out.contains("nothing more expected, got 42 00 00 01"), result.out);
 }
 
 QTEST_GUILESS_MAIN(TestExitCodes)

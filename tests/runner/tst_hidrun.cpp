@@ -169,23 +169,20 @@ void TestHidRun::refused()
     QCOMPARE(result.out, QByteArray());
 }
 
-/// For root there is no such thing, so somebody else runs the program, from where he may.
+/// For root there is no such thing, so somebody else runs the program.
 void TestHidRun::notPermitted()
 {
-    const QFile::Permissions everything(0x7777);
     const HidFolder hid;
+    const PublicProgram program(TARNWICK_RUN_WITH_HID);
     const ListFolder folder;
     const QString node = folder.file({}, "hidraw");
-    const QString program = folder.path("program");
     hid.plugIn("a", {"EEEF:1616", "", node});
-    QVERIFY(QFile::copy(TARNWICK_RUN_WITH_HID, program));
-    QVERIFY(QFile::setPermissions(program, everything));
-    QVERIFY(QFile::setPermissions(folder.path("."), everything));
-    QVERIFY(QFile::setPermissions(qEnvironmentVariable("TARNWICK_TEST_HID"), everything));
     QVERIFY(QFile::setPermissions(node, {}));
+    QVERIFY(openToEverybody(folder.path(".")));
+    QVERIFY(openToEverybody(qEnvironmentVariable("TARNWICK_TEST_HID")));
     const OrdinaryUser user;
     QVERIFY(user.isInForce());
-    const Ran result = ranOther(program, smallDevice + QStringList{"-"}, hidEcho);
+    const Ran result = ranOther(program.path(), smallDevice + QStringList{"-"}, hidEcho);
     QCOMPARE(result.code, 3);
     QVERIFY2(result.error.contains("Permission denied. A udev rule helps: copy 70-tarnwick.rules"),
              result.error);

@@ -1,5 +1,6 @@
 #include "ranprogram.h"
 #include "runningdevice.h"
+#include "testport.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -18,6 +19,9 @@ private slots:
     void aRowWithoutAnAnswer();
     void theLastLineNeedsNoEnd();
     void theLinkIsNeeded();
+    void theLinkIsLost();
+    void whatComesBetweenRowsFailsWhereItIsStrict_data();
+    void whatComesBetweenRowsFailsWhereItIsStrict();
 };
 
 namespace {
@@ -100,6 +104,47 @@ void TestPipe::theLastLineNeedsNoEnd()
 void TestPipe::theLinkIsNeeded()
 {
     QCOMPARE(ran({"--pipe", "--port", "/nowhere"}, "Echo,42 0000 01\n").code, 3);
+}
+
+void TestPipe::theLinkIsLost()
+{
+    RunningDevice device;
+    QVERIFY(device.startOnly());
+    QProcess process;
+    process.start(TARNWICK_RUN, {"--port", device.printedPath(), "--pipe"});
+    QCOMPARE(answerTo(process, "Echo,42 0000 01\n").value("verdict").toString(), QString("sent"));
+    device.process().kill();
+    const Ran result = endOf(process);
+    QCOMPARE(result.code, 4);
+    QVERIFY2(result.error.contains("the device is gone"), result.error);
+}
+
+void TestPipe::whatComesBetweenRowsFailsWhereItIsStrict_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("told");
+    QTest::newRow("a frame") << QByteArray::fromHex("5AA50155") << QByteArray("got 55\n");
+    QTest::newRow("bytes") << QByteArray::fromHex("0102") << QByteArray("got 01 02\n");
+}
+
+/// Each row has one answer all the same.
+void TestPipe::whatComesBetweenRowsFailsWhereItIsStrict()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArray, told);
+    TestPort device;
+    QProcess process;
+    process.start(TARNWICK_RUN, {"--port", device.path(), "--pipe", "--strict", "-t", "50"});
+    QCOMPARE(answerTo(process, "Echo,42 0000 01\n").value("verdict").toString(), QString("sent"));
+    device.send(bytes);
+    QByteArray error;
+    QTRY_VERIFY((error += process.readAllStandardError()).endsWith('\n'));
+    QVERIFY2(error.endsWith(told), error);
+    QCOMPARE(answerTo(process, "Echo,42 0000 02\n").value("verdict").toString(), QString("sent"));
+    process.closeWriteChannel();
+    const Ran result = endOf(process);
+    QCOMPARE(result.code, 1);
+    QCOMPARE(result.out, QByteArray());
 }
 
 QTEST_GUILESS_MAIN(TestPipe)
