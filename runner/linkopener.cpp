@@ -41,8 +41,13 @@ void LinkOpener::setDeviceFormat(StartBytes startBytes, bool withCrc)
     m_deviceCrc = withCrc;
 }
 
+/// A port hangs up when its device goes. Of a HID device that nothing is written to, only the
+/// system tells.
 void LinkOpener::start()
 {
+    if (m_choice.kind == LinkChoice::Kind::Hid) {
+        m_session.devices().start({});
+    }
     m_giveUpNs = ArrivalTime::now().monotonicNs + m_choice.waitSeconds * nsPerSecond;
     m_nextTry.start(0);
 }
@@ -95,7 +100,7 @@ bool LinkOpener::openHid()
         const bool isMeant =
             found.device.ids == wanted.ids &&
             (wanted.serialNumber.isEmpty() || wanted.serialNumber == found.serialNumber);
-        if (isMeant && hid.open(found.device.path, wanted.reportId)) {
+        if (isMeant && hid.open(found.device, wanted.reportId)) {
             return true;
         }
         if (isMeant) {

@@ -74,6 +74,12 @@ bool HidLink::open(const QString &path, quint8 reportId)
     return true;
 }
 
+bool HidLink::open(const HidDevice &device, quint8 reportId)
+{
+    m_listedIds.insert(device.path, device.ids);
+    return open(device.path, reportId);
+}
+
 void HidLink::close()
 {
     m_inbox.handUpAll();

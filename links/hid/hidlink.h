@@ -10,6 +10,8 @@
 
 #include <optional>
 
+struct HidDevice;
+
 /// The HID link: lists the attached devices of the known types, opens one of them, and sends blocks
 /// of frames to it as reports.
 ///
@@ -31,6 +33,8 @@ public:
 
     /// Opens the device at a path, after closing the one that is open. Returns whether it is open.
     bool open(const QString &path, quint8 reportId);
+    /// The same for a device whose IDs are known, whatever its path tells.
+    bool open(const HidDevice &device, quint8 reportId);
     /// The bytes of data in each report, in place of what the device-ID file says; for devices that
     /// are opened from now on.
     void setReportSize(std::optional<int> bytes) { m_reportSize = bytes; }

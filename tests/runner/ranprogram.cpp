@@ -4,7 +4,7 @@
 
 Ran endOf(QProcess &process)
 {
-    if (!process.waitForFinished()) {
+    if (process.state() != QProcess::NotRunning && !process.waitForFinished()) {
         process.kill();
         process.waitForFinished();
         return {-1, process.readAllStandardOutput(), process.readAllStandardError()};

@@ -43,6 +43,8 @@ public:
     explicit PublicProgram(const QString &program);
 
     QString path() const { return m_folder.path("program"); }
+    /// What else stands beside it.
+    const ListFolder &folder() const { return m_folder; }
 
 private:
     ListFolder m_folder;

@@ -23,6 +23,7 @@ private slots:
     void noDeviceWithThatSerialNumber();
     void reportsHaveTheirIdAndSize();
     void aKnownDeviceHasItsReportSize();
+    void theDeviceIdFileTellsTheReportSize();
     void longFramesTakeSeveralReports();
     void refused();
     void notPermitted();
@@ -146,6 +147,16 @@ void TestHidRun::aKnownDeviceHasItsReportSize()
     QCOMPARE(ranOnHid({"--hid", "EEEF:2929"}).code, 0);
     QCOMPARE(hid.written("small").value(0).size(), 65);
     QCOMPARE(hid.written("large").value(0).size(), 513);
+}
+
+void TestHidRun::theDeviceIdFileTellsTheReportSize()
+{
+    const HidFolder hid;
+    const PublicProgram program(TARNWICK_RUN_WITH_HID);
+    program.folder().file("VID_EEEF,PID_1616,32\n", "hidDeviceID.ini");
+    hid.plugIn("a");
+    QCOMPARE(ranOther(program.path(), smallDevice + QStringList{"-"}, hidEcho).code, 0);
+    QCOMPARE(hid.written("a").value(0).size(), 33);
 }
 
 void TestHidRun::longFramesTakeSeveralReports()
