@@ -71,7 +71,7 @@ QVector<Literal> literalsIn(const QString &source)
 
 bool isTranslated(const Literal &literal)
 {
-    static const QRegularExpression call("(tr\\(|(translate|QT_TRANSLATE_NOOP)\\(\"\",)$");
+    static const QRegularExpression call(R"re((tr\(|(translate|QT_TRANSLATE_NOOP)\("",)$)re");
     return call.match(literal.before).hasMatch();
 }
 
