@@ -9,7 +9,7 @@ constexpr qint64 nsPerSecond = 1000000000;
 constexpr qint64 fileTimesPerUs = 10;
 constexpr qint64 usFrom1601To1970 = 11644473600000000;
 
-qint64 utcUs()
+qint64 systemTimeUs()
 {
     FILETIME time{};
     GetSystemTimePreciseAsFileTime(&time);
@@ -20,7 +20,7 @@ qint64 utcUs()
 }
 
 /// In two parts, since the count times 10^9 would not fit.
-qint64 monotonicNs()
+qint64 counterNs()
 {
     LARGE_INTEGER frequency;
     LARGE_INTEGER count;
@@ -35,5 +35,5 @@ qint64 monotonicNs()
 
 ArrivalTime ArrivalTime::now()
 {
-    return {utcUs(), monotonicNs()};
+    return {systemTimeUs(), counterNs()};
 }
