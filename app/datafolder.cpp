@@ -7,7 +7,7 @@
 QString dataFolder()
 {
     const QString applicationFolder = QCoreApplication::applicationDirPath();
-    if (isWritableFolder(applicationFolder)) {
+    if (takesOwnFiles(applicationFolder)) {
         return applicationFolder;
     }
     const QString userFolder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);

@@ -3,7 +3,7 @@
 #include <QString>
 
 /// The folder of the program's own files, without a separator at its end: the application's folder,
-/// or the user's configuration folder where that one can't be written (an installed program).
+/// or the user's configuration folder where that one takes none (an installed program).
 QString dataFolder();
 
 /// Path of a file in the data folder, with the platform's separator before its name.
@@ -13,5 +13,5 @@ QString dataFile(const QString &name);
 /// system that has no such links.
 QString portsFolder();
 
-/// Whether files can be made in a folder.
-bool isWritableFolder(const QString &folder);
+/// Whether a program in this folder may keep its own files there.
+bool takesOwnFiles(const QString &folder);

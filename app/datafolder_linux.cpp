@@ -10,7 +10,7 @@ QString portsFolder()
     return folder;
 }
 
-bool isWritableFolder(const QString &folder)
+bool takesOwnFiles(const QString &folder)
 {
     return QFileInfo(folder).isWritable();
 }

@@ -1,5 +1,6 @@
 #include "app/datafolder.h"
 
+#include <QFile>
 #include <QTemporaryFile>
 
 QString portsFolder()
@@ -7,9 +8,13 @@ QString portsFolder()
     return {};
 }
 
-/// Permissions of folders are not told without asking for much more; so it is tried.
-bool isWritableFolder(const QString &folder)
+/// What an installer has laid out is its own, though the user may be able to write there. Elsewhere
+/// it is tried: permissions of folders are not told without asking for much more.
+bool takesOwnFiles(const QString &folder)
 {
+    if (QFile::exists(folder + QStringLiteral("/uninstall.exe"))) {
+        return false;
+    }
     QTemporaryFile probe(folder + QStringLiteral("/XXXXXX.tmp"));
     return probe.open();
 }

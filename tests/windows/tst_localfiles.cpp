@@ -20,6 +20,7 @@ private slots:
     void commandsAreLoaded();
     void messagesAreSavedInTheSystemsEncoding();
     void ownFilesStandBehindABackslash();
+    void anInstallersFolderTakesNoFiles();
 };
 
 namespace {
@@ -104,6 +105,15 @@ void TestLocalFiles::ownFilesStandBehindABackslash()
     QFile::remove(path);
     WindowDriver().window().close();
     QVERIFY(QFile::exists(path));
+}
+
+void TestLocalFiles::anInstallersFolderTakesNoFiles()
+{
+    const QTemporaryDir folder;
+    QVERIFY(takesOwnFiles(folder.path()));
+    writeFile(folder.filePath("uninstall.exe"), "");
+    QVERIFY(!takesOwnFiles(folder.path()));
+    QVERIFY(!takesOwnFiles(folder.filePath("missing")));
 }
 
 QTEST_MAIN(TestLocalFiles)
