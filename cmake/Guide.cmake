@@ -18,3 +18,15 @@ if(MKDOCS AND EXISTS ${guide_theme})
     VERBATIM)
   add_custom_target(guide ALL DEPENDS ${GUIDE_FOLDER}/index.html)
 endif()
+
+# install_guide(FOLDER): into a folder of that folder, where it is made. Without what the theme brings for
+# scripts, for servers and for its own debugging.
+function(install_guide folder)
+  if(TARGET guide)
+    install(DIRECTORY ${GUIDE_FOLDER} DESTINATION ${folder}
+      PATTERN javascripts EXCLUDE
+      PATTERN *.map EXCLUDE
+      PATTERN 404.html EXCLUDE
+      PATTERN sitemap.xml* EXCLUDE)
+  endif()
+endfunction()

@@ -42,11 +42,4 @@ install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DATADIR}/tarnwick)
 install(FILES packaging/wireshark/tarnwick.lua
   DESTINATION ${CMAKE_INSTALL_DATADIR}/tarnwick/wireshark)
 install(FILES debian/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
-if(TARGET guide)
-  # Without what the theme brings for scripts, for servers and for its own debugging.
-  install(DIRECTORY ${GUIDE_FOLDER} DESTINATION ${CMAKE_INSTALL_DOCDIR}
-    PATTERN javascripts EXCLUDE
-    PATTERN *.map EXCLUDE
-    PATTERN 404.html EXCLUDE
-    PATTERN sitemap.xml* EXCLUDE)
-endif()
+install_guide(${CMAKE_INSTALL_DOCDIR})

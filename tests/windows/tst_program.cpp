@@ -1,9 +1,8 @@
-#include <QProcess>
+#include "runningprogram.h"
+
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <windows.h>
 
 /// The program itself, in a folder of its own, seen from outside.
 class TestProgram : public QObject
@@ -12,27 +11,16 @@ class TestProgram : public QObject
 
 private slots:
     void init();
-    void cleanup();
     void startsShowsAndCloses();
     void settingsComeBack();
 
 private:
-    void start();
-    void close();
     QString inFolder(const QString &name) const { return m_folder->filePath(name); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
-    QProcess m_program;
-    HWND m_window = nullptr;
 };
 
 namespace {
-
-HWND programWindow()
-{
-    HWND window = FindWindowW(nullptr, L"Tarnwick_V1.00");
-    return window != nullptr && IsWindowVisible(window) != 0 ? window : nullptr;
-}
 
 QStringList sorted(QStringList list)
 {
@@ -48,34 +36,14 @@ void TestProgram::init()
     QVERIFY(QFile::copy(TARNWICK_PROGRAM, inFolder("tarnwick.exe")));
 }
 
-void TestProgram::cleanup()
-{
-    m_program.kill();
-    m_program.waitForFinished();
-}
-
-void TestProgram::start()
-{
-    m_program.start(inFolder("tarnwick.exe"), QStringList());
-    QVERIFY(m_program.waitForStarted());
-    QTRY_VERIFY_WITH_TIMEOUT((m_window = programWindow()) != nullptr, 20000);
-}
-
-void TestProgram::close()
-{
-    QVERIFY(PostMessageW(m_window, WM_CLOSE, 0, 0) != 0);
-    QVERIFY(m_program.waitForFinished());
-    QCOMPARE(m_program.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(m_program.exitCode(), 0);
-}
-
 void TestProgram::startsShowsAndCloses()
 {
-    start();
+    RunningProgram program;
+    program.start(inFolder("tarnwick.exe"));
     RECT place{};
-    QVERIFY(GetClientRect(m_window, &place) != 0);
+    QVERIFY(GetClientRect(program.window(), &place) != 0);
     QVERIFY(place.right >= 600 && place.bottom >= 400);
-    close();
+    program.close();
     const QSettings settings(inFolder("debuggerConfig.ini"), QSettings::IniFormat);
     QCOMPARE(sorted(settings.allKeys()),
              QStringList({"set/LastLoadPath", "set/LastSavePath", "set/debuggerMode",
@@ -91,8 +59,9 @@ void TestProgram::settingsComeBack()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("[set]\r\ndebuggerMode=7\r\nnoAppendHeader=5\r\nLastLoadPath=C:/\xE6\xB5\x8B/\r\n");
     file.close();
-    start();
-    close();
+    RunningProgram program;
+    program.start(inFolder("tarnwick.exe"));
+    program.close();
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray content = file.readAll();
     QVERIFY2(content.contains("debuggerMode=1\r\n"), content.constData());
