@@ -140,6 +140,12 @@ QByteArray missingLines(const QByteArray &content, QVector<Entry> entries)
     return lines;
 }
 
+/// A line that takes the place of another one, which may be a line of Windows.
+QByteArray endedLike(const QByteArray &former, QByteArray line)
+{
+    return former.endsWith("\r\n") ? line.replace('\n', "\r\n") : line;
+}
+
 QByteArray withLineEnd(const QByteArray &text)
 {
     return text.isEmpty() || text.endsWith('\n') ? text : text + '\n';
@@ -191,7 +197,7 @@ QByteArray withSettings(const QByteArray &content, const Settings &settings)
     LineWalk walk(content);
     while (walk.next()) {
         const bool isOurs = take(former, walk.key(), walk.value());
-        written += isOurs ? takeLine(entries, walk.key()) : walk.line();
+        written += isOurs ? endedLike(walk.line(), takeLine(entries, walk.key())) : walk.line();
         if (walk.beginsOurGroup() && !hasOurGroup) {
             written = withLineEnd(written) + missing;
             hasOurGroup = true;

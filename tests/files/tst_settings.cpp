@@ -25,6 +25,7 @@ private slots:
     void fileIsUtf8();
     void foreignKeysAndGroupsSurvive();
     void otherLinesStayAsTheyAre();
+    void linesOfWindowsStaySuch();
     void theLastOneCounts();
     void aMarkOfUtf8InFrontIsNoMatter();
     void aFolderInItsPlaceIsNoError();
@@ -204,6 +205,18 @@ void TestSettings::otherLinesStayAsTheyAre()
                                     "LastLoadPath=\nLastSavePath=\ndebuggerMode=0\n"
                                     "noAppendHeader=0\nnoAppendLength=0\n" +
                                     after);
+}
+
+void TestSettings::linesOfWindowsStaySuch()
+{
+    write("[set]\r\ndebuggerMode=1\r\nisEditorFun=1\r\n");
+    SettingsFile file(path());
+    file.save(file.load());
+    QFile written(path());
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    const QByteArray bytes = written.readAll();
+    QVERIFY(bytes.contains("\ndebuggerMode=1\r\n"));
+    QVERIFY(bytes.endsWith("isEditorFun=1\r\n"));
 }
 
 void TestSettings::theLastOneCounts()
