@@ -153,8 +153,9 @@ void SerialLink::onReadyRead()
 
 bool SerialLink::isDrained() const
 {
-    return !m_port.isOpen() || (m_port.bytesToWrite() == 0 &&
-                                !hasUnsentBytes(const_cast<QSerialPort &>(m_port).handle()));
+    return !m_port.isOpen() ||
+           (m_port.bytesToWrite() == 0 &&
+            !hasUnsentBytes(qintptr(const_cast<QSerialPort &>(m_port).handle())));
 }
 
 void SerialLink::onError(QSerialPort::SerialPortError error)
