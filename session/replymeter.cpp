@@ -99,9 +99,12 @@ void ReplyMeter::noteReceived(qint64 timeNs)
 /// What the last frames wait for may never come.
 void ReplyMeter::passTime()
 {
+    const bool belongsToLoop = m_runs || m_endsSoon;
     m_times.passTime(ArrivalTime::now().monotonicNs);
     m_endsSoon = m_endsSoon && m_times.isWaiting();
-    emit loopChanged();
+    if (belongsToLoop) {
+        emit loopChanged();
+    }
     if (m_times.isWaiting()) {
         m_lastWait.start();
     }

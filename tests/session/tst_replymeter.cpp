@@ -18,6 +18,7 @@ private slots:
     void whatWasReadBeforeIsNoAnswer();
     void aLoopIsCountedFromItsBeginning();
     void whatGetsNoAnswerIsLostInTime();
+    void singleRowsAreNoLoop();
 };
 
 namespace {
@@ -97,6 +98,18 @@ void TestReplyMeter::whatGetsNoAnswerIsLostInTime()
     bench.send(1);
     QCOMPARE(bench.meter.of(1)->lost, qint64(0));
     QTRY_COMPARE(bench.meter.of(1)->lost, qint64(1));
+}
+
+/// Also when it is told, a second later, that one of them got no answer.
+void TestReplyMeter::singleRowsAreNoLoop()
+{
+    MeterBench bench;
+    const QSignalSpy changed(&bench.meter, &ReplyMeter::loopChanged);
+    bench.send(1);
+    bench.receiver.take(meteredFrame);
+    bench.send(2);
+    QTRY_COMPARE(bench.meter.of(2)->lost, qint64(1));
+    QCOMPARE(changed.count(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestReplyMeter)
