@@ -147,7 +147,7 @@ QString portLink()
 }
 
 /// A recording without its times.
-QByteArray timeless(QByteArray recording)
+QByteArray timeless(const QByteArray &recording)
 {
     QString text = QString::fromUtf8(recording);
     text.remove(QRegularExpression(R"re("t":"[^"]*",|"mono_us":\d+,?|"link":"[^"]*",?)re"));
@@ -175,7 +175,7 @@ QVector<QByteArray> filesOfSession(const QString &language)
     window.click("pushButton_OpenCom");
     window.click("pushButton_Record");
     const auto isRecorded = [&folder] {
-        return contentOf(folder.filePath("run.jsonl")).contains("\"ev\":\"end\"");
+        return contentOf(folder.filePath("run.jsonl")).contains(R"("ev":"end")");
     };
     if (!QTest::qWaitFor(isRecorded)) {
         return {};
@@ -370,7 +370,7 @@ void TestLanguages::filesAreTheSameInEachLanguage()
 {
     const QVector<QByteArray> english = filesOfSession({});
     QCOMPARE(english.size(), 4);
-    QVERIFY(english.at(0).contains("\"ev\":\"close\""));
+    QVERIFY(english.at(0).contains(R"("ev":"close")"));
     QVERIFY(english.at(1).contains("03 0010 0001"));
     QVERIFY(english.at(2).startsWith("1, 5A A5"));
     QVERIFY(english.at(3).contains("LastSavePath"));
