@@ -7,6 +7,7 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QtTest>
