@@ -7,7 +7,8 @@
 ///
 /// A program that hasn't ended so many seconds after the first of them is ended by the system,
 /// whatever it is waiting for. At most one such object is made, and it stays for the whole run.
-/// Where there are no signals, none arrive.
+/// On Windows they are what a console says: Ctrl+C and Ctrl+Break as SIGINT, its closing as
+/// SIGTERM.
 class EndSignals : public QObject
 {
     Q_OBJECT
