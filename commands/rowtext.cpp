@@ -167,7 +167,7 @@ private:
         case RowCell::Select:
             return isChecked(line(RowCell::Select)) || isUnchecked(line(RowCell::Select))
                        ? QString()
-                       : Messages::tr("neither \"select\" nor \"unselect\".");
+                       : Messages::tr(R"(neither "select" nor "unselect".)");
         case RowCell::Cmd:
             return cellFault(row, CommandColumn::Cmd);
         case RowCell::Addr:
