@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QSerialPort>
 #include <QSerialPortInfo>
+#include <QTemporaryDir>
 #include <QtTest>
 
 class TestSerialPorts : public QObject
@@ -244,14 +245,19 @@ void TestSerialPorts::aLostPortIsNoLongerListed()
 {
     MessageBoxes boxes;
     TestPort port;
+    const QTemporaryDir devices;
+    const QString node = devices.filePath("node");
+    QVERIFY(QFile::link(port.path(), node));
     QVERIFY(m_ports.mkpath("."));
     const QString path = m_ports.absoluteFilePath("device");
-    QVERIFY(QFile::link(port.path(), path));
+    QVERIFY(QFile::link(node, path));
     SerialWindow window;
     window.listPorts();
     QComboBox *ports = window.combo("comboBox_Comm");
     SerialWindow::pick(ports, ports->findText(path));
     QVERIFY(window.looksOpen());
+    // Another program may get a pseudo-terminal of the same name as soon as this one is gone.
+    QVERIFY(QFile::remove(node));
     port.unplug();
     QTRY_COMPARE(ports->findText(path), -1);
     QCOMPARE(boxes.texts().size(), 1);
