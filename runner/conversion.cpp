@@ -63,6 +63,8 @@ Conversion convertRecording(const QString &from, const QString &to)
     const bool isCsv = to.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
     const Conversion result =
         isCsv ? writeCsv(in, from, out) : writeRecording(in, from, out, recordingFormatOf(to));
+    // On Windows a file that is open can't be replaced.
+    in.close();
     if (result.code == ExitCode::Good && !out.commit()) {
         return {ExitCode::NotWritten, QStringLiteral("%1: %2").arg(to, out.errorString())};
     }
