@@ -1,5 +1,7 @@
 #include "app/datafolder.h"
 
+#include "system/ownfolder.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>

@@ -12,6 +12,3 @@ QString dataFile(const QString &name);
 /// The folder whose links are offered as serial ports; it is made where it is missing. Empty on a
 /// system that has no such links.
 QString portsFolder();
-
-/// Whether a program in this folder may keep its own files there.
-bool takesOwnFiles(const QString &folder);

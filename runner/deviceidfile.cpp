@@ -1,5 +1,7 @@
 #include "runner/deviceidfile.h"
 
+#include "system/ownfolder.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -7,7 +9,7 @@
 QString deviceIdFilePath()
 {
     QString folder = QCoreApplication::applicationDirPath();
-    if (!QFileInfo(folder).isWritable()) {
+    if (!takesOwnFiles(folder)) {
         folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                  QStringLiteral("/tarnwick");
     }

@@ -1,5 +1,6 @@
 #include "app/datafolder.h"
 #include "filedialoguser.h"
+#include "system/ownfolder.h"
 #include "testfiles.h"
 #include "windowdriver.h"
 

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// Whether a program in this folder may keep its own files there.
+bool takesOwnFiles(const QString &folder);

@@ -1,0 +1,8 @@
+#include "system/ownfolder.h"
+
+#include <QFileInfo>
+
+bool takesOwnFiles(const QString &folder)
+{
+    return QFileInfo(folder).isWritable();
+}
