@@ -106,12 +106,12 @@ CommandFile readCommandFile(const QByteArray &bytes)
 
 QString commandFileText(const QVector<CommandRow> &rows)
 {
-    QString text = runLineOf(rows);
+    QString lines;
     for (const CommandRow &row : rows) {
         const QString line = commandLine(row);
         if (!line.isEmpty()) {
-            text += line + QLatin1Char('\n') + row.expectations.section(QLatin1Char('\n'), 1);
+            lines += line + QLatin1Char('\n') + row.expectations.section(QLatin1Char('\n'), 1);
         }
     }
-    return text;
+    return lines.isEmpty() ? lines : runLineOf(rows) + lines;
 }

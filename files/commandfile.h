@@ -58,5 +58,6 @@ struct CommandFile
 /// Reads the bytes of a command file; any bytes will do.
 CommandFile readCommandFile(const QByteArray &bytes);
 
-/// The lines that stand for the rows, each with its line end, without those of empty rows.
+/// The lines that stand for the rows, each with its line end, without those of empty rows. The line
+/// that makes expectations count comes first; without any row nothing stands behind it.
 QString commandFileText(const QVector<CommandRow> &rows);
