@@ -28,6 +28,9 @@ public:
     /// followed for 50 ms is given out as stray.
     void take(const QByteArray &chunk, ArrivalTime time = ArrivalTime::now());
 
+    /// Gives out what has come since the last silence as a frame, without waiting for the next one.
+    void endRun();
+
 signals:
     /// A whole frame, the time of the chunk that completed it, and of the one that it began in.
     void frameReceived(const QByteArray &frame, ArrivalTime time, ArrivalTime begun);
@@ -46,7 +49,6 @@ private:
     void takeIntoFrames(const QByteArray &chunk, ArrivalTime time);
     void giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time, const Waited &waited);
     void takeIntoRun(const QByteArray &chunk, ArrivalTime time);
-    void endRun();
 
     ReadStartBytes m_readStartBytes;
     FrameReassembler m_reassembler;

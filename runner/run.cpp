@@ -140,7 +140,7 @@ void Run::send()
     m_stage = Stage::Waiting;
     ++m_attempts;
     ++m_summary.sent;
-    m_trial->begin(m_wire.send(row().frame));
+    m_trial->begin(m_wire.send(row()));
     settle();
 }
 

@@ -30,14 +30,17 @@ void SessionWire::setFormat(const FrameLayout &layout, int gapMs)
     m_layout = layout;
     const bool hasEnds = layout.withStartBytes && layout.withLength;
     m_session.setHeaderText(headerText(layout.startBytes));
+    m_session.format().setStartBytes(layout.withStartBytes);
+    m_session.format().setLength(layout.withLength);
     m_session.format().setCrc(layout.withCrc);
     m_session.setFrameGap(hasEnds ? std::nullopt : std::optional(gapMs));
 }
 
-qint64 SessionWire::send(const QByteArray &frame)
+qint64 SessionWire::send(const PlannedRow &row)
 {
     m_sentNs = ArrivalTime::now().monotonicNs;
-    m_session.sender().tellFrame(m_session.sender().handOverBlock(frame));
+    const BlockPart part{row.frame.size(), row.number, row.description};
+    m_session.sender().tellFrame(m_session.sender().handOverBlock(row.frame, {part}));
     return m_sentNs;
 }
 

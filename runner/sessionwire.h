@@ -15,7 +15,7 @@ public:
     explicit SessionWire(Session &session, QObject *parent = nullptr);
 
     void setFormat(const FrameLayout &layout, int gapMs) override;
-    qint64 send(const QByteArray &frame) override;
+    qint64 send(const PlannedRow &row) override;
     bool isBehind() const override;
     bool isDrained() const override;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "expectations/receivedframe.h"
+#include "runner/runplan.h"
 
 #include <QObject>
 
@@ -16,8 +17,8 @@ public:
     /// start bytes or length.
     virtual void setFormat(const FrameLayout &layout, int gapMs) = 0;
 
-    /// Gives a frame to the system, and returns when that was.
-    virtual qint64 send(const QByteArray &frame) = 0;
+    /// Gives a row's frame to the system, and returns when that was.
+    virtual qint64 send(const PlannedRow &row) = 0;
 
     /// Whether something is still waiting to leave the program.
     virtual bool isBehind() const = 0;

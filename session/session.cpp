@@ -14,7 +14,7 @@ Session::Session(const QString &deviceIdFile, const QString &portsFolder, QObjec
     , m_devices(m_links.serial(), m_links.hid(), m_log, portsFolder, this)
     , m_receiver([this] { return m_receivedHeader.startBytes(); }, this)
     , m_sender(m_format, this)
-    , m_tap(m_links, m_sender, m_devices, m_format, this)
+    , m_tap(m_links, m_sender, m_receiver, m_devices, m_format, this)
     , m_loop(m_sender, this)
     , m_reopener(m_links.serial(), makeSystemClock(), this)
     , m_replies(m_sender, m_receiver, m_loop, this)
@@ -39,6 +39,12 @@ void Session::setHeaderText(const QString &text)
 {
     m_format.setHeaderText(text);
     m_receivedHeader.setText(text);
+}
+
+void Session::setFrameGap(std::optional<int> gapMs)
+{
+    m_receiver.setGap(gapMs);
+    m_tap.setEndedBySilence(gapMs.has_value());
 }
 
 void Session::endLink(LinkMode mode)

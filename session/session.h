@@ -41,7 +41,7 @@ public:
 
     /// From now on a run of bytes that so many ms of silence follow is a received frame. Nothing
     /// stands for frames that are found by their start bytes and length.
-    void setFrameGap(std::optional<int> gapMs) { m_receiver.setGap(gapMs); }
+    void setFrameGap(std::optional<int> gapMs);
 
     /// Stops the loop and closes the link.
     void endLink(LinkMode mode);

@@ -6,6 +6,7 @@
 #include "links/linkpair.h"
 #include "links/serial/serialline.h"
 #include "log/localtime.h"
+#include "log/receiver.h"
 #include "session/devicewatch.h"
 #include "session/framecrc.h"
 #include "session/frameformat.h"
@@ -26,20 +27,30 @@ QString localZone()
 
 } // namespace
 
-WireTap::WireTap(LinkPair &links, Sender &sender, DeviceWatch &devices, FrameFormat &format,
-                 QObject *parent)
+WireTap::WireTap(LinkPair &links, Sender &sender, Receiver &receiver, DeviceWatch &devices,
+                 FrameFormat &format, QObject *parent)
     : QObject(parent)
     , m_links(links)
+    , m_receiver(receiver)
     , m_format(format)
 {
     listenTo(links.serial(), LinkMode::Uart);
     listenTo(links.hid(), LinkMode::Hid);
     connect(&sender, &Sender::handedOver, this, &WireTap::takeBlock);
+    connect(&receiver, &Receiver::frameReceived, this, &WireTap::takeRun);
     connect(&links.hid(), &HidLink::dropped, this, [this](qint64 bytes) {
         tellNote(QStringLiteral("%1 bytes that came in were dropped").arg(bytes));
     });
     connect(&devices, &DeviceWatch::gone, this,
             [this] { m_reason = QStringLiteral("the device is gone"); });
+}
+
+void WireTap::setEndedBySilence(bool on)
+{
+    if (on != m_isEndedBySilence) {
+        tellWaiting();
+        m_isEndedBySilence = on;
+    }
 }
 
 void WireTap::start()
@@ -58,7 +69,9 @@ RecordingHead WireTap::head() const
 {
     RecordingHead head;
     head.time = ArrivalTime::now();
-    head.startBytes = bytesOf(m_format.startBytes());
+    const FrameLayout layout = m_format.nextFrameLayout();
+    head.startBytes =
+        m_isEndedBySilence && !layout.withStartBytes ? QByteArray() : bytesOf(layout.startBytes);
     head.withCrc = m_format.withCrc();
     head.zone = localZone();
     const bool isSerial = m_links.serial().isOpen();
@@ -102,15 +115,23 @@ void WireTap::takeBlock(const QByteArray &block, const QVector<BlockPart> &parts
 
 void WireTap::takeChunk(const QByteArray &chunk, ArrivalTime time)
 {
-    if (m_isOn) {
+    if (m_isOn && !m_isEndedBySilence) {
         m_lastArrival = time;
         tellPieces(m_reassembler.take(chunk, m_format.startBytes()), time);
     }
 }
 
+void WireTap::takeRun(const QByteArray &run, ArrivalTime time)
+{
+    if (m_isOn && m_isEndedBySilence) {
+        tellPieces({{ReceivedPiece::Kind::Frame, run}}, time);
+    }
+}
+
 void WireTap::tellPieces(const QVector<ReceivedPiece> &pieces, ArrivalTime time)
 {
-    const FrameLayout layout = receivedLayout(m_format.nextFrameLayout());
+    const FrameLayout sent = m_format.nextFrameLayout();
+    const FrameLayout layout = m_isEndedBySilence ? sent : receivedLayout(sent);
     for (const ReceivedPiece &piece : pieces) {
         const bool isFrame = piece.kind == ReceivedPiece::Kind::Frame;
         RecordEvent event;
@@ -150,7 +171,9 @@ void WireTap::tellNote(const QString &text)
 
 void WireTap::tellWaiting()
 {
-    if (m_isOn) {
+    if (m_isEndedBySilence) {
+        m_receiver.endRun();
+    } else if (m_isOn) {
         tellPieces(m_reassembler.giveUpAll(), m_lastArrival);
     }
 }

@@ -5,9 +5,9 @@ void FakeWire::setFormat(const FrameLayout & /*layout*/, int /*gapMs*/)
     ++formats;
 }
 
-qint64 FakeWire::send(const QByteArray &frame)
+qint64 FakeWire::send(const PlannedRow &row)
 {
-    sent.append(frame);
+    sent.append(row.frame);
     times.append(double(m_clock.now() - m_began) / double(nsPerMs));
     return m_clock.now();
 }

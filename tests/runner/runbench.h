@@ -19,7 +19,7 @@ public:
     {}
 
     void setFormat(const FrameLayout &layout, int gapMs) override;
-    qint64 send(const QByteArray &frame) override;
+    qint64 send(const PlannedRow &row) override;
     bool isBehind() const override { return behind; }
     bool isDrained() const override { return drained; }
 

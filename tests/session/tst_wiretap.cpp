@@ -17,6 +17,7 @@ private slots:
     void aLoopTellsItsRows();
     void framesAndStrayBytesAreTold();
     void theCrcIsChecked();
+    void silenceEndsFramesWhereNothingElseDoes();
     void everyByteComesWhateverTheLogDoes();
     void whatComesWhileAMessageIsShownIsTold();
     void openingAndClosingAreTold();
@@ -163,6 +164,31 @@ void TestWireTap::theCrcIsChecked()
     QCOMPARE(bench.events.at(1).crc, RecordEvent::Crc::Ok);
     QCOMPARE(bench.events.at(2).crc, RecordEvent::Crc::Bad);
     QCOMPARE(bench.events.at(3).crc, RecordEvent::Crc::None);
+}
+
+/// They are what the format says, in both directions.
+void TestWireTap::silenceEndsFramesWhereNothingElseDoes()
+{
+    TapBench bench;
+    bench.session.format().setStartBytes(false);
+    bench.session.format().setLength(false);
+    bench.session.format().setCrc(true);
+    bench.session.setFrameGap(5);
+    QVERIFY(bench.openPortUntold());
+    QCOMPARE(bench.session.tap().head().startBytes, QByteArray());
+    bench.session.sender().sendOne(CheckedRow{1, "010300000001", ""});
+    bench.port.send(QByteArray::fromHex("0103021234B533"));
+    QTRY_COMPARE(bench.told(), (QStringList{"0 010300000001840a 1", "1 0103021234b533"}));
+    QCOMPARE(bench.events.at(0).crc, RecordEvent::Crc::Ok);
+    QCOMPARE(bench.events.at(1).crc, RecordEvent::Crc::Ok);
+    // What no silence has ended is told when the recording ends.
+    bench.session.setFrameGap(60000);
+    QSignalSpy arrived(&bench.session.links().serial(), &Link::arrived);
+    bench.port.send("B");
+    QVERIFY(arrived.wait());
+    QCOMPARE(bench.events.size(), 2);
+    bench.session.tap().stop();
+    QCOMPARE(bench.told().value(2), QString("1 42"));
 }
 
 void TestWireTap::everyByteComesWhateverTheLogDoes()
