@@ -31,6 +31,7 @@ inline ExitCode exitCodeOf(RunEnd end, const RunSummary &summary, bool isWritten
         return ExitCode::Terminated;
     case RunEnd::Done:
     case RunEnd::FailedFast:
+    case RunEnd::OutputLost:
         break;
     }
     if (!isWritten) {

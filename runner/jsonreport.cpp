@@ -1,43 +1,18 @@
 #include "runner/jsonreport.h"
 
-#include "expectations/rowtrial.h"
+#include "recording/jsonlineswriter.h"
+#include "recording/utctext.h"
 
-#include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
 
-namespace {
+#include <utility>
 
-constexpr qint64 nsPerUs = 1000;
+namespace {
 
 QString hexOf(const QByteArray &bytes)
 {
     return QString::fromLatin1(bytes.toHex().toUpper());
-}
-
-QString eventWord(LogRecord::Kind kind)
-{
-    switch (kind) {
-    case LogRecord::Kind::Sent:
-        return QStringLiteral("tx");
-    case LogRecord::Kind::Received:
-        return QStringLiteral("rx");
-    case LogRecord::Kind::Stray:
-        return QStringLiteral("stray");
-    case LogRecord::Kind::Event:
-        break;
-    }
-    return QStringLiteral("notice");
-}
-
-/// With all six digits behind the second.
-QString utcText(qint64 us)
-{
-    constexpr qint64 usPerMs = 1000;
-    constexpr int digits = 3;
-    const QDateTime time = QDateTime::fromMSecsSinceEpoch(us / usPerMs, Qt::UTC);
-    return time.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz")) +
-           QStringLiteral("%1Z").arg(us % usPerMs, digits, 10, QLatin1Char('0'));
 }
 
 QJsonObject timesOf(const Durations &times)
@@ -79,41 +54,60 @@ QJsonObject jsonOf(const RowResult &result)
     return object;
 }
 
+JsonReport::JsonReport(std::function<RecordingHead()> head, std::function<ArrivalTime()> now)
+    : m_head(std::move(head))
+    , m_now(std::move(now))
+{}
+
+QByteArray JsonReport::opening()
+{
+    return JsonLinesWriter().head(m_head());
+}
+
 QByteArray JsonReport::file(const QString &name, int pass)
 {
     m_file = name;
-    return jsonLine({{"ev", "file"}, {"file", name}, {"pass", pass}});
+    return timed({{"ev", "file"}, {"file", name}, {"pass", pass}});
 }
 
-QByteArray JsonReport::traffic(const LogRecord &record)
+QByteArray JsonReport::event(const RecordEvent &event)
 {
-    QJsonObject object{{"t", utcText(record.utcUs)},
-                       {"mono_us", record.monotonicNs / nsPerUs},
-                       {"ev", eventWord(record.kind)}};
-    if (record.kind == LogRecord::Kind::Event) {
-        object.insert("text", record.text.english);
-    } else {
-        object.insert("bytes", hexOf(record.bytes));
-    }
-    return jsonLine(object);
+    m_tally.add(event);
+    QByteArray line;
+    JsonLinesWriter().append(line, event);
+    return line;
 }
 
 QByteArray JsonReport::row(const RowResult &result)
 {
     QJsonObject object = jsonOf(result);
     object.insert("file", m_file);
-    return jsonLine(object);
+    return timed(object);
 }
 
 QByteArray JsonReport::closing(const RunSummary &summary, RunEnd end)
 {
-    return jsonLine({{"ev", "summary"},
-                     {"rows", summary.rows},
-                     {"sent", summary.sent},
-                     {"replies", summary.replies},
-                     {"failures", summary.failures},
-                     {"reply_time", timesOf(summary.replyTimes)},
-                     {"lateness", timesOf(summary.lateness)},
-                     {"real_time", summary.isRealTime},
-                     {"end", endText(end)}});
+    const QByteArray line = timed({{"ev", "summary"},
+                                   {"rows", summary.rows},
+                                   {"sent", summary.sent},
+                                   {"replies", summary.replies},
+                                   {"failures", summary.failures},
+                                   {"reply_time", timesOf(summary.replyTimes)},
+                                   {"lateness", timesOf(summary.lateness)},
+                                   {"real_time", summary.isRealTime},
+                                   {"end", endText(end)}});
+    RecordingTail tail;
+    tail.time = m_now();
+    tail.file = m_tally.sums();
+    tail.recording = tail.file;
+    tail.reason = end == RunEnd::Done ? QStringLiteral("done") : endText(end);
+    return line + JsonLinesWriter().tail(tail);
+}
+
+QByteArray JsonReport::timed(QJsonObject object) const
+{
+    const ArrivalTime now = m_now();
+    object.insert("t", QString::fromLatin1(utcText(now.utcUs)));
+    object.insert("mono_us", now.monotonicNs / nsPerUs);
+    return jsonLine(object);
 }

@@ -14,6 +14,7 @@ PipeJob::PipeJob(const RunOptions &options)
     , m_clock(makeSystemClock())
     , m_opener(m_session, options.link)
     , m_lines(makeLineSource())
+    , m_recording(m_session, options.output.recordFile)
 {
     m_opener.setDeviceFormat(m_format.layout.startBytes, m_format.layout.withCrc);
     m_totalTime.setSingleShot(true);
@@ -22,14 +23,23 @@ PipeJob::PipeJob(const RunOptions &options)
         complain(why);
         finish(ExitCode::LinkNotOpened);
     });
-    connect(&m_opener, &LinkOpener::opened, this, [this] {
+    connect(&m_opener, &LinkOpener::opened, this, &PipeJob::begin);
+    connect(&m_recording, &RunRecording::failed, this, [this](const QString &why) {
+        complain(why);
+        finish(ExitCode::NotWritten);
+    });
+    connect(&m_recording, &RunRecording::began, this, [this] {
         m_isReady = true;
         takeNext();
     });
-    connect(&m_wire, &Wire::lost, this, [this](const QString &why) {
-        complain(why);
-        finish(ExitCode::LinkLost);
-    });
+    // The row on its way is told before.
+    connect(
+        &m_wire, &Wire::lost, this,
+        [this](const QString &why) {
+            complain(why);
+            finish(ExitCode::LinkLost);
+        },
+        Qt::QueuedConnection);
     connect(&m_wire, &Wire::frameArrived, this,
             [this](const ReceivedFrame &frame) { takeUncalled(frame.payload); });
     connect(&m_wire, &Wire::strayArrived, this, &PipeJob::takeUncalled);
@@ -42,11 +52,44 @@ PipeJob::PipeJob(const RunOptions &options)
 
 void PipeJob::start()
 {
+    if (!openJunit()) {
+        return;
+    }
     if (m_options.rules.totalTimeoutSeconds > 0) {
         constexpr int msPerSecond = 1000;
         m_totalTime.start(m_options.rules.totalTimeoutSeconds * msPerSecond);
     }
     m_opener.start();
+}
+
+/// Nothing is sent where the recording can't begin.
+void PipeJob::begin()
+{
+    m_wire.setFormat(m_format.layout, m_format.gapMs);
+    m_session.tap().start();
+    m_recording.start();
+}
+
+bool PipeJob::openJunit()
+{
+    const QString &path = m_options.output.junitFile;
+    if (path.isEmpty()) {
+        return true;
+    }
+    m_junit.emplace(path);
+    if (!m_junit->open()) {
+        complainOfJunit();
+        m_junit.reset();
+        finish(ExitCode::NotWritten);
+        return false;
+    }
+    m_junit->file(m_format.name, 1);
+    return true;
+}
+
+void PipeJob::complainOfJunit() const
+{
+    complain(QStringLiteral("%1: %2").arg(m_options.output.junitFile, m_junit->errorText()));
 }
 
 void PipeJob::end(RunEnd why)
@@ -126,7 +169,18 @@ void PipeJob::tell(const RowResult &result)
     if (!told.isGood()) {
         noteFailure();
     }
-    m_output.write(jsonLine(jsonOf(told)));
+    answer(told, jsonOf(told));
+}
+
+void PipeJob::answer(const RowResult &result, const QJsonObject &object)
+{
+    m_output.write(jsonLine(object));
+    if (m_junit) {
+        m_junit->row(result);
+    }
+    if (!m_output.isGood()) {
+        finish(m_code);
+    }
 }
 
 /// What comes while no row waits is checked where nothing but the expected may come.
@@ -152,13 +206,24 @@ void PipeJob::noteFailure()
 void PipeJob::tellFault(const QString &why)
 {
     m_code = ExitCode::WrongInput;
-    m_output.write(
-        jsonLine({{"ev", "verdict"}, {"row", m_count}, {"verdict", "error"}, {"why", why}}));
+    RowResult result;
+    result.number = m_count;
+    result.verdict = RowResult::Verdict::Failed;
+    result.why = why;
+    answer(result, {{"ev", "verdict"}, {"row", m_count}, {"verdict", "error"}, {"why", why}});
 }
 
 void PipeJob::finish(ExitCode code)
 {
-    if (!std::exchange(m_isFinished, true)) {
-        emit finished(code == ExitCode::Good && !m_output.isGood() ? ExitCode::NotWritten : code);
+    if (std::exchange(m_isFinished, true)) {
+        return;
     }
+    m_session.tap().stop();
+    bool isWritten = m_recording.finish() && m_output.isGood();
+    if (m_junit && !m_junit->finish(RunSummary(), RunEnd::Done)) {
+        complainOfJunit();
+        isWritten = false;
+    }
+    const bool isDone = code == ExitCode::Good || code == ExitCode::ExpectationFailed;
+    emit finished(isDone && !isWritten ? ExitCode::NotWritten : code);
 }

@@ -2,17 +2,21 @@
 
 #include "frames/alarmclock.h"
 #include "runner/exitcode.h"
+#include "runner/junitfile.h"
 #include "runner/linesource.h"
 #include "runner/linkopener.h"
 #include "runner/output.h"
 #include "runner/run.h"
+#include "runner/runrecording.h"
 #include "runner/sessionwire.h"
 #include "session/session.h"
 
+#include <QJsonObject>
 #include <QTimer>
 
 #include <deque>
 #include <memory>
+#include <optional>
 
 /// Answers rows that come one a line with a JSON object each, until there are no more.
 class PipeJob : public QObject
@@ -29,6 +33,10 @@ signals:
     void finished(ExitCode code);
 
 private:
+    void begin();
+    bool openJunit();
+    void complainOfJunit() const;
+    void answer(const RowResult &result, const QJsonObject &object);
     void takeLine(const QByteArray &line);
     void takeNext();
     void takeAfterRun();
@@ -57,6 +65,8 @@ private:
     int m_count = 0;
     ExitCode m_code = ExitCode::Good;
     Output m_output;
+    RunRecording m_recording;
+    std::optional<JunitFile> m_junit;
     QTimer m_totalTime;
     bool m_isFinished = false;
 };

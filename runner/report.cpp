@@ -5,6 +5,8 @@ QString endText(RunEnd end)
     switch (end) {
     case RunEnd::FailedFast:
         return QStringLiteral("ended at the first failure");
+    case RunEnd::OutputLost:
+        return QStringLiteral("nobody reads the output");
     case RunEnd::LinkLost:
         return QStringLiteral("the link was lost");
     case RunEnd::TimedOut:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "log/logrecord.h"
+#include "recording/recordevent.h"
 #include "runner/rowresult.h"
 #include "runner/runsummary.h"
 
@@ -20,8 +21,11 @@ public:
     /// The rows of that file follow.
     virtual QByteArray file(const QString & /*name*/, int /*pass*/) { return {}; }
 
-    /// What went over the wire, and what happened to the link.
+    /// What went over the wire, and what happened to the link, as a log takes it.
     virtual QByteArray traffic(const LogRecord & /*record*/) { return {}; }
+
+    /// The same as a recording takes it.
+    virtual QByteArray event(const RecordEvent & /*event*/) { return {}; }
 
     virtual QByteArray row(const RowResult &result) = 0;
 

@@ -16,4 +16,4 @@ struct RunSummary
 };
 
 /// Why a run ended.
-enum class RunEnd { Done, FailedFast, LinkLost, TimedOut, Interrupted, Terminated };
+enum class RunEnd { Done, FailedFast, OutputLost, LinkLost, TimedOut, Interrupted, Terminated };

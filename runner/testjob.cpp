@@ -47,6 +47,7 @@ TestJob::TestJob(const RunOptions &options, const RunPlan &plan)
     , m_opener(m_session, options.link)
     , m_run(plan, m_wire, *m_clock)
     , m_report(makeReport())
+    , m_recording(m_session, options.output.recordFile)
     , m_progress(isProgressWanted(options.output))
 {
     const FrameLayout &layout = plan.files.first().layout;
@@ -70,6 +71,14 @@ TestJob::TestJob(const RunOptions &options, const RunPlan &plan)
             m_output.write(m_report->traffic(record));
         }
     });
+    connect(&m_session.tap(), &WireTap::happened, this, [this](const RecordEvent &event) {
+        if (m_hasBegun && !m_isFinished) {
+            m_output.write(m_report->event(event));
+        }
+    });
+    connect(&m_recording, &RunRecording::began, this, &TestJob::beginRows);
+    connect(&m_recording, &RunRecording::failed, this,
+            [this](const QString &why) { fail(ExitCode::NotWritten, why); });
 }
 
 void TestJob::start()
@@ -89,59 +98,19 @@ void TestJob::end(RunEnd why)
     m_run.end(why);
 }
 
+/// Nothing is sent where the recording can't begin.
 void TestJob::begin()
 {
-    if (m_options.output.recordFile.isEmpty()) {
-        beginRows();
-    } else {
-        record();
-    }
-}
-
-void TestJob::record()
-{
-    const FrameLayout &layout = m_plan.files.first().layout;
-    m_wire.setFormat(layout, m_plan.files.first().gapMs);
-    RecordingPlan recording;
-    recording.path = m_options.output.recordFile;
-    recording.head = m_session.tap().head();
-    recording.head.version = QStringLiteral(TARNWICK_VERSION);
-    connect(&m_session.tap(), &WireTap::happened, &m_recorder, &Recorder::record);
-    connect(&m_recorder, &Recorder::changed, this, &TestJob::noteRecording);
+    m_wire.setFormat(m_plan.files.first().layout, m_plan.files.first().gapMs);
     m_session.tap().start();
-    m_recorder.start(recording);
-}
-
-/// Nothing is sent where the recording can't begin.
-void TestJob::noteRecording()
-{
-    if (m_hasBegun || m_isFinished) {
-        return;
-    }
-    const RecordingStatus &status = m_recorder.status();
-    if (!status.error.isEmpty()) {
-        fail(ExitCode::NotWritten, status.error);
-    } else if (status.isRunning) {
-        beginRows();
-    }
-}
-
-bool TestJob::endRecording()
-{
-    if (m_options.output.recordFile.isEmpty()) {
-        return true;
-    }
-    m_session.tap().stop();
-    const bool isClosed = m_recorder.finish();
-    const RecordingStatus &status = m_recorder.status();
-    if (!status.error.isEmpty()) {
-        complain(status.error);
-    }
-    return isClosed && status.error.isEmpty() && status.droppedEvents == 0;
+    m_recording.start();
 }
 
 void TestJob::beginRows()
 {
+    if (m_isFinished) {
+        return;
+    }
     m_hasBegun = true;
     m_output.write(m_report->opening());
     if (m_plan.keepsIntervals()) {
@@ -159,19 +128,24 @@ void TestJob::tellRow(const RowResult &result)
         m_junit->row(result);
     }
     m_progress.show(m_run.summary().rows, m_clock->now());
+    if (!m_output.isGood()) {
+        m_run.end(RunEnd::OutputLost);
+    }
 }
 
 void TestJob::finish(RunEnd why)
 {
-    if (std::exchange(m_isFinished, true)) {
+    if (m_isFinished) {
         return;
     }
+    m_session.tap().stop();
+    m_isFinished = true;
     m_realTime.reset();
     RunSummary summary = m_run.summary();
     summary.isRealTime = m_wasRealTime;
     m_progress.clear();
     m_output.write(m_report->closing(summary, why));
-    bool isWritten = endRecording() && m_output.isGood();
+    bool isWritten = m_recording.finish() && m_output.isGood();
     if (m_junit && !m_junit->finish(summary, why)) {
         complain(QStringLiteral("%1: %2").arg(m_options.output.junitFile, m_junit->errorText()));
         isWritten = false;
@@ -181,9 +155,10 @@ void TestJob::finish(RunEnd why)
 
 void TestJob::fail(ExitCode code, const QString &why)
 {
-    m_isFinished = true;
     complain(why);
-    emit finished(code);
+    if (!std::exchange(m_isFinished, true)) {
+        emit finished(code);
+    }
 }
 
 std::unique_ptr<Report> TestJob::makeReport() const
@@ -192,7 +167,8 @@ std::unique_ptr<Report> TestJob::makeReport() const
     case OutputOptions::Format::Tap:
         return std::make_unique<TapReport>();
     case OutputOptions::Format::JsonLines:
-        return std::make_unique<JsonReport>();
+        return std::make_unique<JsonReport>([this] { return m_recording.head(); },
+                                            &ArrivalTime::now);
     case OutputOptions::Format::Text:
         break;
     }

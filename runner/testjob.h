@@ -1,13 +1,13 @@
 #pragma once
 
 #include "frames/alarmclock.h"
-#include "recording/recorder.h"
 #include "runner/exitcode.h"
 #include "runner/junitfile.h"
 #include "runner/linkopener.h"
 #include "runner/output.h"
 #include "runner/progress.h"
 #include "runner/run.h"
+#include "runner/runrecording.h"
 #include "runner/sessionwire.h"
 #include "session/session.h"
 #include "system/realtime.h"
@@ -37,10 +37,7 @@ signals:
 
 private:
     void begin();
-    void record();
-    void noteRecording();
     void beginRows();
-    bool endRecording();
     void finish(RunEnd why);
     void fail(ExitCode code, const QString &why);
     void tellRow(const RowResult &result);
@@ -57,7 +54,7 @@ private:
     Output m_output;
     std::unique_ptr<Report> m_report;
     std::optional<JunitFile> m_junit;
-    Recorder m_recorder;
+    RunRecording m_recording;
     std::optional<RealTime> m_realTime;
     bool m_wasRealTime = false;
     Progress m_progress;

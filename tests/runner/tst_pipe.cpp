@@ -18,6 +18,9 @@ private slots:
     void aLineThatIsNoRow();
     void aRowWithoutAnAnswer();
     void theLastLineNeedsNoEnd();
+    void rowsAreRecordedAndReported();
+    void aReportThatCannotBeWritten_data();
+    void aReportThatCannotBeWritten();
     void theLinkIsNeeded();
     void theLinkIsLost();
     void whatComesBetweenRowsFailsWhereItIsStrict_data();
@@ -99,6 +102,40 @@ void TestPipe::theLastLineNeedsNoEnd()
 {
     const Ran result = ran({"--sim", "--pipe"}, "Echo,42 0000 01");
     QCOMPARE(result.out.count('\n'), 1);
+}
+
+void TestPipe::rowsAreRecordedAndReported()
+{
+    const ListFolder folder;
+    const Ran result = ran(
+        {"--sim", "--pipe", "--record", folder.path("r.jsonl"), "--junit", folder.path("r.xml")},
+        "Echo,42 0000 01 //? 42 **\nEcho,42 0000 02 //? 43\nnonsense\n");
+    QCOMPARE(result.code, 2);
+    const QByteArray recording = folder.content("r.jsonl");
+    QVERIFY2(recording.contains(R"("bytes":"5AA50442000002","crc":"none","row":2,"desc":"Echo")"),
+             recording);
+    QVERIFY2(recording.contains(R"("ev":"end")"), recording);
+    const QByteArray report = folder.content("r.xml");
+    QVERIFY2(report.contains(R"(tests="3" failures="2" errors="0")"), report);
+    QVERIFY2(report.contains(R"(name="001 Echo")"), report);
+}
+
+void TestPipe::aReportThatCannotBeWritten_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("junit") << "--junit";
+    QTest::newRow("record") << "--record";
+}
+
+void TestPipe::aReportThatCannotBeWritten()
+{
+    QFETCH(QString, option);
+    const ListFolder folder;
+    const Ran result =
+        ran({"--sim", "--pipe", option, folder.path("missing/r.jsonl")}, "Echo,42 0000 01\n");
+    QCOMPARE(result.code, 6);
+    QVERIFY2(result.error.contains("missing/r.jsonl: No such file"), result.error);
+    QCOMPARE(result.out, QByteArray());
 }
 
 void TestPipe::theLinkIsNeeded()

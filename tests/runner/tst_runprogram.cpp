@@ -1,5 +1,6 @@
 #include "ranprogram.h"
 #include "runningdevice.h"
+#include "testport.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -22,6 +23,10 @@ private slots:
     void junitFitsTheSchema();
     void tapIsReadByProve();
     void recordsAndConverts();
+    void aRecordingKnowsRowsAndFormat();
+    void aRecordingTellsItsName();
+    void jsonLinesAreARecordingWithVerdicts();
+    void whoReadsNoMoreEndsTheRun();
     void colours();
     void nothingGrowsInALongRun();
 };
@@ -187,6 +192,63 @@ void TestRunProgram::recordsAndConverts()
     QCOMPARE(ran({"--convert", recording, folder.path("missing/x.csv")}).code, 6);
     QCOMPARE(ran({"--sim", "--record", folder.path("missing/r.jsonl"), folder.file(mixed)}).code,
              6);
+}
+
+void TestRunProgram::aRecordingKnowsRowsAndFormat()
+{
+    const TestPort device;
+    const ListFolder folder;
+    QProcess process;
+    process.start(TARNWICK_RUN, {"--port", device.path(), "--no-start", "--no-length", "--crc",
+                                 "--record", folder.path("r.jsonl"), "-t", "10000", "-"});
+    process.write("//@ tarnwick-run 1\nRead,select,01 0300 00 00 01\n//? 01 03 02 12 34\n");
+    process.closeWriteChannel();
+    QTRY_VERIFY(QFile::exists(folder.path("r.jsonl")) && process.state() == QProcess::Running);
+    device.send(QByteArray::fromHex("0103021234B533"));
+    endOf(process);
+    const QByteArray text = folder.content("r.jsonl");
+    QVERIFY2(text.contains(R"("start":"","crc":true)"), text);
+    QVERIFY2(text.contains(R"("bytes":"010300000001840A","crc":"ok","row":1,"desc":"Read")"), text);
+    QVERIFY2(text.contains(R"("ev":"rx","bytes":"0103021234B533","crc":"ok")"), text);
+}
+
+void TestRunProgram::aRecordingTellsItsName()
+{
+    const ListFolder folder;
+    const QString list = folder.file(mixed);
+    const QString recording = folder.file("mine", "r.jsonl");
+    const Ran another = ran({"--sim", "--record", recording, list});
+    QCOMPARE(another.error,
+             "tarnwick-run: Recording to " + folder.path("r-002.jsonl").toUtf8() + ".\n");
+    QCOMPARE(folder.content("r.jsonl"), QByteArray("mine"));
+    const QString missing = folder.path("missing/r.jsonl");
+    const Ran failed = ran({"--sim", "--record", missing, list});
+    QCOMPARE(failed.code, 6);
+    QVERIFY2(failed.error.contains(missing.toUtf8() + ": No such file"), failed.error);
+}
+
+void TestRunProgram::jsonLinesAreARecordingWithVerdicts()
+{
+    const ListFolder folder;
+    QList<QByteArray> lines =
+        ran({"--sim", "--format", "jsonl", folder.file(mixed)}).out.trimmed().split('\n');
+    QVERIFY2(lines.first().contains(R"("ev":"begin","format":"tarnwick-recording-1")"),
+             lines.first());
+    QVERIFY2(lines.last().contains(R"("ev":"end","reason":"done")"), lines.last());
+    QVERIFY2(lines.at(2).endsWith(R"("bytes":"5AA50442000001","crc":"none","row":1,)"
+                                  R"("desc":"Echo <&> \"it\""})"),
+             lines.at(2));
+    QVERIFY2(lines.at(4).contains(R"("verdict":"pass")"), lines.at(4));
+}
+
+void TestRunProgram::whoReadsNoMoreEndsTheRun()
+{
+    const ListFolder folder;
+    const Ran result =
+        ranOther("bash", {"-c", "\"$@\" | head -n 2; exit ${PIPESTATUS[0]}", "bash", TARNWICK_RUN,
+                          "--sim", "-n", "forever", "--interval", "1", folder.file(mixed)});
+    QCOMPARE(result.code, 6);
+    QCOMPARE(result.out.count('\n'), 2);
 }
 
 void TestRunProgram::colours()

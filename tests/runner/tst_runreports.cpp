@@ -180,20 +180,26 @@ void TestRunReports::tapOfARunThatWasCutShort()
 
 void TestRunReports::jsonLines()
 {
-    JsonReport report;
-    LogRecord record;
-    record.kind = LogRecord::Kind::Sent;
-    record.utcUs = 1'700'000'000'123'456;
-    record.monotonicNs = 5'000;
-    record.bytes = QByteArray::fromHex("5AA50103");
+    RecordingHead head;
+    head.startBytes = QByteArray::fromHex("5AA5");
+    JsonReport report([head] { return head; },
+                      [] {
+                          return ArrivalTime{1'700'000'001'000'000, 7'000};
+                      });
     const auto object = [](const QByteArray &line) {
         return line.count('\n') == 1 ? QJsonDocument::fromJson(line).object() : QJsonObject();
     };
-    const QJsonObject sent = object(report.traffic(record));
-    QCOMPARE(sent.value("ev").toString(), QString("tx"));
-    QCOMPARE(sent.value("bytes").toString(), QString("5AA50103"));
-    QCOMPARE(sent.value("t").toString(), QString("2023-11-14T22:13:20.123456Z"));
-    QCOMPARE(sent.value("mono_us").toInt(), 5);
+    QCOMPARE(object(report.opening()).value("start").toString(), QString("5AA5"));
+    RecordEvent event;
+    event.kind = RecordEvent::Kind::Sent;
+    event.time = {1'700'000'000'123'456, 5'000};
+    event.bytes = QByteArray::fromHex("5AA50103");
+    event.crc = RecordEvent::Crc::Ok;
+    event.row = 3;
+    QCOMPARE(report.event(event),
+             QByteArray(R"({"t":"2023-11-14T22:13:20.123456Z","mono_us":5,"ev":"tx",)"
+                        R"("bytes":"5AA50103","crc":"ok","row":3})"
+                        "\n"));
 
     QCOMPARE(object(report.file("list.txt", 2)).value("pass").toInt(), 2);
     const QJsonObject verdict = object(report.row(bad));
@@ -203,11 +209,17 @@ void TestRunReports::jsonLines()
     QCOMPARE(verdict.value("desc").toString(), QString("Set #1 \\ 2"));
     QCOMPARE(verdict.value("why").toString(), QString("expected 03, got 'x'"));
     QCOMPARE(verdict.value("reply_us").toDouble(), 1000.0);
+    QCOMPARE(verdict.value("t").toString(), QString("2023-11-14T22:13:21.000000Z"));
+    QCOMPARE(verdict.value("mono_us").toInt(), 7);
     QVERIFY(!object(report.row(plain)).contains("reply_us"));
     QCOMPARE(object(report.row(plain)).value("verdict").toString(), QString("sent"));
     QCOMPARE(object(report.row(gone)).value("verdict").toString(), QString("lost"));
-    QCOMPARE(object(report.closing(RunSummary(), RunEnd::LinkLost)).value("end").toString(),
-             QString("the link was lost"));
+    const QList<QByteArray> closing = report.closing(RunSummary(), RunEnd::LinkLost).split('\n');
+    QCOMPARE(closing.size(), 3);
+    QCOMPARE(object(closing.at(0) + '\n').value("end").toString(), QString("the link was lost"));
+    const QJsonObject end = object(closing.at(1) + '\n');
+    QCOMPARE(end.value("ev").toString(), QString("end"));
+    QCOMPARE(end.value("file").toObject().value("tx").toObject().value("bytes").toInt(), 4);
 }
 
 void TestRunReports::junit()
