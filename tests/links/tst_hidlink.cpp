@@ -1,24 +1,19 @@
-#include "fakehid.h"
-#include "knowntypes.h"
+#include "attachedhid.h"
 #include "links/hid/hidlink.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <algorithm>
-#include <iterator>
-
 using Function = HidCall::Function;
 
 namespace {
 
-const char smallPath[] = R"(\\?\hid#vid_eeef&pid_1616#6&1&0&0000)";
-const char largePath[] = R"(\\?\hid#vid_eeef&pid_2929#6&2&0&0000)";
 const char barePath[] = "/dev/hidraw-bare";
 
 } // namespace
 
+/// Listing devices, opening one and writing to it.
 class TestHidLink : public QObject
 {
     Q_OBJECT
@@ -40,15 +35,6 @@ private slots:
     void writingWhileClosed();
     void reportsThatWaitAreUnsent();
     void closingStopsFirst();
-    void received();
-    void packetsFromElsewhere_data();
-    void packetsFromElsewhere();
-    void aBusyHandlerLosesNothing();
-    void closingHandsUpWhatHasArrived();
-    void disconnectionIsSignalledOnce();
-    void nothingOldAfterReopening();
-    void closingFromTheSignal();
-    void reopeningUnderLoad();
 
 private:
     void replaceFile(const QByteArray &content);
@@ -60,10 +46,7 @@ private:
 
 void TestHidLink::init()
 {
-    m_fake.reset();
-    m_fake.addDevice(smallPath, small.vendor, small.product);
-    m_fake.addDevice("/dev/keyboard", 0x1234, 0x0001);
-    m_fake.addDevice(largePath, large.vendor, large.product);
+    attachDevices(m_fake);
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = m_folder->filePath("hidDeviceID.ini");
 }
@@ -264,154 +247,6 @@ void TestHidLink::closingStopsFirst()
     QVERIFY(!link.isOpen());
     QCOMPARE(m_fake.calls().last().function, Function::Close);
     QCOMPARE(m_fake.count(Function::Close), 1);
-}
-
-void TestHidLink::received()
-{
-    HidLink link(m_file);
-    QSignalSpy spy(&link, &HidLink::arrived);
-    QVERIFY(link.open(smallPath, 9));
-    m_fake.sendReport("answer");
-    m_fake.sendReport("another");
-    QTRY_COMPARE(spy.size(), 2);
-    QCOMPARE(spy.at(0).at(0).toByteArray(), QByteArray("answer"));
-    QCOMPARE(spy.at(1).at(0).toByteArray(), QByteArray("another"));
-}
-
-void TestHidLink::packetsFromElsewhere_data()
-{
-    QTest::addColumn<int>("length");
-    QTest::addColumn<int>("bytes");
-
-    QTest::newRow("usual") << 3 << 3;
-    QTest::newRow("all there is") << longestReport << longestReport;
-    QTest::newRow("more than there is") << longestReport + 1 << longestReport;
-}
-
-void TestHidLink::packetsFromElsewhere()
-{
-    QFETCH(int, length);
-    QFETCH(int, bytes);
-    HidLink link(m_file);
-    QSignalSpy spy(&link, &HidLink::arrived);
-    HidPacket nothing;
-    nothing.length = -1;
-    link.receive(nothing);
-    HidPacket packet;
-    packet.data[0] = 'i';
-    std::fill(packet.data + 1, std::end(packet.data), 'd');
-    packet.length = length;
-    link.receive(packet);
-    QCOMPARE(spy.size(), 0);
-    QVERIFY(spy.wait());
-    QCOMPARE(spy.at(0).at(0).toByteArray(), QByteArray(bytes, 'd'));
-}
-
-void TestHidLink::aBusyHandlerLosesNothing()
-{
-    constexpr int reports = 20;
-    m_fake.readWithoutWaiting();
-    HidLink link(m_file);
-    QStringList heard;
-    int heardWhileBusy = 0;
-    connect(&link, &HidLink::arrived, this, [&](const QByteArray &report) {
-        heard.append(report);
-        if (heard.size() == 1) {
-            QTRY_COMPARE(m_fake.waitingReports(), 0);
-            QTest::qWait(20);
-            heardWhileBusy = heard.size();
-        }
-    });
-    QStringList sent;
-    for (int i = 0; i < reports; ++i) {
-        sent.append(QString::number(i));
-        m_fake.sendReport(sent.constLast().toLatin1());
-    }
-    QVERIFY(link.open(smallPath, 0));
-    QTRY_COMPARE(heard, sent);
-    QCOMPARE(heardWhileBusy, 1);
-}
-
-void TestHidLink::closingHandsUpWhatHasArrived()
-{
-    HidLink link(m_file);
-    QSignalSpy spy(&link, &HidLink::arrived);
-    QVERIFY(link.open(smallPath, 0));
-    HidPacket packet;
-    packet.length = 1;
-    link.receive(packet);
-    link.close();
-    QCOMPARE(spy.size(), 1);
-    link.receive(packet);
-    QVERIFY(link.open(largePath, 0));
-    QCOMPARE(spy.size(), 2);
-}
-
-void TestHidLink::disconnectionIsSignalledOnce()
-{
-    HidLink link(m_file);
-    QSignalSpy spy(&link, &HidLink::lost);
-    QVERIFY(link.open(smallPath, 0));
-    m_fake.failWrites();
-    link.write(QByteArray(640, 'x'));
-    QTRY_COMPARE(spy.size(), 1);
-    QVERIFY(link.isOpen());
-    link.close();
-    QVERIFY(!link.isOpen());
-    QCoreApplication::processEvents();
-    QCOMPARE(spy.size(), 1);
-    QCOMPARE(m_fake.written().size(), 1);
-}
-
-/// What the old device sent last must neither end the next connection nor be shown there.
-void TestHidLink::nothingOldAfterReopening()
-{
-    HidLink link(m_file);
-    QSignalSpy disconnections(&link, &HidLink::lost);
-    QSignalSpy packets(&link, &HidLink::arrived);
-    QVERIFY(link.open(smallPath, 0));
-    m_fake.sendReport("old");
-    m_fake.failWrites(1);
-    link.write(QByteArray(128, 'x'));
-    // Without running the event loop, so that the signals are still on their way.
-    while (m_fake.written().size() < 2) {
-        QThread::yieldCurrentThread();
-    }
-    QVERIFY(link.open(largePath, 0));
-    const int read = m_fake.count(Function::Read);
-    QTRY_VERIFY(m_fake.count(Function::Read) > read);
-    QCOMPARE(disconnections.size(), 0);
-    QCOMPARE(packets.size(), 0);
-    QVERIFY(link.isOpen());
-}
-
-void TestHidLink::closingFromTheSignal()
-{
-    HidLink link(m_file);
-    connect(&link, &HidLink::lost, &link, &HidLink::close);
-    QVERIFY(link.open(smallPath, 0));
-    m_fake.failWrites();
-    link.write("x");
-    QTRY_VERIFY(!link.isOpen());
-    QCOMPARE(m_fake.count(Function::Close), 1);
-}
-
-void TestHidLink::reopeningUnderLoad()
-{
-    m_fake.readWithoutWaiting();
-    HidLink link(m_file);
-    int packets = 0;
-    connect(&link, &HidLink::arrived, this, [&packets] { ++packets; });
-    for (int round = 0; round < 50; ++round) {
-        QVERIFY(link.open(round % 2 == 0 ? smallPath : largePath, quint8(round)));
-        link.write(QByteArray(10'000, 'x'));
-        m_fake.sendReport(QByteArray(64, 'y'));
-        const int before = packets;
-        QTRY_VERIFY(packets > before);
-        if (round % 3 == 0) {
-            link.close();
-        }
-    }
 }
 
 QTEST_GUILESS_MAIN(TestHidLink)

@@ -1,5 +1,4 @@
-#include "fakehid.h"
-#include "knowntypes.h"
+#include "attachedhid.h"
 #include "links/hid/hiddevices.h"
 
 #include <QtTest>
@@ -28,9 +27,6 @@ private:
 
 namespace {
 
-const char listedSmallPath[] = R"(\\?\hid#vid_eeef&pid_1616#6&1&0&0000)";
-const char listedLargePath[] = R"(\\?\hid#vid_eeef&pid_2929#6&2&0&0000)";
-
 QStringList paths(const QVector<HidDevice> &devices)
 {
     QStringList list;
@@ -44,10 +40,7 @@ QStringList paths(const QVector<HidDevice> &devices)
 
 void TestHidListing::init()
 {
-    m_fake.reset();
-    m_fake.addDevice(listedSmallPath, small.vendor, small.product);
-    m_fake.addDevice("/dev/keyboard", 0x1234, 0x0001);
-    m_fake.addDevice(listedLargePath, large.vendor, large.product);
+    attachDevices(m_fake);
 }
 
 void TestHidListing::cleanup()
@@ -59,7 +52,7 @@ void TestHidListing::listsInOrderOfTheTypes()
 {
     m_fake.addDevice("/dev/hidraw-bare", small.vendor, small.product);
     const QVector<HidDevice> devices = attachedHidDevices({large, small});
-    QCOMPARE(paths(devices), QStringList({listedLargePath, listedSmallPath, "/dev/hidraw-bare"}));
+    QCOMPARE(paths(devices), QStringList({largePath, smallPath, "/dev/hidraw-bare"}));
     QVERIFY(devices.at(2).ids == small);
 
     const QVector<HidCall> calls = m_fake.calls(Function::Enumerate);
@@ -72,22 +65,20 @@ void TestHidListing::listsInOrderOfTheTypes()
 
 void TestHidListing::typeListedTwice()
 {
-    const QStringList expected{listedSmallPath, listedLargePath, listedSmallPath};
+    const QStringList expected{smallPath, largePath, smallPath};
     QCOMPARE(paths(attachedHidDevices({small, large, small})), expected);
 }
 
 void TestHidListing::deviceListedTwiceBySystem()
 {
-    m_fake.addDevice(listedSmallPath, small.vendor, small.product);
-    QCOMPARE(paths(attachedHidDevices({small})), QStringList({listedSmallPath, listedSmallPath}));
+    m_fake.addDevice(smallPath, small.vendor, small.product);
+    QCOMPARE(paths(attachedHidDevices({small})), QStringList({smallPath, smallPath}));
 }
 
 void TestHidListing::typeWithoutIds()
 {
-    QCOMPARE(paths(attachedHidDevices({{}})),
-             QStringList({listedSmallPath, "/dev/keyboard", listedLargePath}));
-    QCOMPARE(paths(attachedHidDevices({{0xEEEF, 0}})),
-             QStringList({listedSmallPath, listedLargePath}));
+    QCOMPARE(paths(attachedHidDevices({{}})), QStringList({smallPath, "/dev/keyboard", largePath}));
+    QCOMPARE(paths(attachedHidDevices({{0xEEEF, 0}})), QStringList({smallPath, largePath}));
 }
 
 void TestHidListing::manyTypes()
@@ -97,7 +88,7 @@ void TestHidListing::manyTypes()
         wanted.append({quint16(0xE000 + i / 50'000), quint16(i % 50'000)});
     }
     wanted += {large, small, {0, 0x0001}, large};
-    const QStringList expected{listedLargePath, listedSmallPath, "/dev/keyboard", listedLargePath};
+    const QStringList expected{largePath, smallPath, "/dev/keyboard", largePath};
     QCOMPARE(paths(attachedHidDevices(wanted)), expected);
     QCOMPARE(m_fake.count(Function::Enumerate), 1);
 }
