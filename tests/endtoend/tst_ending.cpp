@@ -1,8 +1,8 @@
 #include "files/commandfile.h"
 #include "testfiles.h"
+#include "typedprogram.h"
 
 #include <QFileInfo>
-#include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -33,34 +33,11 @@ private:
 
 namespace {
 
-/// The program in a folder of its own, and what the typist does there: "text" or "text|button".
-class Program : public QProcess
+/// The program, which can be ended from outside.
+class Program : public TypedProgram
 {
 public:
-    explicit Program(const QString &folder, const QString &typing)
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("QT_PLUGIN_PATH", TYPIST_PLUGINS);
-        environment.insert("QT_QPA_GENERIC_PLUGINS", "typist:" + typing);
-        setProcessEnvironment(environment);
-        setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        setProgram(folder + "/tarnwick");
-    }
-
-    ~Program() override
-    {
-        kill();
-        waitForFinished();
-    }
-
-    bool startAndType()
-    {
-        start();
-        return waitForLine("done\n");
-    }
-
-    /// What the status line said first.
-    QByteArray status() const { return m_output.mid(m_output.indexOf("status: ")); }
+    using TypedProgram::TypedProgram;
 
     void signal(int number) { ::kill(static_cast<pid_t>(processId()), number); }
 
@@ -73,20 +50,6 @@ public:
 
 protected:
     void setupChildProcess() override { std::signal(SIGHUP, ignoresHangUp ? SIG_IGN : SIG_DFL); }
-
-private:
-    bool waitForLine(const QByteArray &line)
-    {
-        while (!m_output.endsWith(line)) {
-            if (!waitForReadyRead()) {
-                return false;
-            }
-            m_output += readAllStandardOutput();
-        }
-        return true;
-    }
-
-    QByteArray m_output;
 };
 
 } // namespace
@@ -94,7 +57,6 @@ private:
 void TestEnding::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(QFile::copy(TARNWICK_PROGRAM, path("tarnwick")));
 }
 
 QString TestEnding::keptText() const
@@ -147,14 +109,14 @@ void TestEnding::anEditedListOutlivesAKill()
 {
     Program program(m_folder->path(), "edited");
     QVERIFY(program.startAndType());
-    QVERIFY(!program.status().contains("not saved"));
+    QVERIFY(!program.text("status").contains("not saved"));
     QTRY_COMPARE(keptText(), QString("edited"));
     program.signal(SIGKILL);
     QVERIFY(program.waitForFinished());
 
     Program next(m_folder->path(), {});
     QVERIFY(next.startAndType());
-    QVERIFY(next.status().contains("not saved"));
+    QVERIFY(next.text("status").contains("not saved"));
     next.signal(SIGTERM);
     QVERIFY(next.endsInGoodOrder());
     QCOMPARE(keptText(), QString("edited"));

@@ -1,6 +1,5 @@
-#include "testfiles.h"
+#include "typedprogram.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -39,26 +38,17 @@ void TestLanguage::theSystemsLanguageIsSpoken()
 {
     QFETCH(QStringList, locale);
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(TARNWICK_PROGRAM, folder.filePath("tarnwick")));
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    TypedProgram program(folder.path(), {});
     for (const char *name : {"LANG", "LANGUAGE", "LC_ALL", "LC_MESSAGES"}) {
-        environment.remove(name);
+        program.removeVariable(name);
     }
     for (const QString &entry : locale) {
-        environment.insert(entry.section('=', 0, 0), entry.section('=', 1));
+        program.setVariable(entry.section('=', 0, 0), entry.section('=', 1));
     }
-    environment.insert("QT_PLUGIN_PATH", TYPIST_PLUGINS);
-    environment.insert("QT_QPA_GENERIC_PLUGINS", "typist:");
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.start(folder.filePath("tarnwick"), QStringList());
-    QByteArray told;
-    while (!told.endsWith("done\n") && program.waitForReadyRead()) {
-        told += program.readAllStandardOutput();
-    }
+    QVERIFY(program.startAndType());
     program.terminate();
     QVERIFY(program.waitForFinished());
-    QTEST(told.left(told.indexOf('\n')).mid(told.indexOf(' ') + 1), "caption");
+    QTEST(program.text("loop"), "caption");
 }
 
 QTEST_GUILESS_MAIN(TestLanguage)

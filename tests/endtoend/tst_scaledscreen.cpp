@@ -1,8 +1,7 @@
 #include "app/windowplace.h"
 #include "testfiles.h"
+#include "typedprogram.h"
 
-#include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -31,19 +30,9 @@ void TestScaledScreen::theWindowIsScaledAsTheScreenAsks()
 {
     QFETCH(QSize, size);
     const QTemporaryDir folder;
-    QVERIFY(QFile::copy(TARNWICK_PROGRAM, folder.filePath("tarnwick")));
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_FONT_DPI", QTest::currentDataTag());
-    environment.insert("QT_PLUGIN_PATH", TYPIST_PLUGINS);
-    environment.insert("QT_QPA_GENERIC_PLUGINS", "typist:a");
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(folder.filePath("tarnwick"), QStringList());
-    QByteArray told;
-    while (!told.endsWith("done\n") && program.waitForReadyRead()) {
-        told += program.readAllStandardOutput();
-    }
+    TypedProgram program(folder.path(), "a");
+    program.setVariable("QT_FONT_DPI", QTest::currentDataTag());
+    QVERIFY(program.startAndType());
     program.terminate();
     QVERIFY(program.waitForFinished());
     QCOMPARE(parseWindowPlace(contentOf(folder.filePath("window.ini"))).inside.size(), size);
