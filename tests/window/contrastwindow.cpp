@@ -48,6 +48,12 @@ ContrastWindow::ContrastWindow()
     find<QTabWidget>("tabWidget")->tabBar()->setFocus();
 }
 
+void ContrastWindow::openNothing()
+{
+    combo("comboBox_Comm")->clear();
+    click("pushButton_OpenCom");
+}
+
 void makeDesktopDark()
 {
     QPalette dark(QColor(0x31, 0x36, 0x3B), QColor(0x23, 0x26, 0x29));

@@ -16,6 +16,9 @@ class ContrastWindow : public WindowDriver
 public:
     ContrastWindow();
 
+    /// Presses the button that opens a port, where there is none to open, whatever the machine has.
+    void openNothing();
+
     DirectEditor &editor() { return *window().findChild<DirectEditor *>(); }
 };
 

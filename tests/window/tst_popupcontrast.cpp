@@ -73,7 +73,7 @@ void TestPopupContrast::boxesAreReadable()
     });
     boxes.answerWith(QMessageBox::No);
     window.click("pushButton_SendAll");
-    window.click("pushButton_OpenCom");
+    window.openNothing();
     window.setRow(0, "01", "0300", "01");
     window.window().close();
     QCOMPARE(shown, 3);
@@ -159,11 +159,11 @@ void TestPopupContrast::edgesOfBoxesAreSeen()
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         least = edgeContrast(*box->button(QMessageBox::Ok));
     });
-    for (const char *button : {"pushButton_SendAll", "pushButton_OpenCom"}) {
-        least = 0;
-        window.click(button);
-        QVERIFY2(least >= seen, qPrintable(QString::number(least)));
-    }
+    window.click("pushButton_SendAll");
+    QVERIFY2(least >= seen, qPrintable(QString::number(least)));
+    least = 0;
+    window.openNothing();
+    QVERIFY2(least >= seen, qPrintable(QString::number(least)));
 }
 
 QTEST_MAIN(TestPopupContrast)
