@@ -13,6 +13,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <utility>
+
 namespace {
 
 const QString jsonLinesFilter = QStringLiteral("JSON Lines (*.jsonl)");
@@ -88,8 +90,8 @@ void RecordControl::start()
     plan.head = m_session.tap().head();
     plan.head.version = QLatin1String(programVersion);
     m_session.tap().start();
+    m_isFileTold = false;
     m_recorder.start(plan);
-    m_status.tell(tr("Recording to %1").arg(QDir::toNativeSeparators(plan.path)));
     showStatus();
 }
 
@@ -103,6 +105,11 @@ void RecordControl::stop()
 void RecordControl::showStatus()
 {
     m_panel.showStatus(m_recorder.status(), m_recorder.isRecording());
+    // The name may have been taken, so it is known with the file.
+    if (m_recorder.status().isRunning && !std::exchange(m_isFileTold, true)) {
+        m_status.tell(
+            tr("Recording to %1").arg(QDir::toNativeSeparators(m_recorder.status().path)));
+    }
 }
 
 void RecordControl::tellEnd()

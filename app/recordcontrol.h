@@ -41,4 +41,5 @@ private:
     WindowMemory &m_memory;
     Recorder m_recorder;
     CsvJob m_export;
+    bool m_isFileTold = false;
 };
