@@ -13,6 +13,9 @@ class LineSource : public QObject
 public:
     using QObject::QObject;
 
+    /// Whether more is read. Lines that have been read still come.
+    virtual void setReading(bool on) = 0;
+
 signals:
     /// A line without its end. Emitted from the event loop.
     void arrived(const QByteArray &line);

@@ -17,6 +17,8 @@ public:
         connect(&m_notifier, &QSocketNotifier::activated, this, [this] { readOn(); });
     }
 
+    void setReading(bool on) override { m_notifier.setEnabled(on && !m_hasEnded); }
+
 private:
     void readOn()
     {
@@ -25,12 +27,14 @@ private:
         if (count > 0) {
             take({buffer.data(), static_cast<int>(count)});
         } else if (count == 0 || (errno != EAGAIN && errno != EINTR)) {
+            m_hasEnded = true;
             m_notifier.setEnabled(false);
             takeEnd();
         }
     }
 
     QSocketNotifier m_notifier;
+    bool m_hasEnded = false;
 };
 
 } // namespace

@@ -6,6 +6,13 @@
 #include "runner/jsonreport.h"
 #include "runner/piperow.h"
 
+namespace {
+
+/// Lines that have been read ahead.
+constexpr std::size_t mostWaitingLines = 1000;
+
+} // namespace
+
 PipeJob::PipeJob(const RunOptions &options)
     : m_options(options)
     , m_format(emptyPlan(QStringLiteral("-"), merged(options.settings, options.defaults)))
@@ -100,6 +107,9 @@ void PipeJob::end(RunEnd why)
 void PipeJob::takeLine(const QByteArray &line)
 {
     m_waiting.push_back(line);
+    if (m_waiting.size() >= mostWaitingLines) {
+        m_lines->setReading(false);
+    }
     takeNext();
 }
 
@@ -108,6 +118,9 @@ void PipeJob::takeNext()
     while (m_isReady && !m_run && !m_waiting.empty() && !m_isFinished) {
         const QByteArray line = m_waiting.front();
         m_waiting.pop_front();
+        if (m_waiting.empty()) {
+            m_lines->setReading(true);
+        }
         ++m_count;
         const Parsed<TestRow> row = parsePipeRow(line, m_count);
         if (row.value) {

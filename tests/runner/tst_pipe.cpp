@@ -18,6 +18,8 @@ private slots:
     void aLineThatIsNoRow();
     void aRowWithoutAnAnswer();
     void theLastLineNeedsNoEnd();
+    void manyLinesAreAnswered();
+    void linesAreNotPiledUp();
     void rowsAreRecordedAndReported();
     void aReportThatCannotBeWritten_data();
     void aReportThatCannotBeWritten();
@@ -102,6 +104,31 @@ void TestPipe::theLastLineNeedsNoEnd()
 {
     const Ran result = ran({"--sim", "--pipe"}, "Echo,42 0000 01");
     QCOMPARE(result.out.count('\n'), 1);
+}
+
+void TestPipe::manyLinesAreAnswered()
+{
+    constexpr int lines = 3000;
+    const Ran result = ran({"--sim", "--pipe"}, QByteArray("Echo,42 0000 01\n").repeated(lines));
+    QCOMPARE(result.code, 0);
+    QCOMPARE(result.out.count('\n'), lines);
+    QVERIFY(result.out.contains(R"("row":3000,)"));
+}
+
+/// Whoever writes faster than the device answers waits.
+void TestPipe::linesAreNotPiledUp()
+{
+    const ListFolder folder;
+    QProcess process;
+    process.start(TARNWICK_RUN,
+                  {"--pipe", "--port", folder.path("no-port"), "--wait-link", "3600"});
+    QVERIFY(process.waitForStarted());
+    process.write(QByteArray("Echo,42 0000 01\n").repeated(100000));
+    while (process.waitForBytesWritten(500)) {
+    }
+    QVERIFY(process.bytesToWrite() > 1000000);
+    process.kill();
+    process.waitForFinished();
 }
 
 void TestPipe::rowsAreRecordedAndReported()
