@@ -33,6 +33,7 @@ public:
     void loadCommandsAt(const QString &path);
     /// Loads a file without a dialog.
     void loadCommandFile(const QString &fileName);
+    /// See docs/deliberate.md, Captions.
     void saveCommands();
     void saveMessages();
 

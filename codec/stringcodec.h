@@ -19,9 +19,8 @@ struct EncodedText
 /// Encodes a text. "Unicode" is UTF-16, high byte first, without a byte-order mark, and has every
 /// character.
 ///
-/// GB2312 and GBK are whatever text codecs the system has under these names. Where both are one
-/// codec, a character that only GBK has is encoded under GB2312 too: nothing is lost, and the
-/// device gets the bytes that its larger neighbour defines.
+/// GB2312 and GBK are whatever text codecs the system has under these names.
+/// See docs/deliberate.md, One codec of two.
 EncodedText encodeString(const QString &text, StringEncoding encoding);
 
 /// Encodes a text character by character with a codec of an encoding that begins with ASCII.

@@ -38,6 +38,7 @@ void join(ConvertedValue &whole, const ConvertedValue &piece)
     }
 }
 
+/// See docs/deliberate.md, Years.
 ConvertedValue convertTime(const QString &fields)
 {
     QStringList list = fields.split(QLatin1Char(','));

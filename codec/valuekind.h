@@ -79,6 +79,7 @@ ValueKind valueKindNamed(const QString &kindText);
 NumberKind numberKindNamed(const QString &kindText);
 
 /// The encoding of that name in any case: "GBK2312" or "GB2312", "GBK", "UNICODE".
+/// See docs/deliberate.md, Two names.
 std::optional<StringEncoding> encodingNamed(const QString &name);
 
 /// The encoding behind the colon of a kind text like "STRING:GBK"; GB2312 when there is none or

@@ -34,6 +34,7 @@ bool operator!=(const CommandRow &left, const CommandRow &right);
 CommandRow emptyRow();
 
 /// A row that pauses a sequence for 1000 ms; it has no data type.
+/// See docs/deliberate.md, Names as they are.
 CommandRow delayRow();
 
 /// CMD, Addr and Data joined, without blanks: what is turned into a frame.

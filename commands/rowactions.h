@@ -40,10 +40,11 @@ public:
     void run(RowAction action);
 
     /// Does to the context row what an entry of the row menu stands for; other actions do nothing.
+    /// See docs/deliberate.md, Unmarked changes.
     void changeRow(QAction *entry);
 
     /// Checks or unchecks the rows that are selected in the table, as an entry of the select menu
-    /// says; other actions do nothing.
+    /// says; other actions do nothing. See docs/deliberate.md, Select all.
     void checkSelectedRows(QAction *entry);
 
     /// Writes the command byte of an entry of the CMD menu into the context cell; other actions do

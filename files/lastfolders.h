@@ -8,7 +8,7 @@
 QString folderOf(const QString &fileName);
 
 /// The record of the folders last used: two lines of UTF-8 behind a byte-order mark, the last load
-/// folder and the last save folder. It is written for others to read.
+/// folder and the last save folder. See docs/deliberate.md, Unread record.
 ///
 /// These give the record with one folder replaced and the other one kept. The given bytes are the
 /// record so far, in UTF-8 or GBK; empty when there is none.

@@ -3,7 +3,7 @@
 #include <QString>
 
 /// What the program remembers from run to run. The three switches are kept as the numbers they are
-/// in the file; anything but 0 means on.
+/// in the file; anything but 0 means on. See docs/deliberate.md, Switches in a file.
 struct Settings
 {
     /// Folder of the last loaded command file.

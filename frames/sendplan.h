@@ -98,6 +98,7 @@ LoopPlan planLoop(const QVector<CheckedRow> &rows, bool withCrc, const MakeFrame
 QVector<LoopStep> loopSteps(const LoopPlan &plan, int intervalMs);
 
 /// Bytes of payload and CRC that a single row's frame text stands for.
+/// See docs/deliberate.md, Two lengths.
 int instructionLength(const QString &frameText, bool withCrc);
 
 /// The warning about a single row's instruction of that many bytes.

@@ -5,7 +5,7 @@
 
 /// Says when to read what a port announces, so that a frame that comes in pieces is read whole: 2
 /// ms after the first announcement, and then as soon as there is another one, but at most 5 ms
-/// later. It runs on timers.
+/// later. It runs on timers. See docs/deliberate.md, Patience.
 class ArrivalWait : public QObject
 {
     Q_OBJECT
