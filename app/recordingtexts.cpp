@@ -10,9 +10,14 @@
 
 namespace {
 
+/// Larger units are called the same in each language.
 QString sizeText(qint64 bytes)
 {
     constexpr int digits = 1;
+    constexpr int kilobyte = 1024;
+    if (bytes < kilobyte) {
+        return Messages::tr("%1 bytes").arg(bytes);
+    }
     return QLocale::c().formattedDataSize(bytes, digits, QLocale::DataSizeTraditionalFormat);
 }
 
@@ -49,7 +54,7 @@ QString describeExport(const CsvExport &outcome, const QString &fileName)
 {
     const QString name = QFileInfo(fileName).fileName();
     if (!outcome.error.isEmpty()) {
-        return Messages::tr("%1 was not exported: %2.").arg(name, outcome.error);
+        return Messages::tr("%1 was not exported: %2.").arg(name, Messages::shown(outcome.error));
     }
     const QString words = Messages::tr("%1 exported to %2.").arg(countText(outcome.events), name);
     return outcome.isTorn ? words + QLatin1Char(' ') +

@@ -18,8 +18,8 @@ class Messages
     Q_DECLARE_TR_FUNCTIONS(Messages)
 
 public:
-    /// Words that were kept in English for a file, as the window shows them. Words that aren't
-    /// ours, such as the system's, stay as they are.
+    /// Words that were kept in English for a file, or are the system's, as the window shows them.
+    /// Those that no translation has stay as they are.
     static QString shown(const QString &english)
     {
         return english.isEmpty() ? QString() : tr(english.toUtf8().constData());

@@ -19,7 +19,7 @@ QString shortened(const QString &path)
 QString plainReason(const QString &name, const OpenFailure &failure)
 {
     const QString words =
-        failure.words.isEmpty() ? Messages::tr("cannot be opened") : failure.words;
+        failure.words.isEmpty() ? Messages::tr("cannot be opened") : Messages::shown(failure.words);
     return QStringLiteral("%1: %2.").arg(name, words);
 }
 
@@ -47,7 +47,8 @@ QString whyPortFailed(const QString &portName, const OpenFailure &failure)
         return Messages::tr("No port is chosen.");
     }
     if (failure.cause == OpenFailure::Cause::Busy) {
-        return Messages::tr("%1 is in use by another program (%2).").arg(portName, failure.words);
+        return Messages::tr("%1 is in use by another program (%2).")
+            .arg(portName, Messages::shown(failure.words));
     }
     const QString reason = plainReason(portName, failure);
     if (failure.group.isEmpty()) {

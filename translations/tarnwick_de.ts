@@ -977,6 +977,130 @@ höchstens %9</translation>
         <source>The commands were changed. Do you want to save them before others are loaded?</source>
         <translation>Die Befehle wurden geändert. Sollen sie gespeichert werden, bevor andere geladen werden?</translation>
     </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Vorgang nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Verzeichnis nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Kein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Ein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Dateiname zu lang</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Datei zu groß</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Kein Speicherplatz mehr frei</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Plattenkontingent überschritten</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Dateisystem nur lesbar</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>Dateizugriff veraltet</translation>
+    </message>
+    <message>
+        <source>No such device</source>
+        <translation>Kein solches Gerät</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>Kein solches Gerät oder keine solche Adresse</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>Gerät oder Ressource belegt</translation>
+    </message>
+    <message>
+        <source>Resource temporarily unavailable</source>
+        <translation>Ressource zurzeit nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>Inappropriate ioctl for device</source>
+        <translation>Unpassender ioctl für das Gerät</translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation>Ungültiges Argument</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>Leitung unterbrochen</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Zeit für die Verbindung überschritten</translation>
+    </message>
+    <message>
+        <source>Device is already open</source>
+        <translation>Das Gerät ist schon offen</translation>
+    </message>
+    <message>
+        <source>Device is not open</source>
+        <translation>Das Gerät ist nicht offen</translation>
+    </message>
+    <message>
+        <source>Device disappeared from the system</source>
+        <translation>Das Gerät ist aus dem System verschwunden</translation>
+    </message>
+    <message>
+        <source>Error reading from device</source>
+        <translation>Fehler beim Lesen vom Gerät</translation>
+    </message>
+    <message>
+        <source>Error writing to device</source>
+        <translation>Fehler beim Schreiben auf das Gerät</translation>
+    </message>
+    <message>
+        <source>Operation timed out</source>
+        <translation>Zeit überschritten</translation>
+    </message>
+    <message>
+        <source>Permission error while locking the device</source>
+        <translation>Keine Berechtigung, das Gerät zu sperren</translation>
+    </message>
+    <message>
+        <source>Permission error while creating lock file</source>
+        <translation>Keine Berechtigung für die Sperrdatei</translation>
+    </message>
+    <message>
+        <source>Failed to create a lock file for opening the device</source>
+        <translation>Die Sperrdatei zum Öffnen des Geräts ließ sich nicht anlegen</translation>
+    </message>
 </context>
 <context>
     <name>RecentFiles</name>

@@ -977,6 +977,130 @@ at most %9</source>
         <source>The commands were changed. Do you want to save them before others are loaded?</source>
         <translation>命令已修改。载入其他命令之前要保存吗？</translation>
     </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 字节</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>不允许的操作</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>权限不够</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>没有该文件或目录</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>不是目录</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>是一个目录</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>文件名过长</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>打开的文件过多</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>设备上没有剩余空间</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>超出磁盘限额</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>只读文件系统</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>文件句柄已失效</translation>
+    </message>
+    <message>
+        <source>No such device</source>
+        <translation>没有该设备</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>没有该设备或地址</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>设备或资源忙</translation>
+    </message>
+    <message>
+        <source>Resource temporarily unavailable</source>
+        <translation>资源暂时不可用</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>输入/输出错误</translation>
+    </message>
+    <message>
+        <source>Inappropriate ioctl for device</source>
+        <translation>对设备不适当的 ioctl 操作</translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation>无效的参数</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>管道中断</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>连接超时</translation>
+    </message>
+    <message>
+        <source>Device is already open</source>
+        <translation>设备已经打开</translation>
+    </message>
+    <message>
+        <source>Device is not open</source>
+        <translation>设备没有打开</translation>
+    </message>
+    <message>
+        <source>Device disappeared from the system</source>
+        <translation>设备已从系统中消失</translation>
+    </message>
+    <message>
+        <source>Error reading from device</source>
+        <translation>读取设备出错</translation>
+    </message>
+    <message>
+        <source>Error writing to device</source>
+        <translation>写入设备出错</translation>
+    </message>
+    <message>
+        <source>Operation timed out</source>
+        <translation>操作超时</translation>
+    </message>
+    <message>
+        <source>Permission error while locking the device</source>
+        <translation>没有锁定设备的权限</translation>
+    </message>
+    <message>
+        <source>Permission error while creating lock file</source>
+        <translation>没有创建锁文件的权限</translation>
+    </message>
+    <message>
+        <source>Failed to create a lock file for opening the device</source>
+        <translation>无法创建打开设备所需的锁文件</translation>
+    </message>
 </context>
 <context>
     <name>RecentFiles</name>

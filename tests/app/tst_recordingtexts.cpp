@@ -12,6 +12,8 @@ class TestRecordingTexts : public QObject
 private slots:
     void howFarARecordingIs_data();
     void howFarARecordingIs();
+    void sizes_data();
+    void sizes();
     void whyItStopped();
     void whatCameOfAnExport_data();
     void whatCameOfAnExport();
@@ -47,6 +49,25 @@ void TestRecordingTexts::howFarARecordingIs()
     status.events = events;
     status.bytes = 1536;
     QTEST(describeRecording(status, isRecording), "text");
+}
+
+void TestRecordingTexts::sizes_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("none") << qint64(0) << "0 bytes, 0 events";
+    QTest::newRow("few") << qint64(1023) << "1023 bytes, 0 events";
+    QTest::newRow("a kilobyte") << qint64(1024) << "1.0 kB, 0 events";
+    QTest::newRow("more") << qint64(3 << 20) << "3.0 MB, 0 events";
+}
+
+void TestRecordingTexts::sizes()
+{
+    QFETCH(qint64, bytes);
+    RecordingStatus status;
+    status.bytes = bytes;
+    QTEST(describeRecording(status, true), "text");
 }
 
 void TestRecordingTexts::whyItStopped()

@@ -1,5 +1,11 @@
+#include "app/recordingtexts.h"
 #include "app/translation.h"
 #include "frames/messages.h"
+#include "frames/systemwords.h"
+#include "links/linktexts.h"
+#include "links/openfailure.h"
+#include "recording/csvexport.h"
+#include "recording/recordingjob.h"
 #include "translationfile.h"
 
 #include <QRegularExpression>
@@ -26,6 +32,9 @@ private slots:
     void aTranslationIsInForceWhileItLives();
     void withoutATranslationEachTextStaysAsItIs();
     void wordsForFilesStayEnglish();
+    void wordsOfTheSystemAreTranslated_data();
+    void wordsOfTheSystemAreTranslated();
+    void aFailureIsToldInOneLanguage();
 };
 
 namespace {
@@ -236,6 +245,45 @@ void TestTranslation::wordsForFilesStayEnglish()
     QCOMPARE(Messages::shown("the disk is nearly full"), QString("der Datenträger ist fast voll"));
     QCOMPARE(Messages::shown("words of the system's own"), QString("words of the system's own"));
     QCOMPARE(Messages::shown({}), QString());
+}
+
+void TestTranslation::wordsOfTheSystemAreTranslated_data()
+{
+    addLanguages();
+}
+
+void TestTranslation::wordsOfTheSystemAreTranslated()
+{
+    QFETCH(QString, language);
+    for (const char *words : systemWords) {
+        QCOMPARE(Messages::shown(words), QString(words));
+    }
+    const Translation translation(language);
+    for (const char *words : systemWords) {
+        QVERIFY2(Messages::shown(words) != words, words);
+    }
+}
+
+void TestTranslation::aFailureIsToldInOneLanguage()
+{
+    const Translation translation("de");
+    const QString denied = "Permission denied";
+    QCOMPARE(whyPortFailed("COM3", {OpenFailure::Cause::Other, denied, {}}),
+             QString("COM3: Zugriff verweigert."));
+    QCOMPARE(whyPortFailed("COM3", {OpenFailure::Cause::Busy, denied, {}}),
+             QString("COM3 wird von einem anderen Programm benutzt (Zugriff verweigert)."));
+    QVERIFY(whyHidFailed("/dev/hidraw0", {}, {OpenFailure::Cause::NoPermission, denied, {}})
+                .startsWith("/dev/hidraw0: Zugriff verweigert. Eine udev-Regel"));
+    QCOMPARE(whyLost("COM3", "Input/output error"),
+             QString("Die Verbindung zu COM3 ist abgebrochen: Ein-/Ausgabefehler"));
+    CsvExport outcome;
+    outcome.error = denied;
+    QCOMPARE(describeExport(outcome, "a.csv"),
+             QString("a.csv wurde nicht exportiert: Zugriff verweigert."));
+    RecordingStatus status;
+    status.error = denied;
+    QCOMPARE(describeRecording(status, false),
+             QString("Angehalten: Zugriff verweigert, 0 Bytes, 0 Ereignisse"));
 }
 
 QTEST_GUILESS_MAIN(TestTranslation)

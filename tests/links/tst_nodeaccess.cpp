@@ -1,3 +1,4 @@
+#include "frames/systemwords.h"
 #include "links/nodeaccess.h"
 #include "restrictions.h"
 #include "testfiles.h"
@@ -5,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
+#include <cerrno>
 #include <grp.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,6 +21,8 @@ private slots:
     void nothingKeepsTheUserOut();
     void whatIsMissingIsToldInTheSystemsWords_data();
     void whatIsMissingIsToldInTheSystemsWords();
+    void itsWordsAreKnownToTranslations_data();
+    void itsWordsAreKnownToTranslations();
     void aNameIsOneOfDev();
     void theGroupThatMayIsNamed();
     void aGroupThatMayNotIsNotNamed_data();
@@ -74,6 +79,26 @@ void TestNodeAccess::whatIsMissingIsToldInTheSystemsWords()
     QTEST(failure.words, "words");
     QVERIFY(failure.cause == OpenFailure::Cause::Other);
     QCOMPARE(failure.group, QString());
+}
+
+void TestNodeAccess::itsWordsAreKnownToTranslations_data()
+{
+    QTest::addColumn<int>("error");
+
+    for (const int error : {EPERM,  ENOENT,  EIO,    ENXIO,        EAGAIN, EACCES,    EBUSY,
+                            ENODEV, ENOTDIR, EISDIR, EINVAL,       EMFILE, ENOTTY,    EFBIG,
+                            ENOSPC, EROFS,   EPIPE,  ENAMETOOLONG, EDQUOT, ETIMEDOUT, ESTALE}) {
+        QTest::addRow("%d", error) << error;
+    }
+}
+
+void TestNodeAccess::itsWordsAreKnownToTranslations()
+{
+    QFETCH(int, error);
+    const QString words = qt_error_string(error);
+    QVERIFY2(std::any_of(systemWords.begin(), systemWords.end(),
+                         [&words](const char *known) { return words == known; }),
+             qPrintable(words));
 }
 
 void TestNodeAccess::aNameIsOneOfDev()
