@@ -20,6 +20,7 @@ private slots:
     void commandsDoWhatTheySay();
     void scriptsEndWell_data() { listPages(); }
     void scriptsEndWell();
+    void otherProgramsReadRecordings();
     void commandFilesAreSent_data() { listPages(); }
     void commandFilesAreSent();
     void otherCommandLinesAreUnderstood_data() { listPages(); }
@@ -195,6 +196,28 @@ void TestGuideExamples::scriptsEndWell()
             QVERIFY2(result.code == 0, block.text + result.out + result.error);
             QVERIFY2(result.error.isEmpty(), result.error);
         }
+    }
+}
+
+/// What is there to be read was recorded by the runner.
+void TestGuideExamples::otherProgramsReadRecordings()
+{
+    const ReadersFolder folder;
+    QFile::link(inTree("packaging/wireshark/tarnwick.lua"), folder.path("tarnwick.lua"));
+    const Ran recorded =
+        folder.inShell("tarnwick-run --sim --record run.jsonl examples/registers.txt\n"
+                       "tarnwick-run --convert run.jsonl run.pcapng");
+    QVERIFY2(recorded.code == 0, recorded.error);
+    QByteArrayList lines;
+    for (const MarkdownBlock &block : blocksOf("recording.md", "sh")) {
+        lines += block.text.trimmed().split('\n');
+    }
+    QCOMPARE(lines.size(), 5);
+    constexpr int framesInRun = 14;
+    for (const QByteArray &line : lines) {
+        const Ran result = folder.inShell(QString::fromUtf8(line));
+        QVERIFY2(result.code == 0, line + result.error);
+        QVERIFY2(result.out.simplified().count(' ') + 1 >= framesInRun, line + result.out);
     }
 }
 
