@@ -1,3 +1,4 @@
+#include "hexbytes.h"
 #include "log/receiver.h"
 #include "runningdevice.h"
 #include "windowdriver.h"
@@ -77,7 +78,7 @@ private:
     void countBroken(const QByteArray &bytes, ArrivalTime time)
     {
         constexpr qint64 nsPerMs = 1000000;
-        if (m_broken.isEmpty() && bytes != "\x5A") {
+        if (m_broken.isEmpty() && bytes != hex("5A")) {
             return;
         }
         if (m_broken.isEmpty()) {
