@@ -25,6 +25,10 @@ public:
     /// A handler of `arrived` may close the link, too; what waits behind its bytes is dropped.
     virtual void close() = 0;
 
+    /// Hands up at once what has come in already, however long it would have waited. While a
+    /// handler of `arrived` runs, that waits for the handler as ever.
+    virtual void handUp() = 0;
+
     /// What the user is told when something is sent while the link is closed.
     virtual QString closedMessage() const = 0;
 

@@ -20,7 +20,7 @@ Receiver::Receiver(ReadStartBytes readStartBytes, QObject *parent)
         if (m_gapMs) {
             endRun();
         } else {
-            giveOut(m_reassembler.giveUpLoneStartByte(), m_lastArrival, {});
+            giveUpLoneStartByte();
         }
     });
 }
@@ -69,6 +69,15 @@ void Receiver::giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time, c
             emit strayReceived(piece.bytes, time);
         }
         given += piece.bytes.size();
+    }
+}
+
+void Receiver::giveUpLoneStartByte()
+{
+    emit aboutToGiveUp();
+    // What that has brought may end with a start byte, which has a silence of its own.
+    if (!m_silence.isActive()) {
+        giveOut(m_reassembler.giveUpLoneStartByte(), m_lastArrival, {});
     }
 }
 

@@ -25,7 +25,7 @@ public:
     void setGap(std::optional<int> gapMs);
 
     /// Takes in a chunk that was read at that time. A first start byte at its end that nothing has
-    /// followed for 50 ms is given out as stray.
+    /// followed for 50 ms is given out as stray, unless `aboutToGiveUp` brings more.
     void take(const QByteArray &chunk, ArrivalTime time = ArrivalTime::now());
 
     /// Gives out what has come since the last silence as a frame, without waiting for the next one.
@@ -38,6 +38,10 @@ signals:
     /// Bytes that belong to no frame, and the time of the chunk that showed it.
     void strayReceived(const QByteArray &bytes, ArrivalTime time);
 
+    /// A first start byte is given up next. The program may have stood still meanwhile, so whoever
+    /// holds bytes back that have come in must hand them to `take` now.
+    void aboutToGiveUp();
+
 private:
     /// Bytes that waited for the rest of their frame, and when the first of them was read.
     struct Waited
@@ -49,6 +53,7 @@ private:
     void takeIntoFrames(const QByteArray &chunk, ArrivalTime time);
     void giveOut(const QVector<ReceivedPiece> &pieces, ArrivalTime time, const Waited &waited);
     void takeIntoRun(const QByteArray &chunk, ArrivalTime time);
+    void giveUpLoneStartByte();
 
     ReadStartBytes m_readStartBytes;
     FrameReassembler m_reassembler;

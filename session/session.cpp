@@ -70,6 +70,7 @@ void Session::connectLinks()
             emit linkFailed(mode, name, reason);
         });
     }
+    connect(&m_receiver, &Receiver::aboutToGiveUp, this, [this] { m_links.chosen().handUp(); });
     connect(&m_devices, &DeviceWatch::gone, this, [this](LinkMode mode) {
         const QString name = linkName(mode);
         loseLink(mode);

@@ -27,9 +27,9 @@ HidLink::HidLink(QString deviceIdFile, QObject *parent)
     : Link(parent)
     , m_deviceIdFile(std::move(deviceIdFile))
 {
-    connect(&m_thread, &HidThread::packetReceived, &m_receiver,
+    connect(&m_thread, &HidThread::packetReceived, &m_packetReceiver,
             [this](const HidPacket &packet, ArrivalTime time) { receive(packet, time); });
-    connect(&m_thread, &HidThread::deviceDisconnected, &m_receiver, [this] { reportLoss(); });
+    connect(&m_thread, &HidThread::deviceDisconnected, &m_lossReceiver, [this] { reportLoss(); });
     connect(&m_inbox, &ReportInbox::arrived, this, &Link::arrived);
     connect(&m_inbox, &ReportInbox::dropped, this, &HidLink::dropped);
 }
@@ -92,11 +92,19 @@ void HidLink::close()
     }
 }
 
+void HidLink::handUp()
+{
+    // What the worker has read may still be on its way.
+    QCoreApplication::sendPostedEvents(&m_packetReceiver);
+    m_inbox.handUpAll();
+}
+
 void HidLink::shutDown()
 {
     m_thread.stop();
     // What is still on its way must not count as sent by the next device.
-    QCoreApplication::removePostedEvents(&m_receiver);
+    QCoreApplication::removePostedEvents(&m_packetReceiver);
+    QCoreApplication::removePostedEvents(&m_lossReceiver);
     m_thread.close();
     m_timing.reset();
 }

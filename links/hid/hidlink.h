@@ -46,6 +46,7 @@ public:
 
     bool isOpen() const override { return m_thread.isOpen(); }
     void close() override;
+    void handUp() override;
     QString closedMessage() const override;
     int longestInstruction() const override { return 255; }
     void write(const QByteArray &block) override;
@@ -80,7 +81,9 @@ private:
     /// Held while a device is open.
     std::optional<ExactTiming> m_timing;
     HidThread m_thread;
-    /// Takes the worker's signals, and nothing else that is queued.
-    QObject m_receiver;
+    /// Takes the worker's packets, and nothing else that is queued.
+    QObject m_packetReceiver;
+    /// Takes the worker's word that the device is lost, and nothing else that is queued.
+    QObject m_lossReceiver;
     ReportInbox m_inbox;
 };

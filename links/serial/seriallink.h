@@ -58,13 +58,13 @@ public:
 
     bool isOpen() const override;
     void close() override;
+    void handUp() override;
     QString closedMessage() const override;
     int longestInstruction() const override;
     void write(const QByteArray &block) override;
     qint64 unsentBytes() const override;
 
 private:
-    void handUp();
     QByteArray readAvailable();
     void onReadyRead();
     void onError(QSerialPort::SerialPortError error);

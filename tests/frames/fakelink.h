@@ -34,6 +34,9 @@ public:
         }
     }
 
+    /// It holds back nothing but what waits for a handler.
+    void handUp() override {}
+
     void write(const QByteArray &block) override
     {
         if (m_isOpen) {

@@ -2,11 +2,11 @@
 
 #include "links/serial/seriallink.h"
 #include "testport.h"
+#include "waitingbytes.h"
 
 #include <QObject>
 
 #include <functional>
-#include <sys/ioctl.h>
 
 constexpr int longestRead = 4096;
 
@@ -29,14 +29,6 @@ inline QByteArray numbered(int bytes)
 inline QSerialPort *portOf(const SerialLink &link)
 {
     return link.findChild<QSerialPort *>();
-}
-
-/// Bytes that have come in and have not been read yet.
-inline int waitingInTheSystem(const QSerialPort &port)
-{
-    int bytes = 0;
-    ioctl(port.handle(), FIONREAD, &bytes);
-    return bytes;
 }
 
 /// All that a link hands up.

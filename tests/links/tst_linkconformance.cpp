@@ -1,6 +1,8 @@
 #include "linktrial.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QThread>
 #include <QtTest>
 
 #include <functional>
@@ -17,6 +19,7 @@ private slots:
     void aClosedLinkDropsWhatIsWritten();
     void blocksArriveInOrder();
     void whatWaitsIsUnsent();
+    void whatHasComeInIsHandedUpWhenAsked();
     void timesDoNotGoBack();
     void timesAreThoseOfReading();
     void nothingIsHandedUpBesideAHandler();
@@ -154,6 +157,27 @@ void TestLinkConformance::whatWaitsIsUnsent()
     trial->link().write(block);
     trial->link().close();
     QCOMPARE(trial->link().unsentBytes(), 0);
+}
+
+/// The event loop does not run meanwhile.
+void TestLinkConformance::whatHasComeInIsHandedUpWhenAsked()
+{
+    const auto trial = this->trial();
+    const Heard heard(trial->link());
+    trial->link().handUp();
+    QVERIFY(trial->open());
+    trial->link().handUp();
+    QVERIFY(heard.times.isEmpty());
+    trial->send("bytes");
+    QElapsedTimer sinceSent;
+    sinceSent.start();
+    while (heard.bytes.isEmpty() && !sinceSent.hasExpired(5000)) {
+        QThread::yieldCurrentThread();
+        trial->link().handUp();
+    }
+    QCOMPARE(heard.bytes, QByteArray("bytes"));
+    trial->send("more");
+    QTRY_COMPARE(heard.bytes, QByteArray("bytesmore"));
 }
 
 void TestLinkConformance::timesDoNotGoBack()

@@ -16,6 +16,8 @@ private slots:
     void aLoneStartByteIsShownAfterASilence_data();
     void aLoneStartByteIsShownAfterASilence();
     void aStartByteThatIsFollowedIsNotShown();
+    void whatHeldBackBytesMayBringThemBeforeItIsShown();
+    void aStartByteThatIsBroughtLastHasASilenceOfItsOwn();
     void whatIsMoreThanAStartByteIsKept();
     void piecesHaveTheTimeOfTheirLastChunk();
     void aFrameTellsWhenItBegan();
@@ -103,6 +105,32 @@ void TestReceiver::aStartByteThatIsFollowedIsNotShown()
     QTRY_VERIFY(silent);
     heard.receiver.take(hex("0107"));
     QCOMPARE(heard.pieces, QStringList{"F 5A A5 01 07 "});
+}
+
+void TestReceiver::whatHeldBackBytesMayBringThemBeforeItIsShown()
+{
+    Heard heard;
+    const QSignalSpy asked(&heard.receiver, &Receiver::aboutToGiveUp);
+    connect(&heard.receiver, &Receiver::aboutToGiveUp, this,
+            [&heard] { heard.receiver.take(hex("A50103")); });
+    heard.receiver.take(hex("075A"));
+    QTRY_COMPARE(asked.count(), 1);
+    QCOMPARE(heard.pieces, QStringList({"N 07 ", "F 5A A5 01 03 "}));
+}
+
+void TestReceiver::aStartByteThatIsBroughtLastHasASilenceOfItsOwn()
+{
+    Heard heard;
+    QElapsedTimer silence;
+    connect(&heard.receiver, &Receiver::aboutToGiveUp, this, [&] {
+        if (!silence.isValid()) {
+            silence.start();
+            heard.receiver.take(hex("A50103 5A"));
+        }
+    });
+    heard.receiver.take(hex("5A"));
+    QTRY_COMPARE(heard.pieces, QStringList({"F 5A A5 01 03 ", "N 5A "}));
+    QVERIFY(silence.elapsed() >= silenceMs);
 }
 
 void TestReceiver::whatIsMoreThanAStartByteIsKept()

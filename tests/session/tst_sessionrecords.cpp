@@ -1,6 +1,8 @@
 #include "fakehid.h"
 #include "session/session.h"
+#include "stall.h"
 #include "testport.h"
+#include "waitingbytes.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -15,6 +17,8 @@ private slots:
     void whatIsSentIsRecorded();
     void aBlockIsRecordedFrameByFrame();
     void whatIsReceivedIsRecorded();
+    void aStallBreaksNoFrameOfAPort();
+    void aStallBreaksNoFrameOfAHidDevice();
     void theCrcFlagIsThatOfTheMoment();
     void zerosOfAHidDeviceAreNoStrayBytes();
     void oneLinkIsInUse();
@@ -135,6 +139,36 @@ void TestSessionRecords::whatIsReceivedIsRecorded()
     bench.port.send(QByteArray::fromHex("01025AA5020310"));
     QTRY_COMPARE(bench.records(), (QStringList{"stray 1 0102", "received 2 5aa5020310"}));
     QCOMPARE(bench.notices.count(), 0);
+}
+
+void TestSessionRecords::aStallBreaksNoFrameOfAPort()
+{
+    RecordBench bench;
+    QVERIFY(bench.openPort());
+    QSignalSpy stray(bench.session.findChild<Receiver *>(), &Receiver::strayReceived);
+    bench.port.send(QByteArray::fromHex("075A"));
+    QVERIFY(stray.wait());
+    bench.port.send(QByteArray::fromHex("A5020310"));
+    const auto *const port = bench.session.findChild<QSerialPort *>();
+    stallUntil([port] { return waitingInTheSystem(*port) > 0; });
+    QTRY_COMPARE(bench.records(), (QStringList{"stray 1 07", "received 2 5aa5020310"}));
+}
+
+void TestSessionRecords::aStallBreaksNoFrameOfAHidDevice()
+{
+    FakeHid &device = FakeHid::instance();
+    RecordBench bench;
+    device.readWithoutWaiting();
+    QVERIFY(bench.openHid());
+    QSignalSpy stray(bench.session.findChild<Receiver *>(), &Receiver::strayReceived);
+    device.sendReport(QByteArray::fromHex("075A"));
+    QVERIFY(stray.wait());
+    device.sendReport(QByteArray::fromHex("A5020310"));
+    // The worker has handed on a report once it reads again.
+    const auto reads = [&device] { return device.count(HidCall::Function::Read); };
+    const int readsBefore = reads();
+    stallUntil([&] { return device.waitingReports() == 0 && reads() > readsBefore + 1; });
+    QTRY_COMPARE(bench.records(), (QStringList{"stray 1 07", "received 2 5aa5020310"}));
 }
 
 void TestSessionRecords::theCrcFlagIsThatOfTheMoment()

@@ -1,7 +1,11 @@
 #include "hexbytes.h"
+#include "stall.h"
+#include "waitingbytes.h"
 #include "windowdriver.h"
 
 #include <QElapsedTimer>
+#include <QSerialPort>
+#include <QSignalSpy>
 #include <QtTest>
 
 #include <algorithm>
@@ -19,6 +23,7 @@ private slots:
     void boxesDoNotStandInTheWay_data();
     void boxesDoNotStandInTheWay();
     void aBoxInTheMiddleOfAFrameLosesNothing();
+    void aStallOfTheWindowBreaksNoFrame();
     void theSlotMayBeCalledAtAnyMoment();
 };
 
@@ -180,6 +185,23 @@ void TestReceivingMeanwhile::aBoxInTheMiddleOfAFrameLosesNothing()
     farEnd.join();
     QCOMPARE(boxes.texts(), QStringList{"Box"});
     QCOMPARE(received.bytes, sent);
+}
+
+/// A start byte's successor that came in time may be read only after the window stood still.
+void TestReceivingMeanwhile::aStallOfTheWindowBreaksNoFrame()
+{
+    WindowDriver window;
+    TestPort port;
+    window.open(port);
+    QSignalSpy stray(window.window().findChild<Receiver *>(), &Receiver::strayReceived);
+    port.send(hex("075A"));
+    QVERIFY(stray.wait());
+    port.send(hex("A503030001"));
+    const auto *const serialPort = window.window().findChild<QSerialPort *>();
+    stallUntil([serialPort] { return waitingInTheSystem(*serialPort) > 0; });
+    QTRY_COMPARE(window.messageCount(), 2);
+    QCOMPARE(window.message(0).at(5), QString("07 "));
+    QCOMPARE(window.message(1).at(5), QString(" 00 01 "));
 }
 
 void TestReceivingMeanwhile::theSlotMayBeCalledAtAnyMoment()
