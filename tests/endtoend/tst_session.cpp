@@ -1,13 +1,9 @@
-#include "hexbytes.h"
 #include "log/receiver.h"
 #include "runningdevice.h"
 #include "windowdriver.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
-
-#include <limits>
-#include <utility>
 
 /// The window and the simulated device as two processes with a pseudo-terminal between them.
 class TestSession : public QObject
@@ -21,9 +17,6 @@ private slots:
 };
 
 namespace {
-
-/// A first start byte that nothing has followed for so long begins no frame.
-constexpr int silenceMs = 50;
 
 /// How long the disturbed loop runs, in ms; a longer trial sets the variable.
 int loopTimeMs()
@@ -53,46 +46,19 @@ void fillRequests(WindowDriver &window)
 }
 
 /// Counts what the window receives, by kind of frame.
-///
-/// On a busy machine the device or the window may stand still for so long that a first start byte
-/// is taken for no beginning of a frame. It is shown alone then, and the rest of its frame behind
-/// it. Such a frame counts like the others. What the device sends between frames has no such byte.
 class Tally : public QObject
 {
 public:
     explicit Tally(Receiver *receiver)
     {
         connect(receiver, &Receiver::frameReceived, this, &Tally::count);
-        connect(receiver, &Receiver::strayReceived, this, &Tally::countBroken);
     }
 
     int replies = 0;
     int errors = 0;
     QVector<quint32> statusNumbers;
-    /// How many of the frames were shown in two parts.
-    int broken = 0;
-    /// The shortest time after which a first start byte was shown alone, in ms.
-    qint64 shortestWaitMs = std::numeric_limits<qint64>::max();
 
 private:
-    void countBroken(const QByteArray &bytes, ArrivalTime time)
-    {
-        constexpr qint64 nsPerMs = 1000000;
-        if (m_broken.isEmpty() && bytes != hex("5A")) {
-            return;
-        }
-        if (m_broken.isEmpty()) {
-            const qint64 waitedNs = ArrivalTime::now().monotonicNs - time.monotonicNs;
-            shortestWaitMs = qMin(shortestWaitMs, waitedNs / nsPerMs);
-        }
-        m_broken += bytes;
-        const int size = m_broken.size() < 3 ? 3 : 3 + static_cast<quint8>(m_broken.at(2));
-        if (m_broken.size() >= size) {
-            ++broken;
-            count(std::exchange(m_broken, {}).left(size));
-        }
-    }
-
     void count(const QByteArray &frame)
     {
         const auto cmd = static_cast<quint8>(frame.at(3));
@@ -104,8 +70,6 @@ private:
             ++replies;
         }
     }
-
-    QByteArray m_broken;
 };
 
 /// The longest time that the event loop was not at work, in ms.
@@ -167,16 +131,16 @@ void TestSession::aDisturbedLineLosesNoFrame()
     window.click("pushButton_Start_Loop");
     QElapsedTimer elapsed;
     elapsed.start();
-    QTRY_VERIFY_WITH_TIMEOUT(elapsed.hasExpired(loopTimeMs()), loopTimeMs() + 5000);
+    const auto hasRunLong = [&] {
+        return elapsed.hasExpired(loopTimeMs()) && sent > 10 && tally.statusNumbers.size() > 10;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(hasRunLong(), loopTimeMs() + 20000);
     window.click("pushButton_Start_Loop");
     QTRY_COMPARE(tally.replies, sent);
-    qInfo("%d frames sent and answered, %d status frames, %d broken, longest stall %lld ms", sent,
-          tally.statusNumbers.size(), tally.broken, heartbeat.longestMs);
+    qInfo("%d frames sent and answered, %d status frames, longest stall %lld ms", sent,
+          tally.statusNumbers.size(), heartbeat.longestMs);
     QCOMPARE(boxes.texts(), QStringList());
-    QVERIFY(tally.shortestWaitMs >= silenceMs);
-    QVERIFY(sent > 10);
     QCOMPARE(tally.errors, 0);
-    QVERIFY(tally.statusNumbers.size() > 10);
     for (int i = 1; i < tally.statusNumbers.size(); ++i) {
         QCOMPARE(tally.statusNumbers.at(i), tally.statusNumbers.at(i - 1) + 1);
     }
