@@ -12,7 +12,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/// A recording on a disk that is full, fills up, or is slow.
+/// A recording on a disk that is full, fills up, is slow, or loses the folder.
 class TestFailingDisk : public QObject
 {
     Q_OBJECT
@@ -22,6 +22,7 @@ private slots:
     void aFullFileSystemEndsIt();
     void aFileSystemThatFillsUpEndsItInGoodOrder();
     void aSlowDiskHoldsUpNobody();
+    void aFolderThatGoesIsTold();
 };
 
 namespace {
@@ -221,6 +222,20 @@ void TestFailingDisk::aSlowDiskHoldsUpNobody()
     QCOMPARE(read.tail.file.received.frames, count - dropped);
     QCOMPARE(read.tail.droppedEvents, dropped);
     QVERIFY(read.events.last().text.startsWith(QString("%1 events with").arg(dropped)));
+}
+
+void TestFailingDisk::aFolderThatGoesIsTold()
+{
+    QTemporaryDir folder;
+    Recorder recorder;
+    QSignalSpy ended(&recorder, &Recorder::ended);
+    recorder.start(planOnDisk(folder.path()));
+    recorder.record(largeEvent(0));
+    QTRY_COMPARE(filesIn(folder.path()).size(), 1);
+    QVERIFY(folder.remove());
+    QTRY_COMPARE(ended.count(), 1);
+    QCOMPARE(recorder.status().error, QString("the file is gone"));
+    QVERIFY(!recorder.isRecording());
 }
 
 QTEST_GUILESS_MAIN(TestFailingDisk)

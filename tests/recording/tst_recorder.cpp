@@ -18,7 +18,6 @@ private slots:
     void anotherRecordingEndsTheOneBefore();
     void withoutARecordingNothingHappens();
     void aMissingFolderIsTold();
-    void aFolderThatGoesIsTold();
     void manyEventsComeInWithoutLoss();
 };
 
@@ -134,22 +133,6 @@ void TestRecorder::aMissingFolderIsTold()
     QTRY_COMPARE(ended.count(), 1);
     QVERIFY(!recorder.isRecording());
     QVERIFY(!recorder.status().error.isEmpty());
-}
-
-void TestRecorder::aFolderThatGoesIsTold()
-{
-    QTemporaryDir folder;
-    Recorder recorder;
-    QSignalSpy ended(&recorder, &Recorder::ended);
-    RecordingPlan plan = planIn(folder);
-    plan.limits.lookMs = 1;
-    recorder.start(plan);
-    recorder.record(sampleEvents().at(1));
-    QTRY_COMPARE(filesIn(folder.path()).size(), 1);
-    QVERIFY(folder.remove());
-    QTRY_COMPARE(ended.count(), 1);
-    QCOMPARE(recorder.status().error, QString("the file is gone"));
-    QVERIFY(!recorder.isRecording());
 }
 
 void TestRecorder::manyEventsComeInWithoutLoss()

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QTableWidget>
 #include <QToolTip>
+#include <QtTest>
 
 /// What is painted of a cell.
 inline QImage pictureOf(const QTableWidget &table, int row, int column)
@@ -17,6 +18,9 @@ inline QImage pictureOf(const QTableWidget &table, int row, int column)
 inline QString tipOf(const QTableWidget &table, int row, int column)
 {
     QToolTip::hideText();
+    if (!QTest::qWaitFor([] { return !QToolTip::isVisible(); })) {
+        return QStringLiteral("the tip before");
+    }
     const QPoint place = table.visualRect(table.model()->index(row, column)).center();
     QHelpEvent event(QEvent::ToolTip, place, table.viewport()->mapToGlobal(place));
     QCoreApplication::sendEvent(table.viewport(), &event);

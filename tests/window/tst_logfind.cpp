@@ -189,16 +189,15 @@ void TestLogFind::whatIsTypedIsFoundAndCounted()
 
 void TestLogFind::rowsThatComeInAreFilteredAndCounted()
 {
-    const TestPort port;
-    m_window->open(port);
     find("rx 01");
-    port.send(hex("5AA502 03 01 5AA502 03 02"));
+    m_window->records().appendReceived(hex("5AA502 03 01"), false);
+    m_window->records().appendReceived(hex("5AA502 03 02"), false);
     QTRY_COMPARE(counted(), QString("1 of 2 rows"));
     QCOMPARE(shownRows(), 1);
     QVERIFY(!log()->isRowHidden(0));
     m_window->records().clear();
     QTRY_COMPARE(counted(), QString("0 of 0 rows"));
-    port.send(hex("5AA502 03 01"));
+    m_window->records().appendReceived(hex("5AA502 03 01"), false);
     QTRY_COMPARE(counted(), QString("1 of 1 row"));
 }
 
@@ -307,11 +306,10 @@ void TestLogFind::theLogIsHeldByMenuAndKey()
 
 void TestLogFind::theWheelHoldsWhileFramesComeIn()
 {
-    const TestPort port;
-    m_window->open(port);
     const QScrollBar &bar = *log()->verticalScrollBar();
     QTimer device;
-    connect(&device, &QTimer::timeout, [&port] { port.send(hex("5AA5020301")); });
+    connect(&device, &QTimer::timeout,
+            [this] { m_window->records().appendReceived(hex("5AA5020301"), false); });
     device.start(5);
     QTRY_VERIFY(bar.maximum() > 5 && bar.value() == bar.maximum());
     const QPointF place(log()->viewport()->rect().center());
