@@ -10,6 +10,7 @@
 function(add_room name)
   cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;DEPENDS;PRIVATE")
   add_library(${name} STATIC ${room_SOURCES})
+  compile_by_themselves(${room_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${room_DEPENDS} PRIVATE ${room_PRIVATE} tarnwick_options)
   set_target_properties(${name} PROPERTIES TARNWICK_HALF pure AUTOUIC OFF)
@@ -17,6 +18,14 @@ function(add_room name)
     note_widgets(${name} ${target})
   endforeach()
   set_property(GLOBAL APPEND PROPERTY TARNWICK_ROOMS ${name})
+endfunction()
+
+# Those that include Windows' own headers, whose macros no other source of a unit must meet.
+function(compile_by_themselves)
+  list(FILTER ARGN INCLUDE REGEX "_win\\.cpp$")
+  if(ARGN)
+    set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  endif()
 endfunction()
 
 # Whether a room knows widgets by way of a target.
