@@ -48,6 +48,9 @@ QJsonObject jsonOf(const RowResult &result)
     if (result.replyTimeNs) {
         object.insert("reply_us", double(*result.replyTimeNs) / nsPerUs);
     }
+    if (result.strayBytes > 0) {
+        object.insert("stray_bytes", result.strayBytes);
+    }
     if (!result.why.isEmpty()) {
         object.insert("why", result.why);
     }
@@ -92,6 +95,7 @@ QByteArray JsonReport::closing(const RunSummary &summary, RunEnd end)
                                    {"sent", summary.sent},
                                    {"replies", summary.replies},
                                    {"failures", summary.failures},
+                                   {"stray_bytes", summary.strayBytes},
                                    {"reply_time", timesOf(summary.replyTimes)},
                                    {"lateness", timesOf(summary.lateness)},
                                    {"real_time", summary.isRealTime},

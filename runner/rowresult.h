@@ -25,6 +25,8 @@ struct RowResult
     QVector<QByteArray> replies;
     /// From the row to its first reply, in ns.
     std::optional<qint64> replyTimeNs;
+    /// Bytes that came in meanwhile and form no frame.
+    qint64 strayBytes = 0;
     /// How often it was sent.
     int attempts = 1;
 

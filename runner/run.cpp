@@ -138,6 +138,7 @@ void Run::send()
     m_repliesAreFree = row().expectation.isEmpty();
     m_trial.emplace(row().expectation, file().replyTimeoutMs, m_plan.rules.isStrict);
     m_stage = Stage::Waiting;
+    m_strayBytes = m_attempts == 0 ? 0 : m_strayBytes;
     ++m_attempts;
     ++m_summary.sent;
     m_trial->begin(m_wire.send(row()));
@@ -205,6 +206,7 @@ RowResult Run::currentResult() const
     result.sent = row().frame;
     result.replies = m_trial->replies();
     result.replyTimeNs = m_trial->replyTimeNs();
+    result.strayBytes = m_strayBytes;
     result.attempts = m_attempts;
     return result;
 }
@@ -224,7 +226,9 @@ void Run::takeFrame(const ReceivedFrame &frame)
 
 void Run::takeStray(const QByteArray &bytes, qint64 timeNs)
 {
+    m_summary.strayBytes += bytes.size();
     if (m_stage == Stage::Waiting) {
+        m_strayBytes += bytes.size();
         m_trial->takeStray(bytes, timeNs);
     } else {
         noteUnexpected(bytes);

@@ -81,6 +81,7 @@ private:
     /// Whether what comes in may be a reply to a row that expects nothing.
     bool m_repliesAreFree = false;
     qint64 m_lingerUntilNs = 0;
+    qint64 m_strayBytes = 0;
     QByteArray m_unexpected;
     qint64 m_unexpectedCount = 0;
     RunSummary m_summary;

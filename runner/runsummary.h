@@ -9,6 +9,8 @@ struct RunSummary
     qint64 sent = 0;
     qint64 replies = 0;
     qint64 failures = 0;
+    /// Bytes that came in and form no frame.
+    qint64 strayBytes = 0;
     Durations replyTimes;
     /// How late the rows went out that were due at a certain time.
     Durations lateness;

@@ -28,6 +28,11 @@ QString counted(qint64 count, const QString &one, const QString &many)
     return QStringLiteral("%1 %2").arg(count).arg(count == 1 ? one : many);
 }
 
+QString strayText(qint64 bytes)
+{
+    return counted(bytes, QStringLiteral("stray byte"), QStringLiteral("stray bytes"));
+}
+
 /// Without what would move the cursor or colour the terminal.
 QString printable(QString text)
 {
@@ -95,6 +100,9 @@ QByteArray TextReport::row(const RowResult &result)
     } else if (result.replyTimeNs) {
         parts.append(millisecondsText(*result.replyTimeNs));
     }
+    if (result.strayBytes > 0) {
+        parts.append(strayText(result.strayBytes));
+    }
     if (result.attempts > 1) {
         parts.append(QStringLiteral("sent %1 times").arg(result.attempts));
     }
@@ -126,6 +134,9 @@ QString summaryText(const RunSummary &summary)
         QStringLiteral("%1 sent").arg(summary.sent),
         counted(summary.replies, QStringLiteral("reply"), QStringLiteral("replies")),
         counted(summary.failures, QStringLiteral("failure"), QStringLiteral("failures"))};
+    if (summary.strayBytes > 0) {
+        parts.append(strayText(summary.strayBytes));
+    }
     QString text = parts.join(QLatin1String(", "));
     if (const Durations &times = summary.replyTimes; times.count() > 0) {
         text += QStringLiteral("; reply time min %1, median %2, p99 %3, max %4 ms")

@@ -22,6 +22,7 @@ private slots:
     void anEndLeavesTheRowWithoutVerdict();
     void unexpectedFramesFailOnlyAStrictRun_data();
     void unexpectedFramesFailOnlyAStrictRun();
+    void strayBytesBelongToTheRowThatWaits();
     void repliesToARowThatExpectsNothingAreFree();
     void aLinkThatTakesNothingIsWaitedFor();
     void theEndWaitsForWhatIsNotSentYet();
@@ -215,6 +216,27 @@ void TestRun::unexpectedFramesFailOnlyAStrictRun()
         QCOMPARE(bench.results.last().why, QString("expected nothing, got 53 01 (2 in all)"));
     }
     QCOMPARE(bench.verdicts(), expected);
+}
+
+void TestRun::strayBytesBelongToTheRowThatWaits()
+{
+    RunBench bench;
+    bench.rules.retries = 1;
+    bench.start("//@ tarnwick-run 1 interval=1000 reply-timeout=100\n"
+                "First,select,01 0000\n//? 81\nSecond,select,02 0000\n//? 82\n");
+    bench.advance(5);
+    emit bench.wire.strayArrived("abc", bench.clock.now());
+    bench.advance(100);
+    emit bench.wire.strayArrived("d", bench.clock.now());
+    bench.wire.receive("\x81");
+    emit bench.wire.strayArrived("between", bench.clock.now());
+    bench.advance(1000);
+    bench.wire.receive("\x82");
+    QCOMPARE(bench.verdicts(), (QStringList{"1 pass", "2 pass"}));
+    QCOMPARE(bench.results.at(0).attempts, 2);
+    QCOMPARE(bench.results.at(0).strayBytes, 4);
+    QCOMPARE(bench.results.at(1).strayBytes, 0);
+    QCOMPARE(bench.run->summary().strayBytes, 11);
 }
 
 void TestRun::repliesToARowThatExpectsNothingAreFree()

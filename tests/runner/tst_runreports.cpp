@@ -18,6 +18,7 @@ private slots:
     void verboseTextTellsTraffic();
     void coloursOnlyWhereWanted();
     void closingLine();
+    void strayBytesAreTold();
     void tap();
     void tapOfARunThatWasCutShort();
     void jsonLines();
@@ -148,6 +149,19 @@ void TestRunReports::closingLine()
     TextReport report(TextReport::Detail::Failures, false);
     QVERIFY(
         report.closing(summary, RunEnd::TimedOut).endsWith("ms, not real-time; the time was up\n"));
+}
+
+void TestRunReports::strayBytesAreTold()
+{
+    RowResult noisy = good;
+    noisy.strayBytes = 2;
+    QCOMPARE(TextReport(TextReport::Detail::Rows, false).row(noisy),
+             QByteArray("pass  003 Read status  3.2 ms  2 stray bytes\n"));
+    QCOMPARE(jsonOf(noisy).value("stray_bytes").toInt(), 2);
+    QVERIFY(!jsonOf(good).contains("stray_bytes"));
+    RunSummary summary;
+    summary.strayBytes = 1;
+    QCOMPARE(summaryText(summary), QString("0 rows, 0 sent, 0 replies, 0 failures, 1 stray byte"));
 }
 
 void TestRunReports::tap()
