@@ -143,7 +143,11 @@ void RecordControl::exportRecording()
 QString RecordControl::folder() const
 {
     const QString last = m_memory.recordingFolder();
-    return QFileInfo(last).isDir()
-               ? last
-               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    for (const QString &folder : {last, documents}) {
+        if (QFileInfo(folder).isDir()) {
+            return folder;
+        }
+    }
+    return QDir::homePath();
 }

@@ -338,8 +338,8 @@ void TestFileEntrances::theyAreRemembered()
 {
     // Windows has no quotation marks, backslashes and control characters in names.
     const bool isWindows = QSysInfo::kernelType() == "winnt";
-    const QString name = QString::fromUtf8(isWindows ? "a 'b'%x41;,= \u6E29.txt"
-                                                     : "a \"b\"\\x41;,= \u6E29\n.txt");
+    const QString name =
+        QString::fromUtf8(isWindows ? "a 'b'%x41;,= \u6E29.txt" : "a \"b\"\\x41;,= \u6E29\n.txt");
     {
         WindowDriver window;
         dropFiles(window, {write(name, "First")});

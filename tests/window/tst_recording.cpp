@@ -25,6 +25,7 @@ private slots:
     void closingTheWindowClosesTheFile();
     void endingTheProgramClosesTheFile();
     void theFolderIsRemembered();
+    void atFirstItIsWhereDocumentsAre();
     void aRecordingIsExported();
     void whatIsNoRecordingIsTold();
 };
@@ -240,6 +241,22 @@ void TestRecording::theFolderIsRemembered()
     bench.window->click("pushButton_Record");
     QCOMPARE(user.look().folder, bench.folder.path());
     removeRemembered();
+}
+
+void TestRecording::atFirstItIsWhereDocumentsAre()
+{
+    const QByteArray homeBefore = qgetenv("HOME");
+    const auto restore = qScopeGuard([&homeBefore] { qputenv("HOME", homeBefore); });
+    const QTemporaryDir home;
+    qputenv("HOME", home.path().toLocal8Bit());
+    const RecordBench bench;
+    const FileDialogUser user;
+    bench.window->click("pushButton_Record");
+    QCOMPARE(user.look().folder, home.path());
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QVERIFY(QDir().mkpath(documents));
+    bench.window->click("pushButton_Record");
+    QCOMPARE(user.look().folder, documents);
 }
 
 void TestRecording::aRecordingIsExported()
