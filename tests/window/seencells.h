@@ -17,8 +17,12 @@ inline QImage pictureOf(const QTableWidget &table, int row, int column)
 /// The tip that comes when the mouse rests on a cell.
 inline QString tipOf(const QTableWidget &table, int row, int column)
 {
-    QToolTip::hideText();
-    if (!QTest::qWaitFor([] { return !QToolTip::isVisible(); })) {
+    // A tip that is still being faded in isn't hidden by one call.
+    const bool isGone = QTest::qWaitFor([] {
+        QToolTip::hideText();
+        return QToolTip::text().isEmpty();
+    });
+    if (!isGone) {
         return QStringLiteral("the tip before");
     }
     const QPoint place = table.visualRect(table.model()->index(row, column)).center();
