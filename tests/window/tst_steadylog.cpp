@@ -56,10 +56,14 @@ bool hasText(const QImage &picture, const QRect &place)
 int blankRows(const WindowDriver &window)
 {
     const QImage picture = shownLog(window);
-    const int width = window.messages()->columnWidth(0);
+    const auto dots = [&picture](int pixels) {
+        return qRound(pixels * picture.devicePixelRatio());
+    };
+    const int width = dots(window.messages()->columnWidth(0));
+    const int height = dots(rowHeight);
     int blank = 0;
-    for (int top = 0; top + rowHeight <= picture.height(); top += rowHeight) {
-        blank += hasText(picture, {0, top, width, rowHeight}) ? 0 : 1;
+    for (int top = 0; top + height <= picture.height(); top += height) {
+        blank += hasText(picture, {0, top, width, height}) ? 0 : 1;
     }
     return blank;
 }
