@@ -90,7 +90,8 @@ void RecordControl::start()
     plan.head = m_session.tap().head();
     plan.head.version = QLatin1String(programVersion);
     m_session.tap().start();
-    m_isFileTold = false;
+    m_toldFile.clear();
+    tellFile(plan.path);
     m_recorder.start(plan);
     showStatus();
 }
@@ -105,10 +106,16 @@ void RecordControl::stop()
 void RecordControl::showStatus()
 {
     m_panel.showStatus(m_recorder.status(), m_recorder.isRecording());
-    // The name may have been taken, so it is known with the file.
-    if (m_recorder.status().isRunning && !std::exchange(m_isFileTold, true)) {
-        m_status.tell(
-            tr("Recording to %1").arg(QDir::toNativeSeparators(m_recorder.status().path)));
+    if (m_recorder.status().isRunning) {
+        tellFile(m_recorder.status().path);
+    }
+}
+
+/// The name that was chosen, and the one that is taken instead where there is such a file.
+void RecordControl::tellFile(const QString &path)
+{
+    if (std::exchange(m_toldFile, path) != path) {
+        m_status.tell(tr("Recording to %1").arg(QDir::toNativeSeparators(path)));
     }
 }
 

@@ -31,6 +31,7 @@ private:
     void start();
     void stop();
     void showStatus();
+    void tellFile(const QString &path);
     void tellEnd();
     void exportRecording();
     QString folder() const;
@@ -41,5 +42,6 @@ private:
     WindowMemory &m_memory;
     Recorder m_recorder;
     CsvJob m_export;
-    bool m_isFileTold = false;
+    /// The one that the user was told of last.
+    QString m_toldFile;
 };

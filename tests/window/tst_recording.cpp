@@ -179,9 +179,7 @@ void TestRecording::nothingIsOverwritten()
     bench.startRecording();
     QTRY_COMPARE(filesIn(bench.folder.path()), (QStringList{"run-002.jsonl", "run.jsonl"}));
     QCOMPARE(contentOf(bench.path), QByteArray("mine"));
-    QTRY_VERIFY(bench.window->find<QLabel>("label_Status")->text().contains("Recording to"));
-    const QString status = bench.window->find<QLabel>("label_Status")->text();
-    QVERIFY2(status.contains("run-002.jsonl"), qPrintable(status));
+    QTRY_VERIFY(bench.window->find<QLabel>("label_Status")->text().contains("run-002.jsonl"));
 }
 
 void TestRecording::aClosedDialogRecordsNothing()
