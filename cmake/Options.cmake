@@ -13,9 +13,16 @@ option(CMAKE_COMPILE_WARNING_AS_ERROR "Let no warning pass" ON)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  # What one clone of the tree has compiled serves another one, wherever it lies.
+  # What one clone of the tree has compiled serves another one, wherever it lies; precompiled headers, too, whose
+  # times and macros it can't see through.
   set(CMAKE_CXX_COMPILER_LAUNCHER
-    env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+    env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
+    ${CCACHE_PROGRAM})
+  if(TARNWICK_PRECOMPILE AND CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    add_compile_options(-Xclang -fno-pch-timestamp)
+  elseif(TARNWICK_PRECOMPILE)
+    add_compile_options(-fpch-preprocess)
+  endif()
 endif()
 
 add_library(tarnwick_options INTERFACE)

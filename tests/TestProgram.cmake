@@ -90,7 +90,8 @@ function(add_test_of room name)
   if(NOT TARGET ${program})
     add_executable(${program} ${tsan_sources})
     target_link_libraries(${program} PRIVATE testprogram Qt5::Test tarnwick_options)
-    set_target_properties(${program} PROPERTIES UNITY_BUILD OFF)
+    set_target_properties(${program} PROPERTIES UNITY_BUILD OFF
+      AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
     set_property(GLOBAL APPEND_STRING PROPERTY TARNWICK_TEST_PROGRAMS
       "${program}|${room}|$<TARGET_FILE:${program}>\n")
     cmake_language(EVAL CODE "cmake_language(DEFER CALL finish_test_program ${program})")
@@ -105,6 +106,9 @@ function(add_test_of room name)
     list(APPEND environment LLVM_PROFILE_FILE=${CMAKE_BINARY_DIR}/profiles/${room}/%m.profraw)
   endif()
   set_tests_properties(${folder}/${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 120)
+  if(${folder}/${name} IN_LIST long_tests)
+    set_tests_properties(${folder}/${name} PROPERTIES COST 100)
+  endif()
 endfunction()
 
 # When all tests of a program are known: its sources, each with its main() under the test's name, the main()
@@ -126,6 +130,7 @@ function(finish_test_program program)
   endforeach()
   configure_file(${CMAKE_SOURCE_DIR}/tests/support/testprogram.cpp.in ${program}.cpp @ONLY)
   target_sources(${program} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${program}.cpp ${sources})
+  add_meta_objects(${program} ${sources})
   if(TARNWICK_TEST_UNITS)
     add_test_units(${program} ${sources})
   else()
@@ -135,6 +140,22 @@ function(finish_test_program program)
     endforeach()
   endif()
   add_custom_command(TARGET ${program} POST_BUILD ${links} VERBATIM)
+endfunction()
+
+# The meta object of each test, tst_NAME.moc. Qt's headers say nothing that moc needs for it, so it isn't told where
+# they are: reading them is all its work elsewhere.
+function(add_meta_objects program)
+  set(folder ${CMAKE_CURRENT_BINARY_DIR}/${program}_moc)
+  foreach(source ${ARGN})
+    cmake_path(GET source STEM name)
+    add_custom_command(OUTPUT ${folder}/${name}.moc
+      COMMAND Qt5::moc -o ${folder}/${name}.moc ${CMAKE_CURRENT_SOURCE_DIR}/${source}
+      DEPENDS ${source}
+      COMMENT "Making ${name}.moc"
+      VERBATIM)
+    target_sources(${program} PRIVATE ${folder}/${name}.moc)
+  endforeach()
+  target_include_directories(${program} PRIVATE ${folder})
 endfunction()
 
 # Compiles these sources in units of eight.
@@ -151,7 +172,6 @@ function(add_test_units program)
   foreach(number RANGE 1 ${unit})
     set(path ${CMAKE_CURRENT_BINARY_DIR}/${program}_${number}.cpp)
     file(CONFIGURE OUTPUT ${path} CONTENT "${text_${number}}" @ONLY)
-    set_source_files_properties(${path} PROPERTIES SKIP_AUTOMOC ON)
     target_sources(${program} PRIVATE ${path})
   endforeach()
 endfunction()

@@ -61,14 +61,14 @@ Q_COREAPP_STARTUP_FUNCTION(watchQueuedCalls)
 
 } // namespace
 
-void QMutex::lock()
+void QMutex::lock() QT_MUTEX_LOCK_NOEXCEPT
 {
     static const auto lockMutex = original<void (*)(QMutex *)>("_ZN6QMutex4lockEv");
     lockMutex(this);
     __tsan_acquire(this);
 }
 
-void QMutex::unlock()
+void QMutex::unlock() noexcept
 {
     static const auto unlockMutex = original<void (*)(QMutex *)>("_ZN6QMutex6unlockEv");
     __tsan_release(this);
