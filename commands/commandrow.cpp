@@ -10,7 +10,6 @@
 namespace {
 
 constexpr int addressDigits = 4;
-constexpr int hexBase = 16;
 
 } // namespace
 

@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr int crcSize = 2;
-
 QByteArray contentOf(const QByteArray &bytes, const FrameLayout &layout)
 {
     QByteArray content = bytes;

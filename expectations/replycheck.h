@@ -3,6 +3,7 @@
 #include "expectations/rowexpectation.h"
 #include "expectations/rowtrial.h"
 #include "frames/sendplan.h"
+#include "frames/timeunits.h"
 
 #include <QHash>
 
@@ -19,7 +20,7 @@ class ReplyCheck
 {
 public:
     /// How long a row's frames are taken for its answers at least, in ns.
-    static constexpr qint64 longestWaitNs = 1000000000;
+    static constexpr qint64 longestWaitNs = nsPerSecond;
 
     /// The rows of a block went out at that time.
     void noteSent(const QVector<BlockPart> &parts, qint64 timeNs);

@@ -1,13 +1,12 @@
 #include "expectations/rowtrial.h"
 
 #include "frames/messages.h"
+#include "frames/timeunits.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace {
-
-constexpr qint64 nsPerMillisecond = 1000000;
 
 QString textOf(const QVector<ExpectedFrame> &frames)
 {
@@ -27,7 +26,7 @@ QString bytesText(const QByteArray &bytes)
 
 QString millisecondsText(qint64 ns)
 {
-    return QString::number(double(ns) / double(nsPerMillisecond), 'f', 1) + QLatin1String(" ms");
+    return QString::number(double(ns) / double(nsPerMs), 'f', 1) + QLatin1String(" ms");
 }
 
 RowTrial::RowTrial(Expectation expectation, int timeoutMs, bool isStrict)
@@ -156,7 +155,7 @@ const QVector<ExpectedFrame> *RowTrial::awaited() const
 
 qint64 RowTrial::limitNs(const ExpectedFrame &frame, qint64 sinceNs) const
 {
-    return sinceNs + frame.withinMs.value_or(m_timeoutMs) * nsPerMillisecond;
+    return sinceNs + frame.withinMs.value_or(m_timeoutMs) * nsPerMs;
 }
 
 qint64 RowTrial::latestNs(const QVector<ExpectedFrame> &frames, qint64 sinceNs) const

@@ -1,5 +1,7 @@
 #include "expectations/values.h"
 
+#include "frames/hextext.h"
+
 #include <QRegularExpression>
 
 std::optional<int> numberOf(const QString &text, int least, int most)
@@ -25,7 +27,6 @@ std::optional<StartBytes> startBytesOf(const QString &text)
 {
     static const QRegularExpression form(
         QStringLiteral("\\A(?:0[xX])?([0-9A-Fa-f]{2}),?(?:0[xX])?([0-9A-Fa-f]{2})\\z"));
-    constexpr int hexBase = 16;
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch()) {
         return std::nullopt;

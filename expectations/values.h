@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frames/startbytes.h"
+#include "frames/timeunits.h"
 
 #include <QString>
 
@@ -10,7 +11,7 @@
 // none.
 
 /// The longest time that can be asked for, in ms: a day.
-inline constexpr int longestTimeMs = 24 * 60 * 60 * 1000;
+inline constexpr int longestTimeMs = secondsPerDay * msPerSecond;
 
 /// A decimal number in a range, without sign or blanks.
 std::optional<int> numberOf(const QString &text, int least, int most);

@@ -1,5 +1,7 @@
 #include "files/initext.h"
 
+#include "frames/hextext.h"
+
 #include <QTextCodec>
 
 #include <algorithm>
@@ -7,13 +9,11 @@
 
 namespace {
 
-constexpr int hexBase = 16;
-
 /// What stands behind a backslash, and the character that it means.
 const QByteArray escapeLetters = QByteArrayLiteral("0abfnrtv\"\\?'");
 const QByteArray escapedBytes = QByteArrayLiteral("\0\a\b\f\n\r\t\v\"\\?'");
 
-bool isHexDigit(char byte)
+bool isEscapeDigit(char byte)
 {
     return (byte >= '0' && byte <= '9') || (byte >= 'a' && byte <= 'f') ||
            (byte >= 'A' && byte <= 'F');
@@ -32,10 +32,10 @@ QString fromUtf8(const QByteArray &bytes)
 }
 
 /// Takes a value apart, from its first byte to its last one.
-class ValueReader
+class IniValueReader
 {
 public:
-    explicit ValueReader(const QByteArray &raw)
+    explicit IniValueReader(const QByteArray &raw)
         : m_raw(raw)
     {}
 
@@ -91,7 +91,7 @@ private:
             return {QLatin1Char(escapedBytes.at(known))};
         }
         const int begin = m_position;
-        while (letter == 'x' && !atEnd() && isHexDigit(m_raw.at(m_position))) {
+        while (letter == 'x' && !atEnd() && isEscapeDigit(m_raw.at(m_position))) {
             ++m_position;
         }
         const QByteArray digits = m_raw.mid(begin, m_position - begin);
@@ -123,7 +123,7 @@ QByteArray withEscapes(const QByteArray &text)
     bool isBehindNumber = false;
     for (const char byte : text) {
         const bool isControl = static_cast<uchar>(byte) < firstPrintable;
-        isBehindNumber = isControl || (isBehindNumber && isHexDigit(byte));
+        isBehindNumber = isControl || (isBehindNumber && isEscapeDigit(byte));
         if (isBehindNumber) {
             escaped += "\\x" + QByteArray::number(static_cast<uchar>(byte), hexBase);
         } else if (byte == '"' || byte == '\\') {
@@ -140,7 +140,7 @@ QByteArray withEscapes(const QByteArray &text)
 
 std::optional<QString> iniText(const QByteArray &raw)
 {
-    const std::optional<QString> text = ValueReader(raw).read();
+    const std::optional<QString> text = IniValueReader(raw).read();
     if (!text || !text->startsWith(QLatin1Char('@'))) {
         return text;
     }

@@ -9,8 +9,6 @@
 
 namespace {
 
-const QByteArray byteOrderMark = QByteArrayLiteral("\xEF\xBB\xBF");
-
 QString textOf(const QByteArray &line)
 {
     const DecodedLine utf8 = decodeLine(utf8Codec(), line);

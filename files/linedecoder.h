@@ -19,6 +19,9 @@ DecodedLine decodeLine(const QTextCodec &codec, const QByteArray &line);
 
 const QTextCodec &utf8Codec();
 
+/// What some programs put in front of UTF-8.
+inline const QByteArray byteOrderMark = QByteArrayLiteral("\xEF\xBB\xBF");
+
 /// What is tried where UTF-8 does not fit: GBK, or the system's own encoding on a platform
 /// without GBK.
 const QTextCodec &fallbackCodec();

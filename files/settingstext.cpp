@@ -1,6 +1,7 @@
 #include "files/settingstext.h"
 
 #include "files/initext.h"
+#include "files/linedecoder.h"
 
 #include <QVector>
 
@@ -51,8 +52,8 @@ public:
 private:
     void takeApart(QByteArray text)
     {
-        if (m_begin == 0 && text.startsWith("\xEF\xBB\xBF")) {
-            text.remove(0, 3);
+        if (m_begin == 0 && text.startsWith(byteOrderMark)) {
+            text.remove(0, byteOrderMark.size());
         }
         m_isHeader = text.startsWith('[');
         if (m_isHeader) {

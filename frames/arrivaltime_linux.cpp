@@ -1,11 +1,9 @@
 #include "frames/arrivaltime.h"
+#include "frames/timeunits.h"
 
 #include <ctime>
 
 namespace {
-
-constexpr qint64 nsPerSecond = 1000000000;
-constexpr qint64 nsPerUs = 1000;
 
 qint64 nsOf(clockid_t clock)
 {

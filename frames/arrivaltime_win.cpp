@@ -1,10 +1,10 @@
 #include "frames/arrivaltime.h"
+#include "frames/timeunits.h"
 
 #include <windows.h>
 
 namespace {
 
-constexpr qint64 nsPerSecond = 1000000000;
 /// A file time counts 100 ns each since 1601 began.
 constexpr qint64 fileTimesPerUs = 10;
 constexpr qint64 usFrom1601To1970 = 11644473600000000;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "frames/timeunits.h"
+
 #include <QtGlobal>
 
 /// When the next step is due. Each wait counts from the time that was planned for the step before
@@ -22,7 +24,6 @@ public:
     void wait(int milliseconds) { m_due += milliseconds * nsPerMs; }
 
 private:
-    static constexpr qint64 nsPerMs = 1000000;
     static constexpr qint64 latest = nsPerMs;
 
     qint64 m_due = 0;

@@ -11,7 +11,6 @@ constexpr int inlineBytes = 4096;
 using Buffer = QVarLengthArray<char, inlineBytes>;
 
 constexpr int instructionLengthOfLongForm = 65535;
-constexpr char longFormCommand = 0x10;
 
 /// Reads a command text once from left to right, gathering hex digits until a token ends.
 class PayloadScanner

@@ -7,6 +7,9 @@
 
 #include <optional>
 
+/// The command whose payload may be longer than one byte of length can tell.
+inline constexpr char longFormCommand = 0x10;
+
 /// How a payload is wrapped into a frame.
 struct FrameLayout
 {

@@ -5,6 +5,9 @@
 
 #include <optional>
 
+/// The base that numbers of hex digits are read and written in.
+inline constexpr int hexBase = 16;
+
 /// Value 0 to 15 of a hexadecimal digit of either case; nothing for any other character.
 std::optional<quint8> hexDigitValue(char digit);
 

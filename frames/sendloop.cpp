@@ -2,12 +2,12 @@
 
 #include "frames/alarmclock.h"
 #include "frames/sender.h"
+#include "frames/timeunits.h"
 
 #include <utility>
 
 namespace {
 
-constexpr qint64 nsPerMs = 1000000;
 constexpr qint64 lookAgainNs = 5 * nsPerMs;
 
 } // namespace

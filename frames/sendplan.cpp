@@ -1,5 +1,6 @@
 #include "frames/sendplan.h"
 
+#include "frames/crc16.h"
 #include "frames/delaymarker.h"
 #include "frames/messages.h"
 
@@ -154,8 +155,7 @@ QVector<LoopStep> loopSteps(const LoopPlan &plan, int intervalMs)
 
 int instructionLength(const QString &frameText, bool withCrc)
 {
-    constexpr int crcBytes = 2;
-    return frameText.size() / 2 + (withCrc ? crcBytes : 0);
+    return frameText.size() / 2 + (withCrc ? crcSize : 0);
 }
 
 QString overlongInstructionWarning(int instructionLength)

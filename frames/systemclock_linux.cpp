@@ -1,4 +1,5 @@
 #include "frames/systemclock.h"
+#include "frames/timeunits.h"
 
 #include <QSocketNotifier>
 
@@ -8,8 +9,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr qint64 nsPerSecond = 1000000000;
 
 timespec toTimespec(qint64 ns)
 {

@@ -1,5 +1,6 @@
 #include "log/datatext.h"
 
+#include "frames/crc16.h"
 #include "frames/hextext.h"
 
 #include <QStringList>
@@ -8,7 +9,6 @@
 
 namespace {
 
-constexpr int crcBytes = 2;
 constexpr int hexDigits = 2;
 
 /// As the log cuts frames: those of 8 bytes or more have an address.
@@ -85,7 +85,7 @@ QByteArray dataOf(const LogRecord &record)
         return record.bytes;
     }
     const int begin = placeOfData(record.bytes.size());
-    const int end = record.bytes.size() - (record.withCrc ? crcBytes : 0);
+    const int end = record.bytes.size() - (record.withCrc ? crcSize : 0);
     return record.bytes.mid(begin, std::max(0, end - begin));
 }
 

@@ -1,15 +1,11 @@
 #include "log/durationtext.h"
 
+#include "frames/timeunits.h"
+
 #include <array>
 
 namespace {
 
-constexpr qint64 nsPerUs = 1000;
-constexpr qint64 nsPerMs = 1000000;
-constexpr qint64 nsPerSecond = 1000000000;
-constexpr qint64 secondsPerMinute = 60;
-constexpr qint64 secondsPerHour = 3600;
-constexpr qint64 secondsPerDay = 86400;
 constexpr qint64 hoursInTwoDigits = 100;
 
 QString withSign(qint64 ns, const QString &text)

@@ -1,12 +1,12 @@
 #include "log/localtime.h"
 
+#include "frames/timeunits.h"
+
 #include <QDateTime>
 
 #include <cstdlib>
 
 namespace {
-
-constexpr qint64 usPerSecond = 1000000;
 
 /// Rounded down, also before 1970.
 qint64 secondOf(qint64 utcUs)
@@ -44,11 +44,9 @@ QString localTimeText(qint64 utcUs)
 
 QString utcOffsetText(int seconds)
 {
-    constexpr int secondsInMinute = 60;
-    constexpr int minutesPerHour = 60;
-    const int minutes = seconds / secondsInMinute;
-    const QTime offset =
-        QTime(0, 0).addSecs(std::abs(minutes) % (24 * minutesPerHour) * secondsInMinute);
+    const qint64 minutes = seconds / secondsPerMinute;
+    const qint64 ofDay = std::abs(minutes) * secondsPerMinute % secondsPerDay;
+    const QTime offset = QTime(0, 0).addSecs(static_cast<int>(ofDay));
     return (minutes < 0 ? QLatin1Char('-') : QLatin1Char('+')) +
            offset.toString(QStringLiteral("HH:mm"));
 }

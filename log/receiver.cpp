@@ -1,11 +1,12 @@
 #include "log/receiver.h"
 
+#include "frames/timeunits.h"
+
 #include <utility>
 
 namespace {
 
 constexpr int silenceMs = 50;
-constexpr qint64 nsPerMs = 1000000;
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frames/durations.h"
+#include "frames/timeunits.h"
 
 #include <QHash>
 
@@ -29,7 +30,7 @@ class ReplyTimes
 {
 public:
     /// How long an answer is waited for, in ns.
-    static constexpr qint64 longestWaitNs = 1000000000;
+    static constexpr qint64 longestWaitNs = nsPerSecond;
     /// Rows that are kept; of more, those go that were sent the longest ago.
     static constexpr int mostRows = 1024;
 

@@ -1,6 +1,7 @@
 #include "recording/csvexport.h"
 
 #include "frames/messages.h"
+#include "frames/timeunits.h"
 #include "recording/eventnames.h"
 #include "recording/recordingreader.h"
 #include "recording/utctext.h"
@@ -23,7 +24,6 @@ QByteArray csvField(const QString &text)
 /// Seconds with six digits behind the point.
 QByteArray csvSeconds(double nanoseconds)
 {
-    constexpr double nsPerSecond = 1e9;
     constexpr int digits = 6;
     return QByteArray::number(nanoseconds / nsPerSecond, 'f', digits);
 }

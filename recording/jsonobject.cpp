@@ -1,6 +1,7 @@
 #include "recording/jsonobject.h"
 
 #include "frames/messages.h"
+#include "frames/timeunits.h"
 #include "recording/eventnames.h"
 #include "recording/utctext.h"
 

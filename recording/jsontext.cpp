@@ -1,5 +1,6 @@
 #include "recording/jsontext.h"
 
+#include "frames/timeunits.h"
 #include "recording/utctext.h"
 
 namespace {

@@ -1,6 +1,7 @@
 #include "recording/pcapngreader.h"
 
 #include "frames/messages.h"
+#include "frames/timeunits.h"
 #include "recording/jsonobject.h"
 #include "recording/pcapngformat.h"
 #include "recording/pcapngoptions.h"

@@ -1,5 +1,6 @@
 #include "recording/pcapngwriter.h"
 
+#include "frames/timeunits.h"
 #include "recording/eventnames.h"
 #include "recording/jsontext.h"
 #include "recording/pcapngformat.h"
@@ -9,7 +10,6 @@
 
 namespace {
 
-constexpr qint64 usPerPacketSecond = 1000000;
 constexpr int longestOption = 0xFFFC;
 
 template<typename Number>
@@ -81,8 +81,8 @@ QByteArray serialHeader(ArrivalTime time, quint8 kind)
 {
     constexpr quint8 lineStates = 0;
     constexpr quint16 footer = 0;
-    return bigEndian(static_cast<quint32>(time.utcUs / usPerPacketSecond)) +
-           bigEndian(static_cast<quint32>(time.utcUs % usPerPacketSecond)) + bigEndian(kind) +
+    return bigEndian(static_cast<quint32>(time.utcUs / usPerSecond)) +
+           bigEndian(static_cast<quint32>(time.utcUs % usPerSecond)) + bigEndian(kind) +
            bigEndian(lineStates) + bigEndian(footer);
 }
 

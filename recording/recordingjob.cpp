@@ -1,13 +1,12 @@
 #include "recording/recordingjob.h"
 
+#include "frames/timeunits.h"
 #include "recording/recordingname.h"
 
 #include <utility>
 
 namespace {
 
-constexpr qint64 nsPerMs = 1000000;
-constexpr qint64 usPerMs = 1000;
 /// More names than that are not tried.
 constexpr int mostTakenNames = 10000;
 const QString fullDiskWords =
@@ -189,8 +188,7 @@ void RecordingJob::lookIfDue(ArrivalTime now)
 /// Whether a day after that of the file has begun. The calendar is asked once for each second.
 bool RecordingJob::isOfAnotherDay(ArrivalTime time)
 {
-    constexpr qint64 usPerCalendarSecond = 1000000;
-    const qint64 second = time.utcUs / usPerCalendarSecond;
+    const qint64 second = time.utcUs / usPerSecond;
     if (second == m_secondOfDay) {
         return false;
     }

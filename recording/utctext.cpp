@@ -1,14 +1,14 @@
 #include "recording/utctext.h"
 
+#include "frames/timeunits.h"
+
 #include <QDate>
 
 #include <algorithm>
 
 namespace {
 
-constexpr qint64 usOfSecond = 1000000;
-constexpr qint64 secondsPerDay = 86400;
-constexpr qint64 usPerDay = secondsPerDay * usOfSecond;
+constexpr qint64 usPerDay = secondsPerDay * usPerSecond;
 constexpr qint64 julianDayOf1970 = 2440588;
 constexpr qint64 earliestUs = -719162 * usPerDay;
 constexpr qint64 latestUs = 2932897 * usPerDay - 1;
@@ -44,7 +44,7 @@ QByteArray utcText(qint64 utcUs)
     const qint64 us = std::clamp(utcUs, earliestUs, latestUs);
     const qint64 days = (us >= 0 ? us : us - usPerDay + 1) / usPerDay;
     const qint64 ofDay = us - days * usPerDay;
-    const qint64 seconds = ofDay / usOfSecond;
+    const qint64 seconds = ofDay / usPerSecond;
     int year = 0;
     int month = 0;
     int day = 0;
@@ -53,10 +53,10 @@ QByteArray utcText(qint64 utcUs)
     putDigits(text, 4, 4, year);
     putDigits(text, 7, 2, month);
     putDigits(text, 10, 2, day);
-    putDigits(text, 13, 2, seconds / 3600);
-    putDigits(text, 16, 2, seconds / 60 % 60);
-    putDigits(text, 19, 2, seconds % 60);
-    putDigits(text, 26, 6, ofDay % usOfSecond);
+    putDigits(text, 13, 2, seconds / secondsPerHour);
+    putDigits(text, 16, 2, seconds / secondsPerMinute % 60);
+    putDigits(text, 19, 2, seconds % secondsPerMinute);
+    putDigits(text, 26, 6, ofDay % usPerSecond);
     return text;
 }
 
@@ -73,6 +73,6 @@ std::optional<qint64> parseUtcText(const QByteArray &text)
         return std::nullopt;
     }
     const qint64 seconds = (hour * 60 + minute) * 60 + second;
-    return (date.toJulianDay() - julianDayOf1970) * usPerDay + seconds * usOfSecond +
+    return (date.toJulianDay() - julianDayOf1970) * usPerDay + seconds * usPerSecond +
            numberAt(text, 20, 6);
 }

@@ -1,5 +1,6 @@
 #include "runner/jsonreport.h"
 
+#include "frames/timeunits.h"
 #include "recording/jsonlineswriter.h"
 #include "recording/utctext.h"
 

@@ -1,5 +1,7 @@
 #include "runner/junitreport.h"
 
+#include "frames/timeunits.h"
+
 #include <utility>
 
 namespace {
@@ -25,7 +27,6 @@ QByteArray xmlText(const QString &text)
 
 QByteArray secondsText(qint64 ns)
 {
-    constexpr double nsPerSecond = 1e9;
     constexpr int decimals = 6;
     return QByteArray::number(double(ns) / nsPerSecond, 'f', decimals);
 }

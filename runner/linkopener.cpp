@@ -1,5 +1,6 @@
 #include "runner/linkopener.h"
 
+#include "frames/timeunits.h"
 #include "links/hid/hiddevices.h"
 #include "links/linktexts.h"
 #include "runner/deviceidfile.h"
@@ -11,7 +12,6 @@
 namespace {
 
 constexpr int nextTryMs = 100;
-constexpr qint64 nsPerSecond = 1000000000;
 
 QString whyNoneFound(const HidChoice &wanted)
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "frames/timeunits.h"
+
 #include <QtGlobal>
 
 #include <algorithm>
@@ -34,7 +36,5 @@ public:
     }
 
 private:
-    static constexpr qint64 nsPerMs = 1000000;
-
     qint64 m_due = 0;
 };

@@ -6,6 +6,8 @@
 #include "runner/jsonreport.h"
 #include "runner/piperow.h"
 
+#include <chrono>
+
 namespace {
 
 /// Lines that have been read ahead.
@@ -63,8 +65,7 @@ void PipeJob::start()
         return;
     }
     if (m_options.rules.totalTimeoutSeconds > 0) {
-        constexpr int msPerSecond = 1000;
-        m_totalTime.start(m_options.rules.totalTimeoutSeconds * msPerSecond);
+        m_totalTime.start(std::chrono::seconds(m_options.rules.totalTimeoutSeconds));
     }
     m_opener.start();
 }

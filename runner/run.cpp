@@ -1,6 +1,7 @@
 #include "runner/run.h"
 
 #include "frames/alarmclock.h"
+#include "frames/timeunits.h"
 #include "runner/wire.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@
 
 namespace {
 
-constexpr qint64 nsPerMs = 1000000;
 /// How soon a link that takes nothing just now is asked again.
 constexpr qint64 recheckNs = nsPerMs;
 /// How long a last row that expects nothing is given to reach the device, and be answered.

@@ -1,5 +1,7 @@
 #include "runner/runoptions.h"
 
+#include "frames/hextext.h"
+#include "frames/timeunits.h"
 #include "links/hid/hidpacket.h"
 #include "runner/optionreader.h"
 
@@ -105,7 +107,6 @@ void readHid(OptionReader &reader, HidChoice &hid)
 {
     static const QRegularExpression form(
         QStringLiteral("\\A([0-9A-Fa-f]{4}):([0-9A-Fa-f]{4})(?::(.+))?\\z"));
-    constexpr int hexBase = 16;
     constexpr int highestReportId = 255;
     reader.read("hid", "vendor and product ID such as EEEF:1616", [&hid](const QString &text) {
         const QRegularExpressionMatch match = form.match(text);
@@ -173,7 +174,7 @@ void readRules(OptionReader &reader, RunRules &rules)
     rules.isStrict = reader.has("strict");
     rules.failsFast = reader.has("fail-fast");
     reader.readNumber("retries", 0, mostRetries, rules.retries);
-    reader.readNumber("total-timeout", 1, longestTimeMs / 1000, rules.totalTimeoutSeconds);
+    reader.readNumber("total-timeout", 1, secondsPerDay, rules.totalTimeoutSeconds);
 }
 
 void readOutput(OptionReader &reader, OutputOptions &output)

@@ -1,5 +1,6 @@
 #include "runner/tapreport.h"
 
+#include "frames/timeunits.h"
 #include "runner/textreport.h"
 
 namespace {
@@ -53,8 +54,8 @@ QByteArray TapReport::row(const RowResult &result)
         text += "  message: " + yamlText(result.why) + '\n';
     }
     if (result.replyTimeNs) {
-        constexpr double nsInMs = 1e6;
-        text += "  duration_ms: " + QByteArray::number(double(*result.replyTimeNs) / nsInMs) + '\n';
+        text +=
+            "  duration_ms: " + QByteArray::number(double(*result.replyTimeNs) / nsPerMs) + '\n';
     }
     return text + "  ...\n";
 }

@@ -3,12 +3,11 @@
 #include "expectations/rowexpectation.h"
 #include "files/commandfile.h"
 #include "files/directivelines.h"
+#include "files/linedecoder.h"
 #include "files/recoverytext.h"
 #include "frames/delaymarker.h"
 
 namespace {
-
-constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 
 QByteArray withoutLineEnd(QByteArray line)
 {
@@ -108,7 +107,7 @@ private:
 TestFile readTestFile(const QString &name, const QByteArray &bytes)
 {
     TestFileReader reader(name, isRecoveryText(bytes));
-    int begin = bytes.startsWith(byteOrderMark) ? int(sizeof byteOrderMark) - 1 : 0;
+    int begin = bytes.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
     while (begin < bytes.size() && !reader.isFull()) {
         const int lineEnd = bytes.indexOf('\n', begin);
         const int end = lineEnd < 0 ? bytes.size() : lineEnd + 1;

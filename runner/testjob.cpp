@@ -6,6 +6,8 @@
 #include "runner/tapreport.h"
 #include "runner/textreport.h"
 
+#include <chrono>
+
 namespace {
 
 bool areColoursWanted(OutputOptions::Colour colour)
@@ -87,8 +89,7 @@ void TestJob::start()
         return;
     }
     if (m_options.rules.totalTimeoutSeconds > 0) {
-        constexpr int msPerSecond = 1000;
-        m_totalTime.start(m_options.rules.totalTimeoutSeconds * msPerSecond);
+        m_totalTime.start(std::chrono::seconds(m_options.rules.totalTimeoutSeconds));
     }
     m_opener.start();
 }

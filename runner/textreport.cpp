@@ -1,6 +1,7 @@
 #include "runner/textreport.h"
 
 #include "expectations/rowtrial.h"
+#include "frames/timeunits.h"
 
 #include <QStringList>
 
@@ -18,7 +19,6 @@ QByteArray asLine(const QString &text)
 
 QString exactMilliseconds(qint64 ns)
 {
-    constexpr double nsPerMs = 1e6;
     constexpr int decimals = 3;
     return QString::number(double(ns) / nsPerMs, 'f', decimals);
 }

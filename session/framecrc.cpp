@@ -5,17 +5,14 @@
 namespace {
 
 constexpr int startSize = 2;
-constexpr int crcSize = 2;
 constexpr int shortLength = 1;
 constexpr int longLength = 3;
-/// The command whose payload may be longer than one length byte can tell.
-constexpr char longCommand = 0x10;
 
 int lengthSize(const QByteArray &frame, int begin)
 {
     constexpr int longestShortFrame = 0xFF;
     const bool isLong = frame.size() > begin + longestShortFrame && frame.at(begin) == 0 &&
-                        frame.at(begin + longLength) == longCommand;
+                        frame.at(begin + longLength) == longFormCommand;
     return isLong ? longLength : shortLength;
 }
 

@@ -1,15 +1,15 @@
 #include "session/portreopener.h"
 
 #include "frames/alarmclock.h"
+#include "frames/timeunits.h"
 
 #include <utility>
 
 namespace {
 
-constexpr qint64 nsPerReopenMs = 1000000;
 /// A device that goes and comes again is told to have come at most so long before its port hangs
 /// up.
-constexpr qint64 newsLastNs = 1000 * nsPerReopenMs;
+constexpr qint64 newsLastNs = nsPerSecond;
 
 bool areSameLines(const SerialSettings &left, const SerialSettings &right)
 {
@@ -102,7 +102,7 @@ bool PortReopener::isWanted(const QString &portName) const
 /// From the event loop, since whoever told of the port may have more to tell.
 void PortReopener::beginToTry()
 {
-    m_tryUntilNs = m_clock->now() + longestTryMs * nsPerReopenMs;
+    m_tryUntilNs = m_clock->now() + longestTryMs * nsPerMs;
     m_clock->setAlarm(m_clock->now());
 }
 
@@ -115,7 +115,7 @@ void PortReopener::tryToOpen()
     if (m_link.open(wanted)) {
         emit reopened(wanted.portName);
     } else if (m_clock->now() < m_tryUntilNs) {
-        m_clock->setAlarm(m_clock->now() + retryMs * nsPerReopenMs);
+        m_clock->setAlarm(m_clock->now() + retryMs * nsPerMs);
     } else if (m_isBackByName) {
         emit refused(wanted.portName);
     }

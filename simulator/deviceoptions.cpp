@@ -1,5 +1,7 @@
 #include "simulator/deviceoptions.h"
 
+#include "frames/hextext.h"
+
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
@@ -53,15 +55,15 @@ std::optional<StartBytes> parseHeader(const QString &text)
     if (!match.hasMatch()) {
         return std::nullopt;
     }
-    return StartBytes{static_cast<quint8>(match.captured(1).toUInt(nullptr, 16)),
-                      static_cast<quint8>(match.captured(2).toUInt(nullptr, 16))};
+    return StartBytes{static_cast<quint8>(match.captured(1).toUInt(nullptr, hexBase)),
+                      static_cast<quint8>(match.captured(2).toUInt(nullptr, hexBase))};
 }
 
 /// Takes the values over from the command line; the first one that is wrong is remembered.
-class ValueReader
+class DeviceOptionReader
 {
 public:
-    explicit ValueReader(const QCommandLineParser &parser)
+    explicit DeviceOptionReader(const QCommandLineParser &parser)
         : m_parser(parser)
     {}
 
@@ -179,7 +181,7 @@ DeviceArguments parseDeviceArguments(const QStringList &arguments)
     options.withCrc = parser.isSet("crc");
     options.split = parser.isSet("split");
     options.mute = parser.isSet("mute");
-    ValueReader values(parser);
+    DeviceOptionReader values(parser);
     values.readHeader(options.startBytes);
     values.readNumber("delay", 0, longestDelayMs, options.delayMs);
     values.readNumber("garbage", 1, std::numeric_limits<int>::max(), options.garbageEvery);

@@ -1,13 +1,12 @@
 #include "simulator/deviceparser.h"
 
 #include "frames/crc16.h"
+#include "frames/framebuilder.h"
 
 namespace {
 
 constexpr int headerSize = 2;
-constexpr int crcSize = 2;
 constexpr int shortestLongForm = 0x100;
-constexpr char longFormCommand = 0x10;
 
 bool endsWithItsCrc(const QByteArray &content)
 {

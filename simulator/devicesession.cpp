@@ -1,5 +1,7 @@
 #include "simulator/devicesession.h"
 
+#include "frames/crc16.h"
+#include "frames/timeunits.h"
 #include "simulator/pseudoterminal.h"
 
 #include <QtEndian>
@@ -9,7 +11,6 @@
 namespace {
 
 constexpr int longestContent = 0xFF;
-constexpr int crcSize = 2;
 /// How long the rest of a frame is waited for.
 constexpr int quietMs = 1000;
 /// More requests than that don't wait for their replies; the others stay without.
@@ -118,7 +119,7 @@ void DeviceSession::waitForNextStatus()
     if (m_options.chatterHz == 0) {
         return;
     }
-    const qint64 dueMs = (m_statusesSinceChatterBegan + 1) * 1000 / m_options.chatterHz;
+    const qint64 dueMs = (m_statusesSinceChatterBegan + 1) * msPerSecond / m_options.chatterHz;
     const qint64 wait = dueMs - m_sinceChatterBegan.elapsed();
     if (wait < -mostLateMs) {
         beginChatter();

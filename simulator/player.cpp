@@ -1,5 +1,6 @@
 #include "simulator/player.h"
 
+#include "frames/timeunits.h"
 #include "simulator/pseudoterminal.h"
 
 #include <algorithm>
@@ -56,7 +57,6 @@ void Player::waitForDue()
         m_timer.stop();
         return;
     }
-    constexpr qint64 nsPerMs = 1000000;
     constexpr qint64 longestWaitMs = 60000;
     const qint64 wait = (m_due.begin()->first - m_clock.nsecsElapsed() + nsPerMs - 1) / nsPerMs;
     m_timer.start(static_cast<int>(std::clamp<qint64>(wait, 0, longestWaitMs)));

@@ -1,4 +1,5 @@
 #include "expectations/replycheck.h"
+#include "frames/timeunits.h"
 #include "hexbytes.h"
 
 #include <QtTest>
@@ -27,8 +28,6 @@ private slots:
 
 namespace {
 
-constexpr qint64 checkMs = 1000000;
-
 BlockPart partExpecting(const char *lines)
 {
     BlockPart part;
@@ -43,7 +42,7 @@ BlockPart freePart()
 
 ReceivedFrame payloadAt(int ms, const char *digits)
 {
-    return {hex(digits), hex(digits), ReceivedFrame::Crc::None, ms * checkMs};
+    return {hex(digits), hex(digits), ReceivedFrame::Crc::None, ms * nsPerMs};
 }
 
 /// What is handed up as soon as it is read.
@@ -85,7 +84,7 @@ void TestReplyCheck::anotherReplyIsNot()
 void TestReplyCheck::aFrameThatComesUncalledIsNotJudged()
 {
     ReplyCheck check;
-    check.noteSent({partExpecting("//? 03\n")}, 10 * checkMs);
+    check.noteSent({partExpecting("//? 03\n")}, 10 * nsPerMs);
     QCOMPARE(judged(check, payloadAt(9, "53")), QString());
     QCOMPARE(judged(check, payloadAt(11, "03")), QString());
     QCOMPARE(judged(check, payloadAt(12, "53")), QString());
@@ -131,9 +130,9 @@ void TestReplyCheck::aLostReplyBlamesNoOther()
 {
     ReplyCheck check;
     check.noteSent({partExpecting("//? 01\n")}, 0);
-    check.noteSent({partExpecting("//? 02\n")}, 100 * checkMs);
+    check.noteSent({partExpecting("//? 02\n")}, 100 * nsPerMs);
     QCOMPARE(judged(check, payloadAt(105, "02")), QString());
-    check.noteSent({partExpecting("//? 03\n")}, 200 * checkMs);
+    check.noteSent({partExpecting("//? 03\n")}, 200 * nsPerMs);
     QCOMPARE(judged(check, payloadAt(205, "04")), QString("expected 03, got 04 after 5.0 ms"));
 }
 
@@ -141,7 +140,7 @@ void TestReplyCheck::rowsThatOutrunTheirAnswersAreJudgedByWhatFits()
 {
     ReplyCheck check;
     for (int row = 0; row < 16; ++row) {
-        check.noteSent({partExpecting(row % 2 == 0 ? "//? 01\n" : "//? 02\n")}, row * checkMs);
+        check.noteSent({partExpecting(row % 2 == 0 ? "//? 01\n" : "//? 02\n")}, row * nsPerMs);
     }
     for (int row = 0; row < 16; ++row) {
         QCOMPARE(judged(check, payloadAt(16, row % 2 == 0 ? "01" : "02")), QString());
@@ -163,7 +162,7 @@ void TestReplyCheck::aRowWithoutExpectationsTakesOneFrame()
 {
     ReplyCheck check;
     check.noteSent({partExpecting("//? 01\n")}, 0);
-    check.noteSent({freePart()}, 10 * checkMs);
+    check.noteSent({freePart()}, 10 * nsPerMs);
     QCOMPARE(judged(check, payloadAt(11, "77")), QString());
     QVERIFY(judged(check, payloadAt(12, "78")).startsWith("expected 01, got 78"));
 }
@@ -172,11 +171,11 @@ void TestReplyCheck::whatIsHandedUpTogetherMayAnswerWhatWasSentMeanwhile()
 {
     ReplyCheck check;
     const auto judgedLater = [&check](const char *payload) {
-        return check.judge(payloadAt(3, payload), 9 * checkMs);
+        return check.judge(payloadAt(3, payload), 9 * nsPerMs);
     };
     check.noteSent({partExpecting("//? 01\n")}, 0);
-    check.noteSent({partExpecting("//? 02  within 2\n")}, 4 * checkMs);
-    check.noteSent({partExpecting("//? 03\n")}, 5 * checkMs);
+    check.noteSent({partExpecting("//? 02  within 2\n")}, 4 * nsPerMs);
+    check.noteSent({partExpecting("//? 03\n")}, 5 * nsPerMs);
     QCOMPARE(judgedLater("01"), QString());
     QCOMPARE(judgedLater("02"), QString());
     QCOMPARE(judgedLater("83"), QString("expected 03, got 83 after 4.0 ms"));
@@ -186,8 +185,8 @@ void TestReplyCheck::whatIsHandedUpTogetherMayAnswerWhatWasSentMeanwhile()
 void TestReplyCheck::theFirstOfWhatIsHandedUpAnswersNothingLater()
 {
     ReplyCheck check;
-    check.noteSent({partExpecting("//? 02\n")}, 4 * checkMs);
-    QCOMPARE(check.judge(payloadAt(3, "83"), 9 * checkMs), QString());
+    check.noteSent({partExpecting("//? 02\n")}, 4 * nsPerMs);
+    QCOMPARE(check.judge(payloadAt(3, "83"), 9 * nsPerMs), QString());
     QVERIFY(check.isWaiting());
 }
 
@@ -197,8 +196,8 @@ void TestReplyCheck::whatIsOldIsForgotten()
     check.noteSent({partExpecting("//? 01\n")}, 0);
     check.noteSent({partExpecting("//? 01  within 5000\n")}, 0);
     QCOMPARE(judged(check, payloadAt(4000, "01")), QString());
-    check.noteSent({partExpecting("//? 01\n")}, 5000 * checkMs);
-    check.noteSent({freePart()}, 7000 * checkMs);
+    check.noteSent({partExpecting("//? 01\n")}, 5000 * nsPerMs);
+    check.noteSent({freePart()}, 7000 * nsPerMs);
     QVERIFY(!check.isWaiting());
     for (int row = 0; row < 100000; ++row) {
         check.noteSent({partExpecting("//? 01  within 86400000\n")}, row);

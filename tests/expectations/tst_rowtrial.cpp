@@ -1,5 +1,6 @@
 #include "expectations/rowexpectation.h"
 #include "expectations/rowtrial.h"
+#include "frames/timeunits.h"
 
 #include <QtTest>
 
@@ -22,8 +23,7 @@ private slots:
 
 namespace {
 
-constexpr qint64 msInNs = 1000000;
-constexpr qint64 sentAt = 1000 * msInNs;
+constexpr qint64 sentAt = nsPerSecond;
 
 Expectation expectationOf(const QString &lines)
 {
@@ -33,7 +33,7 @@ Expectation expectationOf(const QString &lines)
 ReceivedFrame frameAt(qint64 ms, const char *payload)
 {
     const QByteArray bytes = QByteArray::fromHex(payload);
-    return {bytes, bytes, ReceivedFrame::Crc::None, sentAt + ms * msInNs};
+    return {bytes, bytes, ReceivedFrame::Crc::None, sentAt + ms * nsPerMs};
 }
 
 /// Lets what is written like "10:83 02;500" happen: frames at their times, and the time at the end.
@@ -45,7 +45,7 @@ void play(RowTrial &trial, const QString &story)
         if (part.contains(':')) {
             trial.take(frameAt(ms, part.section(':', 1).toLatin1()));
         } else {
-            trial.passTime(sentAt + ms * msInNs);
+            trial.passTime(sentAt + ms * nsPerMs);
         }
     }
 }
@@ -156,7 +156,7 @@ void TestRowTrial::replyTimeIsThatOfTheFirstFrame()
 {
     RowTrial trial(expectationOf("//? 03|//+ 04"), 500, false);
     play(trial, "10:03;30:04");
-    QCOMPARE(trial.replyTimeNs(), std::optional(10 * msInNs));
+    QCOMPARE(trial.replyTimeNs(), std::optional(10 * nsPerMs));
 }
 
 void TestRowTrial::dueIsWhenTheWaitEnds_data()
@@ -177,7 +177,7 @@ void TestRowTrial::dueIsWhenTheWaitEnds()
     QFETCH(int, dueMs);
     RowTrial trial(expectationOf(expected), 500, false);
     trial.begin(sentAt);
-    QCOMPARE(trial.dueNs(), sentAt + dueMs * msInNs);
+    QCOMPARE(trial.dueNs(), sentAt + dueMs * nsPerMs);
     trial.passTime(trial.dueNs() - 1);
     QVERIFY(!trial.isOver());
     trial.passTime(trial.dueNs());
@@ -189,7 +189,7 @@ void TestRowTrial::strayBytesFailOnlyAStrictTrial()
     for (const bool isStrict : {false, true}) {
         RowTrial trial(expectationOf("//? 03"), 500, isStrict);
         trial.begin(sentAt);
-        trial.takeStray("\xFF", sentAt + 10 * msInNs);
+        trial.takeStray("\xFF", sentAt + 10 * nsPerMs);
         QCOMPARE(trial.failure(), isStrict ? QString("no frame: FF after 10.0 ms") : QString());
         QVERIFY(!trial.isOver());
     }

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "frames/alarmclock.h"
+#include "frames/timeunits.h"
 
 #include <algorithm>
 #include <optional>
-
-constexpr qint64 nsPerMs = 1000000;
 
 /// A clock that a test moves on.
 class HandClock : public AlarmClock
@@ -38,6 +37,6 @@ private:
         emit rang();
     }
 
-    qint64 m_now = 1000 * nsPerMs;
+    qint64 m_now = nsPerSecond;
     std::optional<qint64> m_alarm;
 };

@@ -1,3 +1,4 @@
+#include "frames/timeunits.h"
 #include "loopbench.h"
 
 #include <QtTest>
@@ -22,7 +23,7 @@ QVector<qint64> msOf(const QSignalSpy &late)
 {
     QVector<qint64> all;
     for (const QList<QVariant> &told : late) {
-        all.append(told.first().toLongLong() / 1000000);
+        all.append(told.first().toLongLong() / nsPerMs);
     }
     return all;
 }

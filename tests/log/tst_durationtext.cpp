@@ -1,3 +1,4 @@
+#include "frames/timeunits.h"
 #include "log/durationtext.h"
 
 #include <QtTest>
@@ -16,10 +17,7 @@ private slots:
 
 namespace {
 
-constexpr qint64 usInNs = 1000;
-constexpr qint64 msInNs = 1000000;
-constexpr qint64 secondInNs = 1000000000;
-constexpr qint64 dayInNs = 86400 * secondInNs;
+constexpr qint64 dayInNs = secondsPerDay * nsPerSecond;
 
 } // namespace
 
@@ -34,29 +32,29 @@ void TestDurationText::inThreeDigits_data()
     add(0, "0 µs");
     add(499, "0 µs");
     add(500, "1 µs");
-    add(850 * usInNs, "850 µs");
+    add(850 * nsPerUs, "850 µs");
     add(999499, "999 µs");
     add(999500, "1.00 ms");
-    add(1234 * usInNs, "1.23 ms");
+    add(1234 * nsPerUs, "1.23 ms");
     add(9994999, "9.99 ms");
     add(9995000, "10.0 ms");
-    add(12345 * usInNs, "12.3 ms");
+    add(12345 * nsPerUs, "12.3 ms");
     add(99949999, "99.9 ms");
     add(99950000, "100 ms");
     add(999499999, "999 ms");
     add(999500000, "1.00 s");
-    add(1050 * msInNs, "1.05 s");
-    add(59949 * msInNs, "59.9 s");
-    add(59950 * msInNs, "1m 00s");
-    add(725 * secondInNs, "12m 05s");
-    add(3599499 * msInNs, "59m 59s");
-    add(3599500 * msInNs, "1h 00m");
-    add(11220 * secondInNs, "3h 07m");
-    add(359999 * secondInNs, "99h 59m");
-    add(360000 * secondInNs, "4 d");
+    add(1050 * nsPerMs, "1.05 s");
+    add(59949 * nsPerMs, "59.9 s");
+    add(59950 * nsPerMs, "1m 00s");
+    add(725 * nsPerSecond, "12m 05s");
+    add(3599499 * nsPerMs, "59m 59s");
+    add(3599500 * nsPerMs, "1h 00m");
+    add(11220 * nsPerSecond, "3h 07m");
+    add(359999 * nsPerSecond, "99h 59m");
+    add(360000 * nsPerSecond, "4 d");
     add(12 * dayInNs, "12 d");
-    add(-12345 * usInNs, "−12.3 ms");
-    add(-725 * secondInNs, "−12m 05s");
+    add(-12345 * nsPerUs, "−12.3 ms");
+    add(-725 * nsPerSecond, "−12m 05s");
 }
 
 void TestDurationText::inThreeDigits()
@@ -89,8 +87,8 @@ void TestDurationText::toTheMicrosecond_data()
     add(12345678, "12.346 ms");
     add(999999499, "999.999 ms");
     add(999999500, "1.000000 s");
-    add(86400 * secondInNs + 1000, "86400.000001 s");
-    add(-12345 * usInNs, "−12.345 ms");
+    add(dayInNs + nsPerUs, "86400.000001 s");
+    add(-12345 * nsPerUs, "−12.345 ms");
 }
 
 void TestDurationText::toTheMicrosecond()

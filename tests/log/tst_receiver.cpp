@@ -1,4 +1,5 @@
 #include "frames/hextext.h"
+#include "frames/timeunits.h"
 #include "hexbytes.h"
 #include "log/receiver.h"
 
@@ -200,10 +201,9 @@ void TestReceiver::aGapThatTheTimerHasMissedCounts()
 {
     Heard heard;
     heard.receiver.setGap(5);
-    constexpr qint64 nsInMs = 1000000;
-    heard.receiver.take(hex("01"), {0, 100 * nsInMs});
-    heard.receiver.take(hex("02"), {0, 104 * nsInMs});
-    heard.receiver.take(hex("03"), {0, 109 * nsInMs});
+    heard.receiver.take(hex("01"), {0, 100 * nsPerMs});
+    heard.receiver.take(hex("02"), {0, 104 * nsPerMs});
+    heard.receiver.take(hex("03"), {0, 109 * nsPerMs});
     QCOMPARE(heard.pieces, QStringList{"F 01 02 "});
 }
 

@@ -1,3 +1,4 @@
+#include "frames/timeunits.h"
 #include "log/replytexts.h"
 
 #include <QtTest>
@@ -13,12 +14,6 @@ private slots:
     void theLinesOfALoopStayWhereTheyAre();
 };
 
-namespace {
-
-constexpr qint64 textMs = 1000000;
-
-} // namespace
-
 void TestReplyTexts::aRowThatWasNeverSentSaysNothing()
 {
     QCOMPARE(rowRepliesText(nullptr), QString());
@@ -30,9 +25,9 @@ void TestReplyTexts::aRowSaysHowItWasAnswered()
     replies.sent = 3;
     replies.lost = 1;
     QCOMPARE(rowRepliesText(&replies), QString("Sent 3, answered 0, lost 1 (none within 1 s)"));
-    replies.times.add(2 * textMs);
-    replies.times.add(40 * textMs);
-    replies.lastNs = 2 * textMs;
+    replies.times.add(2 * nsPerMs);
+    replies.times.add(40 * nsPerMs);
+    replies.lastNs = 2 * nsPerMs;
     QCOMPARE(rowRepliesText(&replies),
              QString("Sent 3, answered 2, lost 1 (none within 1 s)\n"
                      "Reply time: last 2.00 ms, median 2.01 ms, 99 % within 40.0 ms"));
@@ -45,7 +40,7 @@ void TestReplyTexts::aLoopSaysHowItGoes()
     figures.received = 22;
     figures.replies.sent = 24;
     figures.replies.lost = 2;
-    figures.replies.times.add(3 * textMs);
+    figures.replies.times.add(3 * nsPerMs);
     figures.lateness.add(50000);
     figures.lateness.add(1200000);
     QCOMPARE(loopFiguresText(figures), QString("Passes: 12\nFrames: 24 out, 22 in, 2 lost\n"
@@ -58,7 +53,7 @@ void TestReplyTexts::theLinesOfALoopStayWhereTheyAre()
     LoopFigures figures;
     const int lines = loopFiguresText(figures).count('\n');
     QVERIFY(loopFiguresText(figures).contains("Reply: –, 99 %: –"));
-    figures.replies.times.add(3 * textMs);
+    figures.replies.times.add(3 * nsPerMs);
     figures.lateness.add(1200000);
     QCOMPARE(loopFiguresText(figures).count('\n'), lines);
 }

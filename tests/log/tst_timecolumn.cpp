@@ -1,3 +1,4 @@
+#include "frames/timeunits.h"
 #include "log/timecolumn.h"
 #include "timezone.h"
 
@@ -23,9 +24,9 @@ constexpr qint64 twoInTheAfternoon = 1795352607123456;
 LogRecord recordAt(qint64 monotonicNs, qint64 begunNs)
 {
     LogRecord record;
-    record.utcUs = twoInTheAfternoon + monotonicNs / 1000;
+    record.utcUs = twoInTheAfternoon + monotonicNs / nsPerUs;
     record.monotonicNs = monotonicNs;
-    record.begun = {twoInTheAfternoon + begunNs / 1000, begunNs};
+    record.begun = {twoInTheAfternoon + begunNs / nsPerUs, begunNs};
     return record;
 }
 
@@ -34,7 +35,7 @@ RowTime timeAt(std::optional<qint64> sinceBeforeNs, qint64 takenNs = 0)
     RowTime time;
     time.utcUs = twoInTheAfternoon;
     time.sinceBeforeNs = sinceBeforeNs;
-    time.begunUtcUs = twoInTheAfternoon - takenNs / 1000;
+    time.begunUtcUs = twoInTheAfternoon - takenNs / nsPerUs;
     time.takenNs = takenNs;
     return time;
 }

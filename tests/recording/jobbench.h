@@ -1,12 +1,11 @@
 #pragma once
 
+#include "frames/timeunits.h"
 #include "recording/recordingjob.h"
 #include "recordingsamples.h"
 
 #include <QMap>
 #include <QtTest>
-
-constexpr qint64 usOfSecond = 1000000;
 
 /// Files in memory, with the faults of a disk.
 class MemorySink : public RecordingSink
@@ -70,7 +69,7 @@ public:
         plan.path = path;
         plan.head = sampleHead();
         plan.limits.localTime = [](qint64 utcUs) {
-            return QDateTime::fromMSecsSinceEpoch(utcUs / 1000, Qt::UTC);
+            return QDateTime::fromMSecsSinceEpoch(utcUs / usPerMs, Qt::UTC);
         };
     }
 
@@ -93,4 +92,4 @@ inline RecordEvent frameAt(qint64 us)
 }
 
 /// Microseconds from the sample's time to midnight: 2 h 15 min 58.876544 s.
-constexpr qint64 toMidnight = ((2 * 60 + 15) * 60 + 58) * usOfSecond + 876544;
+constexpr qint64 toMidnight = ((2 * 60 + 15) * 60 + 58) * usPerSecond + 876544;

@@ -1,5 +1,6 @@
 #include "recordingsamples.h"
 
+#include "frames/timeunits.h"
 #include "recording/recordingreader.h"
 #include "recording/wiretally.h"
 
@@ -10,7 +11,7 @@
 
 ArrivalTime sampleTime(qint64 us)
 {
-    return {sampleUtcUs + us, sampleMonoNs + us * 1000};
+    return {sampleUtcUs + us, sampleMonoNs + us * nsPerUs};
 }
 
 RecordEvent sampleEvent(RecordEvent::Kind kind, const char *digits, qint64 us)

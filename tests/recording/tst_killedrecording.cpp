@@ -1,3 +1,4 @@
+#include "frames/timeunits.h"
 #include "recordingsamples.h"
 
 #include <QProcess>
@@ -49,7 +50,6 @@ void TestKilledRecording::theFileMissesAtMostItsLastSecond()
     for (int i = 0; i < read.events.size(); ++i) {
         QCOMPARE(read.events.at(i).row, i + 1);
     }
-    constexpr qint64 nsPerSecond = 1000000000;
     QVERIFY(killed.monotonicNs - read.events.last().time.monotonicNs < nsPerSecond);
 }
 

@@ -1,3 +1,4 @@
+#include "frames/timeunits.h"
 #include "recordingsamples.h"
 
 #include <QtTest>
@@ -64,7 +65,7 @@ void TestPcapng::aPacketIsThatOfASerialLine()
     QCOMPARE(wordAt(file, packet + 20), 12U + 11U);
     QCOMPARE(wordAt(file, packet + 24), 12U + 11U);
     const QByteArray content = file.mid(packet + 28, 12 + 11);
-    QCOMPARE(qFromBigEndian<quint32>(content.constData()), quint32(sampleUtcUs / 1000000));
+    QCOMPARE(qFromBigEndian<quint32>(content.constData()), quint32(sampleUtcUs / usPerSecond));
     QCOMPARE(qFromBigEndian<quint32>(content.constData() + 4), 123466U);
     QCOMPARE(content.mid(8).toHex(), QByteArray("01000000") + sampleEvents().at(1).bytes.toHex());
 }

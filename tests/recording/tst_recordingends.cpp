@@ -54,7 +54,7 @@ void TestRecordingEnds::aFailedSyncEndsIt()
     JobBench bench;
     bench.sink.failsToSync = true;
     RecordingJob &job = bench.begun();
-    job.pass(sampleTime(5 * usOfSecond));
+    job.pass(sampleTime(5 * usPerSecond));
     QVERIFY(!job.status().isRunning);
     QCOMPARE(job.status().error, QString("no luck"));
 }
@@ -65,12 +65,12 @@ void TestRecordingEnds::aDiskThatFillsUpEndsItInGoodOrder()
     RecordingJob &job = bench.begun();
     job.take(frameAt(0));
     bench.sink.free = 200LL * 1024 * 1024;
-    job.pass(sampleTime(usOfSecond));
+    job.pass(sampleTime(usPerSecond));
     QVERIFY(job.status().isRunning);
     bench.sink.free = 200LL * 1024 * 1024 - 1;
-    job.pass(sampleTime(2 * usOfSecond - 1));
+    job.pass(sampleTime(2 * usPerSecond - 1));
     QVERIFY(job.status().isRunning);
-    job.pass(sampleTime(2 * usOfSecond));
+    job.pass(sampleTime(2 * usPerSecond));
     QVERIFY(!job.status().isRunning);
     QCOMPARE(job.status().error, QString("the disk is nearly full"));
     const ReadFile read = bench.sink.read(0);
@@ -94,7 +94,7 @@ void TestRecordingEnds::aDiskThatDoesNotTellIsEnough()
     JobBench bench;
     bench.sink.free.reset();
     RecordingJob &job = bench.begun();
-    job.pass(sampleTime(usOfSecond));
+    job.pass(sampleTime(usPerSecond));
     QVERIFY(job.status().isRunning);
 }
 
@@ -103,7 +103,7 @@ void TestRecordingEnds::aFileThatIsGoneEndsIt()
     JobBench bench;
     RecordingJob &job = bench.begun();
     bench.sink.isGone = true;
-    job.pass(sampleTime(usOfSecond));
+    job.pass(sampleTime(usPerSecond));
     QVERIFY(!job.status().isRunning);
     QCOMPARE(job.status().error, QString("the file is gone"));
 }

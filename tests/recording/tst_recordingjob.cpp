@@ -147,8 +147,8 @@ void TestRecordingJob::aClockThatIsSetBackBeginsNoFile()
 {
     JobBench bench;
     RecordingJob &job = bench.begun();
-    job.take(frameAt(-86400 * usOfSecond));
-    job.pass(sampleTime(-86400 * usOfSecond));
+    job.take(frameAt(-secondsPerDay * usPerSecond));
+    job.pass(sampleTime(-secondsPerDay * usPerSecond));
     QCOMPARE(bench.sink.names.size(), 1);
     QCOMPARE(bench.sink.read(0).events.size(), 1);
 }

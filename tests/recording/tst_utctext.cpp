@@ -1,3 +1,4 @@
+#include "frames/timeunits.h"
 #include "recording/utctext.h"
 
 #include <QDateTime>
@@ -57,11 +58,11 @@ void TestUtcText::timesBeyondTheYearsAreThoseOfTheirEnds()
 void TestUtcText::itAgreesWithTheCalendar()
 {
     for (qint64 seconds = -100000000000; seconds < 200000000000; seconds += 86399999) {
-        if (seconds * 1000000 < -62135596800000000) {
+        if (seconds * usPerSecond < -62135596800000000) {
             continue;
         }
         const QDateTime time = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-        QCOMPARE(utcText(seconds * 1000000),
+        QCOMPARE(utcText(seconds * usPerSecond),
                  time.toString("yyyy-MM-ddTHH:mm:ss").toLatin1() + ".000000Z");
     }
 }

@@ -2,6 +2,7 @@
 // that TARNWICK_TEST_HID names (see hidfolder.h).
 
 #include "frames/framebuilder.h"
+#include "frames/hextext.h"
 #include "frames/reports.h"
 #include "simulator/deviceparser.h"
 #include "simulator/registerdevice.h"
@@ -36,7 +37,6 @@ struct AttachedDevice
 
 QVector<AttachedDevice> attachedDevices()
 {
-    constexpr int hexBase = 16;
     QVector<AttachedDevice> devices;
     const QDir folder(qEnvironmentVariable("TARNWICK_TEST_HID"));
     for (const QFileInfo &info : folder.entryInfoList({"*.device"}, QDir::Files, QDir::Name)) {

@@ -1,3 +1,4 @@
+#include "frames/hextext.h"
 #include "ranprogram.h"
 #include "restrictions.h"
 #include "runningdevice.h"
@@ -48,7 +49,6 @@ const QByteArray endless("//@ tarnwick-run 1 interval=20\nEcho,select,42 0000 01
 /// Whether a process has a handler of its own for a signal.
 bool minds(int signal, const QProcess &process)
 {
-    constexpr int hexBase = 16;
     QFile status(QStringLiteral("/proc/%1/status").arg(process.processId()));
     status.open(QIODevice::ReadOnly);
     for (const QByteArray &line : status.readAll().split('\n')) {
