@@ -7,7 +7,7 @@
 namespace {
 
 /// Enough to write what is to be kept; then the system ends the program.
-constexpr int patienceSeconds = 10;
+constexpr int windowPatienceSeconds = 10;
 
 /// Whoever ends the program, or the session, can't wait for answers to questions.
 void endWithoutQuestions(const EndSignals &endSignals, Dialog &dialog)
@@ -37,7 +37,7 @@ int main(int argc, char *argv[])
     }
     const QApplication application(argc, argv);
     const Translation translation(systemTranslation());
-    const EndSignals endSignals(patienceSeconds);
+    const EndSignals endSignals(windowPatienceSeconds);
     Dialog dialog;
     endWithoutQuestions(endSignals, dialog);
     dialog.show();

@@ -10,13 +10,13 @@ namespace {
 const QByteArray firstLine = QByteArrayLiteral(
     "// Tarnwick: a command list that was not saved. Each \"//row\" holds all of a "
     "row, the line behind it what other command files hold.\n");
-const QByteArray rowMark = QByteArrayLiteral("//row ");
+const QByteArray rowPrefix = QByteArrayLiteral("//row ");
 
 /// The cells of a row, in the order of the table's columns. The CRC follows from them.
 /// What the row is to be answered with stands there only where there is something.
 enum Cell { Description, Selected, Cmd, Addr, Data, DataType, OriginalData, Expectations };
 
-QByteArray cellsOf(const CommandRow &row)
+QByteArray jsonCells(const CommandRow &row)
 {
     QJsonArray cells{row.description, row.selected, row.cmd,         row.addr,
                      row.data,        row.dataType, row.originalData};
@@ -37,17 +37,17 @@ QByteArray recoveryText(const QVector<CommandRow> &rows)
 {
     QByteArray text = firstLine;
     for (const CommandRow &row : rows) {
-        text += rowMark + cellsOf(row) + '\n' + commandLine(row).toUtf8() + '\n';
+        text += rowPrefix + jsonCells(row) + '\n' + commandLine(row).toUtf8() + '\n';
     }
     return text;
 }
 
 std::optional<CommandRow> recoveredRow(const QByteArray &line)
 {
-    if (!line.startsWith(rowMark)) {
+    if (!line.startsWith(rowPrefix)) {
         return std::nullopt;
     }
-    const QJsonArray cells = QJsonDocument::fromJson(line.mid(rowMark.size())).array();
+    const QJsonArray cells = QJsonDocument::fromJson(line.mid(rowPrefix.size())).array();
     if (cells.size() != Expectations && cells.size() != Expectations + 1) {
         return std::nullopt;
     }

@@ -7,12 +7,13 @@
 
 namespace {
 
-constexpr int longestPath = 48;
+constexpr int longestShownPath = 48;
 
 QString shortened(const QString &path)
 {
-    constexpr int half = (longestPath - 1) / 2;
-    return path.size() <= longestPath ? path : path.left(half) + QChar(0x2026) + path.right(half);
+    constexpr int half = (longestShownPath - 1) / 2;
+    return path.size() <= longestShownPath ? path
+                                           : path.left(half) + QChar(0x2026) + path.right(half);
 }
 
 /// The device's name and the system's words about it.

@@ -28,7 +28,7 @@ FileContent contentOfInput()
     return {FileContent::Outcome::TooLarge, {}};
 }
 
-FileContent contentOf(const QString &name)
+FileContent contentOfNamed(const QString &name)
 {
     return name == QLatin1String("-") ? contentOfInput() : readFile(name, largestCommandFile);
 }
@@ -64,7 +64,7 @@ ReadPlan readPlan(const RunOptions &options)
     result.plan.rules = options.rules;
     int mostRows = 0;
     for (const QString &name : options.files) {
-        const FileContent content = contentOf(name);
+        const FileContent content = contentOfNamed(name);
         if (content.outcome != FileContent::Outcome::Read) {
             result.faults.append(whyUnread(name, content.outcome));
             continue;

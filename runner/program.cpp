@@ -19,7 +19,7 @@
 namespace {
 
 /// Enough to write the reports; then the system ends the program.
-constexpr int patienceSeconds = 5;
+constexpr int runPatienceSeconds = 5;
 
 ExitCode print(const QByteArray &text)
 {
@@ -41,7 +41,7 @@ template<typename Job>
 ExitCode workOff(Job &job)
 {
     ExitCode code = ExitCode::Good;
-    const EndSignals endSignals(patienceSeconds);
+    const EndSignals endSignals(runPatienceSeconds);
     QObject::connect(&endSignals, &EndSignals::arrived, &job, [&job](int signal) {
         job.end(signal == SIGINT ? RunEnd::Interrupted : RunEnd::Terminated);
     });

@@ -20,9 +20,9 @@ namespace {
 constexpr int failed = 1;
 constexpr int wrongUsage = 2;
 /// Long enough to remove the link.
-constexpr int patienceSeconds = 2;
+constexpr int devicePatienceSeconds = 2;
 
-void complain(const QString &message)
+void printFault(const QString &message)
 {
     std::fputs(qPrintable(QStringLiteral("tarnwick-device: %1\n").arg(message)), stderr);
 }
@@ -38,7 +38,7 @@ std::optional<PlayScript> readScript(const QString &path)
 {
     QFile file;
     if (!openRegularFile(file, path, QIODevice::ReadOnly)) {
-        complain(QStringLiteral("%1 can't be read.").arg(path));
+        printFault(QStringLiteral("%1 can't be read.").arg(path));
         return std::nullopt;
     }
     const auto reader = makeRecordingReader(file);
@@ -47,7 +47,7 @@ std::optional<PlayScript> readScript(const QString &path)
         events.append(*event);
     }
     if (!reader->error().isEmpty()) {
-        complain(QStringLiteral("%1, %2.").arg(path, reader->error()));
+        printFault(QStringLiteral("%1, %2.").arg(path, reader->error()));
         return std::nullopt;
     }
     return PlayScript(events);
@@ -57,12 +57,12 @@ int runDevice(const DeviceOptions &options)
 {
     // A reader of our output that goes away must not end us before the link is removed.
     std::signal(SIGPIPE, SIG_IGN);
-    const EndSignals endSignals(patienceSeconds);
+    const EndSignals endSignals(devicePatienceSeconds);
     QObject::connect(&endSignals, &EndSignals::arrived, &QCoreApplication::quit);
 
     const std::optional<PseudoTerminal> terminal = PseudoTerminal::open();
     if (!terminal) {
-        complain(QStringLiteral("No pseudo-terminal: %1.").arg(qt_error_string()));
+        printFault(QStringLiteral("No pseudo-terminal: %1.").arg(qt_error_string()));
         return failed;
     }
     const QString folder = options.portsFolder.isEmpty()
@@ -79,7 +79,7 @@ int runDevice(const DeviceOptions &options)
     PublishedLink link(folder, options.linkName);
     const QString error = link.publish(terminal->portPath());
     if (!error.isEmpty()) {
-        complain(error);
+        printFault(error);
         return failed;
     }
     const Announcement announcement(link.path());
@@ -93,7 +93,7 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     const DeviceArguments line = parseDeviceArguments(QCoreApplication::arguments());
     if (!line.error.isEmpty()) {
-        complain(line.error + QStringLiteral(" See --help."));
+        printFault(line.error + QStringLiteral(" See --help."));
         return wrongUsage;
     }
     if (line.helpWanted) {

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int readSize = 4096;
-constexpr int longestPath = 128;
+constexpr int longestPortPath = 128;
 
 void makeRaw(int port)
 {
@@ -28,7 +28,7 @@ void makeRaw(int port)
 std::optional<PseudoTerminal> PseudoTerminal::open()
 {
     FileDescriptor master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
-    std::array<char, longestPath> path{};
+    std::array<char, longestPortPath> path{};
     if (!master.isValid() || grantpt(master.get()) != 0 || unlockpt(master.get()) != 0 ||
         ptsname_r(master.get(), path.data(), path.size()) != 0) {
         return std::nullopt;

@@ -44,9 +44,9 @@ constexpr RecoveryPace quick{1, 1};
 constexpr RecoveryPace never{1'000'000, 1'000'000};
 
 /// A program with a list of one row.
-struct Program
+struct KeepingProgram
 {
-    explicit Program(const QString &folder, RecoveryPace pace = never)
+    explicit KeepingProgram(const QString &folder, RecoveryPace pace = never)
         : recovery(
               folder, list, [this] { return rows; }, pace)
     {}
@@ -77,7 +77,7 @@ void TestRecovery::init()
 
 void TestRecovery::anUntouchedListIsNotKept()
 {
-    Program program(m_folder->path(), quick);
+    KeepingProgram program(m_folder->path(), quick);
     program.recovery.keep();
     program.list.setStored("/a.txt");
     QCOMPARE(files(), QStringList());
@@ -86,7 +86,7 @@ void TestRecovery::anUntouchedListIsNotKept()
 
 void TestRecovery::aModifiedListIsKeptSoon()
 {
-    Program program(m_folder->path(), {1, 1'000'000});
+    KeepingProgram program(m_folder->path(), {1, 1'000'000});
     program.change("a");
     QTRY_COMPARE(files(), QStringList({".recovery-1.lock", "recovery-1.txt"}));
     QCOMPARE(keptIn(path("recovery-1.txt")), QString("a"));
@@ -94,7 +94,7 @@ void TestRecovery::aModifiedListIsKeptSoon()
 
 void TestRecovery::aModifiedListIsKeptAgainAndAgain()
 {
-    Program program(m_folder->path(), quick);
+    KeepingProgram program(m_folder->path(), quick);
     for (const char *const text : {"a", "b", "c"}) {
         program.change(text);
         QTRY_COMPARE(keptIn(path("recovery-1.txt")), QString(text));
@@ -113,7 +113,7 @@ void TestRecovery::whatIsSavedOrClearedIsNotKept_data()
 void TestRecovery::whatIsSavedOrClearedIsNotKept()
 {
     QFETCH(QString, file);
-    Program program(m_folder->path());
+    KeepingProgram program(m_folder->path());
     program.change("a");
     program.recovery.write();
     QCOMPARE(files().size(), 2);
@@ -126,7 +126,7 @@ void TestRecovery::whatIsSavedOrClearedIsNotKept()
 
 void TestRecovery::whatEndsInGoodOrderLeavesNothing()
 {
-    std::optional<Program> program(std::in_place, m_folder->path());
+    std::optional<KeepingProgram> program(std::in_place, m_folder->path());
     program->change("a");
     program->recovery.write();
     program.reset();
@@ -135,19 +135,19 @@ void TestRecovery::whatEndsInGoodOrderLeavesNothing()
 
 void TestRecovery::whatIsKeptIsLeftBehind()
 {
-    std::optional<Program> program(std::in_place, m_folder->path());
+    std::optional<KeepingProgram> program(std::in_place, m_folder->path());
     program->change("a");
     program->recovery.keep();
     program.reset();
     QCOMPARE(files(), QStringList("recovery-1.txt"));
-    const Program next(m_folder->path());
+    const KeepingProgram next(m_folder->path());
     QCOMPARE(next.recovery.leftBehind(), path("recovery-1.txt"));
     QCOMPARE(files(), QStringList("recovery-1.txt"));
 }
 
 void TestRecovery::aSessionThatGoesOnLeavesNothing()
 {
-    std::optional<Program> program(std::in_place, m_folder->path());
+    std::optional<KeepingProgram> program(std::in_place, m_folder->path());
     program->change("a");
     program->recovery.keep();
     program->recovery.discard();
@@ -157,15 +157,15 @@ void TestRecovery::aSessionThatGoesOnLeavesNothing()
 
 void TestRecovery::runningProgramsHaveFilesOfTheirOwn()
 {
-    Program first(m_folder->path());
-    std::optional<Program> second(std::in_place, m_folder->path());
+    KeepingProgram first(m_folder->path());
+    std::optional<KeepingProgram> second(std::in_place, m_folder->path());
     first.change("a");
     second->change("b");
     first.recovery.write();
     second->recovery.write();
     QCOMPARE(keptIn(path("recovery-1.txt")), QString("a"));
     QCOMPARE(keptIn(path("recovery-2.txt")), QString("b"));
-    const Program third(m_folder->path());
+    const KeepingProgram third(m_folder->path());
     QCOMPARE(third.recovery.leftBehind(), QString());
     second->recovery.keep();
     second.reset();
@@ -182,7 +182,7 @@ void TestRecovery::theNewestIsOffered()
         const QDateTime time = QDateTime::currentDateTime().addSecs(number == 2 ? -10 : -1000);
         QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
     }
-    Program program(m_folder->path());
+    KeepingProgram program(m_folder->path());
     QCOMPARE(program.recovery.leftBehind(), path("recovery-2.txt"));
     program.change("a");
     program.recovery.write();
@@ -192,7 +192,7 @@ void TestRecovery::theNewestIsOffered()
 void TestRecovery::whatIsTakenOverGoes()
 {
     writeFile(path("recovery-1.txt"), recoveryText({emptyRow()}));
-    Program program(m_folder->path());
+    KeepingProgram program(m_folder->path());
     program.change("a");
     program.recovery.takeOver(path("recovery-1.txt"));
     QCOMPARE(files(), QStringList({".recovery-2.lock", "recovery-2.txt"}));
@@ -206,7 +206,7 @@ void TestRecovery::filesElsewhereAreNotTakenOver()
     const QTemporaryDir elsewhere;
     for (const QString &name : {elsewhere.filePath("recovery-1.txt"), path("mine.txt")}) {
         writeFile(name, recoveryText({emptyRow()}));
-        Program program(m_folder->path());
+        KeepingProgram program(m_folder->path());
         program.change("a");
         program.recovery.takeOver(name);
         QVERIFY(QFile::exists(name));
@@ -217,7 +217,7 @@ void TestRecovery::leftOversAreNoObstacle()
 {
     QVERIFY(QDir(m_folder->path()).mkdir("recovery-1.txt"));
     writeFile(path("recovery-2.txt.new"), "mine");
-    Program program(m_folder->path());
+    KeepingProgram program(m_folder->path());
     QCOMPARE(program.recovery.leftBehind(), QString());
     program.change("a");
     program.recovery.write();
@@ -227,7 +227,7 @@ void TestRecovery::leftOversAreNoObstacle()
 void TestRecovery::aFolderThatIsGoneIsNoMatter()
 {
     const QString folder = path("gone");
-    Program program(folder);
+    KeepingProgram program(folder);
     program.change("a");
     program.recovery.keep();
     QCOMPARE(program.recovery.leftBehind(), QString());

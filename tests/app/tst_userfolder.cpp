@@ -1,4 +1,5 @@
 #include "app/datafolder.h"
+#include "restrictions.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -33,7 +34,6 @@ namespace {
 /// The data folder as a user without special rights finds it.
 QString dataFolderOfAPlainUser()
 {
-    constexpr uid_t nobody = 65534;
     std::array<int, 2> ends{};
     if (pipe(ends.data()) != 0) {
         return {};

@@ -2,7 +2,7 @@
 
 #include <QtTest>
 
-using Kind = ListHistory::Kind;
+using StepKind = ListHistory::Kind;
 
 class TestListHistory : public QObject
 {
@@ -81,13 +81,13 @@ void TestListHistory::beginsWithoutSteps()
 void TestListHistory::stepsGoBackAndForth()
 {
     ListHistory history;
-    history.add(numbered(1), Kind::Change, {});
-    history.add(numbered(2), Kind::NewList, {});
+    history.add(numbered(1), StepKind::Change, {});
+    history.add(numbered(2), StepKind::NewList, {});
     QCOMPARE(history.undoing().row, 2);
-    QVERIFY(history.undoingKind() == Kind::NewList);
+    QVERIFY(history.undoingKind() == StepKind::NewList);
     history.stepBack(numbered(-2));
     QCOMPARE(history.redoing().row, -2);
-    QVERIFY(history.redoingKind() == Kind::NewList);
+    QVERIFY(history.redoingKind() == StepKind::NewList);
     QCOMPARE(history.undoing().row, 1);
     history.stepBack(numbered(-1));
     QVERIFY(!history.canUndo());
@@ -103,10 +103,10 @@ void TestListHistory::stepsGoBackAndForth()
 void TestListHistory::aChangeEndsWhatWasTakenBack()
 {
     ListHistory history;
-    history.add(numbered(1), Kind::Change, {});
-    history.add(numbered(2), Kind::Change, {});
+    history.add(numbered(1), StepKind::Change, {});
+    history.add(numbered(2), StepKind::Change, {});
     stepsBack(history);
-    history.add(numbered(3), Kind::Change, modified("a"));
+    history.add(numbered(3), StepKind::Change, modified("a"));
     QVERIFY(!history.canRedo());
     QCOMPARE(history.undoing().row, 3);
     QVERIFY(history.standing() == modified("a"));
@@ -118,7 +118,7 @@ void TestListHistory::onlyTheLastTwentyStepsStay()
 {
     ListHistory history;
     for (int step = 1; step <= 25; ++step) {
-        history.add(numbered(step), Kind::Change, modified(qPrintable(QString::number(step))));
+        history.add(numbered(step), StepKind::Change, modified(qPrintable(QString::number(step))));
     }
     QCOMPARE(history.undoing().row, 25);
     QCOMPARE(stepsBack(history), 20);
@@ -131,7 +131,7 @@ void TestListHistory::theOldestGoWhereTheyTakeTooMuch()
 {
     ListHistory history;
     for (int step = 0; step < 10; ++step) {
-        history.add(heavy(ListHistory::mostBytes / 4), Kind::NewList, {});
+        history.add(heavy(ListHistory::mostBytes / 4), StepKind::NewList, {});
     }
     QCOMPARE(stepsBack(history), 3);
     QCOMPARE(stepsForward(history), 3);
@@ -140,11 +140,11 @@ void TestListHistory::theOldestGoWhereTheyTakeTooMuch()
 void TestListHistory::aStepThatTakesTooMuchGoes()
 {
     ListHistory history;
-    history.add(numbered(1), Kind::Change, {});
-    history.add(heavy(ListHistory::mostBytes), Kind::NewList, modified("a"));
+    history.add(numbered(1), StepKind::Change, {});
+    history.add(heavy(ListHistory::mostBytes), StepKind::NewList, modified("a"));
     QVERIFY(!history.canUndo());
     QVERIFY(history.standing() == modified("a"));
-    history.add(numbered(2), Kind::Change, {});
+    history.add(numbered(2), StepKind::Change, {});
     QCOMPARE(stepsBack(history), 1);
 }
 
@@ -152,7 +152,7 @@ void TestListHistory::whatIsTakenBackCountsToo()
 {
     ListHistory history;
     for (int step = 0; step < 4; ++step) {
-        history.add(numbered(step), Kind::Change, {});
+        history.add(numbered(step), StepKind::Change, {});
     }
     // Going back, the first ones go, and then those that would have been done again last.
     history.stepBack(heavy(ListHistory::mostBytes / 2));
@@ -161,7 +161,7 @@ void TestListHistory::whatIsTakenBackCountsToo()
     QVERIFY(!history.canRedo());
 
     for (int step = 0; step < 2; ++step) {
-        history.add(numbered(step), Kind::Change, {});
+        history.add(numbered(step), StepKind::Change, {});
     }
     history.stepBack(heavy(ListHistory::mostBytes * 2 / 3));
     history.stepBack(heavy(ListHistory::mostBytes * 2 / 3));
@@ -172,9 +172,9 @@ void TestListHistory::whatIsTakenBackCountsToo()
 void TestListHistory::appendedRowsAreOneStep()
 {
     ListHistory history;
-    history.add({9, 1}, Kind::Appending, {});
-    history.add({10, 1}, Kind::Appending, {});
-    history.add({11, 2}, Kind::Appending, {});
+    history.add({9, 1}, StepKind::Appending, {});
+    history.add({10, 1}, StepKind::Appending, {});
+    history.add({11, 2}, StepKind::Appending, {});
     QCOMPARE(history.undoing().row, 9);
     QCOMPARE(history.undoing().removed, 4);
     QCOMPARE(stepsBack(history), 1);
@@ -194,11 +194,11 @@ void TestListHistory::appendingEndsWithWhateverElse()
     QFETCH(QString, what);
     ListHistory history;
     ListStanding standing = modified("a");
-    history.add({8, 1}, Kind::Change, standing);
-    history.add({9, 1}, Kind::Appending, standing);
+    history.add({8, 1}, StepKind::Change, standing);
+    history.add({9, 1}, StepKind::Appending, standing);
     int steps = 3;
     if (what == "another step") {
-        history.add({3, 1}, Kind::Change, standing);
+        history.add({3, 1}, StepKind::Change, standing);
         steps = 4;
     } else if (what == "saved") {
         standing = stored("a");
@@ -210,7 +210,7 @@ void TestListHistory::appendingEndsWithWhateverElse()
         stepsBack(history);
         steps = 1;
     }
-    history.add({what == "another place" ? 12 : 10, 1}, Kind::Appending, standing);
+    history.add({what == "another place" ? 12 : 10, 1}, StepKind::Appending, standing);
     QCOMPARE(history.undoing().removed, 1);
     QCOMPARE(stepsBack(history), steps);
 }
@@ -219,8 +219,8 @@ void TestListHistory::theStandingBelongsToItsPlace()
 {
     ListHistory history;
     history.setStanding(stored("a"));
-    history.add(numbered(1), Kind::Change, modified("a"));
-    history.add(numbered(2), Kind::NewList, modified("a"));
+    history.add(numbered(1), StepKind::Change, modified("a"));
+    history.add(numbered(2), StepKind::NewList, modified("a"));
     history.setStanding(stored("b"));
     QVERIFY(history.standing() == stored("b"));
     history.stepBack({});
@@ -235,8 +235,8 @@ void TestListHistory::savingMakesTheOthersModified()
 {
     ListHistory history;
     history.setStanding(stored("a"));
-    history.add(numbered(1), Kind::Change, modified("a"));
-    history.add(numbered(2), Kind::Change, modified("a"));
+    history.add(numbered(1), StepKind::Change, modified("a"));
+    history.add(numbered(2), StepKind::Change, modified("a"));
     history.stepBack({});
     history.setStanding(stored("b"));
     QVERIFY(history.standing() == stored("b"));
@@ -254,9 +254,9 @@ void TestListHistory::savingKnowsItsListAndItsFile()
 {
     ListHistory history;
     history.setStanding(stored("a"));
-    history.add(numbered(1), Kind::NewList, stored("a"));
+    history.add(numbered(1), StepKind::NewList, stored("a"));
     history.setStanding(stored("b"));
-    history.add(numbered(2), Kind::NewList, stored("b"));
+    history.add(numbered(2), StepKind::NewList, stored("b"));
     history.setStanding({});
     history.setStanding(stored("a"));
     history.stepBack({});

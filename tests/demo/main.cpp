@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int patienceMs = 10000;
+constexpr int tourPatienceMs = 10000;
 const QString shortestLength = QStringLiteral(" 02");
 constexpr int cycles = 2;
 constexpr int framesPerPass = 3;
@@ -41,7 +41,7 @@ void fillCommands(WindowDriver &window)
 bool openPort(WindowDriver &window, const QString &port)
 {
     QComboBox &ports = *window.combo("comboBox_Comm");
-    if (!QTest::qWaitFor([&] { return ports.findText(port) >= 0; }, patienceMs)) {
+    if (!QTest::qWaitFor([&] { return ports.findText(port) >= 0; }, tourPatienceMs)) {
         return false;
     }
     ports.setCurrentIndex(ports.findText(port));
@@ -69,7 +69,7 @@ bool waitForReplies(const WindowDriver &window, int frames)
             const int received = repliesReceived(window);
             return received >= frames && window.messageCount() - received >= frames;
         },
-        patienceMs);
+        tourPatienceMs);
 }
 
 bool runLoop(WindowDriver &window)

@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr int patienceMs = 10000;
+constexpr int picturePatienceMs = 10000;
 
 /// Waits in the event loop; QtTest's own waiting sleeps in between, and times are in the pictures.
 template<typename Condition>
@@ -31,7 +31,7 @@ bool waitFor(Condition isSo)
     constexpr int lookMs = 20;
     QEventLoop loop;
     QTimer look;
-    const QDeadlineTimer end(patienceMs);
+    const QDeadlineTimer end(picturePatienceMs);
     QObject::connect(&look, &QTimer::timeout, &loop, [&] {
         if (isSo() || end.hasExpired()) {
             loop.quit();

@@ -45,7 +45,7 @@ QByteArray gbk(const char *utf8)
     return QTextCodec::codecForName("GBK")->fromUnicode(QString::fromUtf8(utf8));
 }
 
-CommandRow rowWith(const QString &description)
+CommandRow rowCalled(const QString &description)
 {
     CommandRow row = emptyRow();
     row.description = description;
@@ -91,7 +91,7 @@ private:
 
     CommandRow command()
     {
-        CommandRow row = rowWith(description());
+        CommandRow row = rowCalled(description());
         row.selected = below(2) == 0;
         row.cmd = below(4) == 0 ? QString() : hex(2);
         row.addr = below(4) == 0 ? QString() : hex(4);
@@ -317,7 +317,7 @@ void TestCommandFile::rubbishIsBounded()
 
 void TestCommandFile::text()
 {
-    CommandRow read = rowWith(QStringLiteral("Read"));
+    CommandRow read = rowCalled(QStringLiteral("Read"));
     read.selected = true;
     read.cmd = QStringLiteral("03");
     read.addr = QStringLiteral("0010");

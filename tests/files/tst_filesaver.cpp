@@ -29,12 +29,6 @@ private slots:
     void aProtectedFileStaysAsItIs();
 };
 
-namespace {
-
-constexpr uint nobody = 65534;
-
-} // namespace
-
 void TestFileSaver::textsReplaceEachOther_data()
 {
     QTest::addColumn<QByteArray>("before");

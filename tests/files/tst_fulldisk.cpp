@@ -1,13 +1,11 @@
 #include "files/settings.h"
+#include "filesizelimit.h"
 #include "testfiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <csignal>
-#include <sys/resource.h>
 
 class TestFullDisk : public QObject
 {
@@ -16,34 +14,6 @@ class TestFullDisk : public QObject
 private slots:
     void settingsStayAsTheyWere();
 };
-
-namespace {
-
-/// Lets no file grow beyond a size, as a full disk does.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_formerHandler = signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limit{bytes, m_former.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_former);
-        signal(SIGXFSZ, m_formerHandler);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit m_former{};
-    sighandler_t m_formerHandler;
-};
-
-} // namespace
 
 void TestFullDisk::settingsStayAsTheyWere()
 {

@@ -1,4 +1,5 @@
 #include "files/filesaver.h"
+#include "filesizelimit.h"
 #include "restrictions.h"
 #include "testfiles.h"
 
@@ -8,7 +9,6 @@
 #include <csignal>
 #include <sched.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -34,32 +34,6 @@ uid_t writerId()
     const OrdinaryUser user;
     return geteuid();
 }
-
-/// For its lifetime, writing past a file size fails as on a full disk.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit = {bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit m_before = {};
-    void (*m_handler)(int);
-};
 
 } // namespace
 

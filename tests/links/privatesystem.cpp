@@ -20,7 +20,7 @@ namespace {
 
 constexpr unsigned udevGroup = 2;
 
-bool writeFile(const QString &name, const QByteArray &content)
+bool writeWhole(const QString &name, const QByteArray &content)
 {
     QFile file(name);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
@@ -32,8 +32,8 @@ bool enterUserNamespace()
     const QByteArray user = "0 " + QByteArray::number(getuid()) + " 1";
     const QByteArray group = "0 " + QByteArray::number(getgid()) + " 1";
     return unshare(CLONE_NEWUSER | CLONE_NEWNS | CLONE_NEWNET) == 0 &&
-           writeFile("/proc/self/setgroups", "deny") && writeFile("/proc/self/uid_map", user) &&
-           writeFile("/proc/self/gid_map", group);
+           writeWhole("/proc/self/setgroups", "deny") && writeWhole("/proc/self/uid_map", user) &&
+           writeWhole("/proc/self/gid_map", group);
 }
 
 bool enterNamespaces()
@@ -55,7 +55,7 @@ bool hide(const char *folder)
 /// libudev listens only where it finds traces of a running udev.
 bool pretendUdevRuns()
 {
-    return hide("/run") && mkdir("/run/udev", 0755) == 0 && writeFile("/run/udev/control", "");
+    return hide("/run") && mkdir("/run/udev", 0755) == 0 && writeWhole("/run/udev/control", "");
 }
 
 /// MurmurHash2, which filters of subsystems go by.
@@ -134,8 +134,8 @@ bool plugIn(const SystemDevice &device, const QByteArray &type)
     const QString classFolder = "/sys/class/" + device.subsystem;
     const QByteArray name = device.node.isEmpty() ? QByteArray() : "DEVNAME=" + device.node + '\n';
     return QDir().mkpath(folder) && QDir().mkpath(classFolder) &&
-           writeFile(folder + "/uevent", name + device.properties.join('\n') + '\n') &&
-           writeFile(folder + "/type", type) && QFile::link(classFolder, folder + "/subsystem") &&
+           writeWhole(folder + "/uevent", name + device.properties.join('\n') + '\n') &&
+           writeWhole(folder + "/type", type) && QFile::link(classFolder, folder + "/subsystem") &&
            QFile::link(folder, classLink(device));
 }
 

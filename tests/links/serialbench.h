@@ -17,7 +17,7 @@ inline SerialSettings settingsAt(const TestPort &port)
     return settings;
 }
 
-inline QByteArray numbered(int bytes)
+inline QByteArray numberedBytes(int bytes)
 {
     QByteArray data;
     for (int i = 0; data.size() < bytes; ++i) {

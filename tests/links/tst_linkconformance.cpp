@@ -37,10 +37,10 @@ private:
 namespace {
 
 /// What a link hands up.
-class Heard : public QObject
+class HeardBytes : public QObject
 {
 public:
-    explicit Heard(const Link &link)
+    explicit HeardBytes(const Link &link)
     {
         connect(&link, &Link::arrived, this, [this](const QByteArray &part, ArrivalTime time) {
             const bool isFirst = times.isEmpty();
@@ -163,7 +163,7 @@ void TestLinkConformance::whatWaitsIsUnsent()
 void TestLinkConformance::whatHasComeInIsHandedUpWhenAsked()
 {
     const auto trial = this->trial();
-    const Heard heard(trial->link());
+    const HeardBytes heard(trial->link());
     trial->link().handUp();
     QVERIFY(trial->open());
     trial->link().handUp();
@@ -184,7 +184,7 @@ void TestLinkConformance::timesDoNotGoBack()
 {
     constexpr int chunks = 20;
     const auto trial = this->trial();
-    const Heard heard(trial->link());
+    const HeardBytes heard(trial->link());
     QVERIFY(trial->open());
     for (int i = 0; i < chunks; ++i) {
         const ArrivalTime before = ArrivalTime::now();
@@ -201,7 +201,7 @@ void TestLinkConformance::timesDoNotGoBack()
 void TestLinkConformance::timesAreThoseOfReading()
 {
     const auto trial = this->trial();
-    Heard heard(trial->link());
+    HeardBytes heard(trial->link());
     QVERIFY(trial->open());
     qint64 readBy = 0;
     heard.whileBusy = [&] {
@@ -220,7 +220,7 @@ void TestLinkConformance::timesAreThoseOfReading()
 void TestLinkConformance::nothingIsHandedUpBesideAHandler()
 {
     const auto trial = this->trial();
-    Heard heard(trial->link());
+    HeardBytes heard(trial->link());
     QVERIFY(trial->open());
     QByteArray heardWhileBusy;
     heard.whileBusy = [&] {
@@ -237,7 +237,7 @@ void TestLinkConformance::nothingIsHandedUpBesideAHandler()
 void TestLinkConformance::aHandlerMayCloseTheLink()
 {
     const auto trial = this->trial();
-    Heard heard(trial->link());
+    HeardBytes heard(trial->link());
     const States states(trial->link());
     QVERIFY(trial->open());
     heard.whileBusy = [&] {
@@ -257,7 +257,7 @@ void TestLinkConformance::aHandlerMayCloseTheLink()
 void TestLinkConformance::aHandlerMayOpenTheLinkAnew()
 {
     const auto trial = this->trial();
-    Heard heard(trial->link());
+    HeardBytes heard(trial->link());
     QVERIFY(trial->open());
     ArrivalTime before;
     heard.whileBusy = [&] {
@@ -320,7 +320,7 @@ void TestLinkConformance::lossOfAClosedLinkIsNotTold()
 void TestLinkConformance::anOpenLinkCanBeDestroyed()
 {
     const auto trial = this->trial();
-    const Heard heard(trial->link());
+    const HeardBytes heard(trial->link());
     QVERIFY(trial->open());
     QStringList states;
     connect(&trial->link(), &Link::openChanged, this, [&states] { states.append("changed"); });

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int reportSize = 512;
 
-QByteArray numbered(int number, int size = reportSize)
+QByteArray numberedReport(int number, int size = reportSize)
 {
     return QByteArray::number(number).leftJustified(size, '.');
 }
@@ -78,7 +78,7 @@ void TestReportInbox::reportsKeepTheirOrder()
     const HeardReports heard(inbox);
     QList<QByteArray> expected;
     for (int i = 0; i < 200; ++i) {
-        inbox.put(numbered(i), {});
+        inbox.put(numberedReport(i), {});
         expected.append(QByteArray::number(i));
         if (i % 10 == 0) {
             runFor(1);
@@ -133,10 +133,10 @@ void TestReportInbox::beyondTheCapacityReportsAreDroppedAndTold()
     HeardReports heard(inbox);
     heard.whileBusy = [&] {
         for (int i = 1; i <= most + lost; ++i) {
-            inbox.put(numbered(i), {});
+            inbox.put(numberedReport(i), {});
         }
     };
-    inbox.put(numbered(0), {});
+    inbox.put(numberedReport(0), {});
     QTRY_VERIFY(heard.lines.size() > most);
     inbox.put("later", {});
     QTRY_COMPARE(heard.lines.constLast(), QByteArray("later"));
@@ -167,7 +167,7 @@ void TestReportInbox::nothingIsDroppedWithoutABusyHandler()
     ReportInbox inbox;
     const HeardReports heard(inbox);
     for (int i = 0; i < many; ++i) {
-        inbox.put(numbered(i), {});
+        inbox.put(numberedReport(i), {});
     }
     QTRY_COMPARE(heard.lines.size(), many);
     QCOMPARE(heard.lines.constLast(), QByteArray::number(many - 1));

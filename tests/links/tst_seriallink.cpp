@@ -161,7 +161,7 @@ void TestSerialLink::aLongBlockArrivesWhole()
     TestPort port;
     SerialLink link(longestRead);
     QVERIFY(link.open(settingsAt(port)));
-    const QByteArray block = numbered(200000);
+    const QByteArray block = numberedBytes(200000);
     link.write(block);
     link.write("end");
     QTRY_COMPARE(port.received().size(), block.size() + 3);
@@ -180,7 +180,7 @@ void TestSerialLink::oneReadIsBoundedAndNothingIsLost()
         longest = std::max(longest, part.size());
         all.append(part);
     });
-    const QByteArray sent = numbered(3000);
+    const QByteArray sent = numberedBytes(3000);
     port.send(sent);
     QTRY_COMPARE(all.size(), sent.size());
     QCOMPARE(all, sent);
@@ -228,7 +228,7 @@ void TestSerialLink::lookingForMoreIsAlwaysAllowed()
     SerialLink link(longestRead);
     QVERIFY(link.open(settingsAt(port)));
     const Collector collector(link);
-    const QByteArray sent = numbered(20000);
+    const QByteArray sent = numberedBytes(20000);
     QTimer impatience;
     connect(&impatience, &QTimer::timeout, this, [&link] { link.receive(); });
     impatience.start(1);
@@ -252,7 +252,7 @@ void TestSerialLink::aBusyHandlerLosesNothing()
     const TestPort port;
     SerialLink link(longestRead);
     QVERIFY(link.open(settingsAt(port)));
-    const QByteArray sent = numbered(bytes);
+    const QByteArray sent = numberedBytes(bytes);
     Collector collector(link);
     std::thread farEnd;
     int handlersWhileBusy = 0;
@@ -276,7 +276,7 @@ void TestSerialLink::dataDuringAWriteAreSignalledAfterIt()
     QVERIFY(link.open(settingsAt(port)));
     QSignalSpy arrived(&link, &SerialLink::arrived);
     port.send("meanwhile");
-    const QByteArray block = numbered(100000);
+    const QByteArray block = numberedBytes(100000);
     link.write(block);
     QCOMPARE(arrived.count(), 0);
     QVERIFY(link.unsentBytes() > 0);
@@ -343,7 +343,7 @@ void TestSerialLink::whatTheFarEndDoesNotTakeIsNotDrained()
     QVERIFY(link.isDrained());
     QVERIFY(link.open(settingsAt(port)));
     QVERIFY(link.isDrained());
-    const QByteArray block = numbered(200000);
+    const QByteArray block = numberedBytes(200000);
     link.write(block);
     QVERIFY(!link.isDrained());
     QTRY_COMPARE(port.received().size(), block.size());

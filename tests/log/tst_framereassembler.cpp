@@ -27,7 +27,7 @@ namespace {
 
 using Chunks = QStringList;
 
-constexpr StartBytes defaultHeader{0x5A, 0xA5};
+constexpr StartBytes usualStart{0x5A, 0xA5};
 
 /// "F 5AA5…" for a frame, "N …" for stray bytes.
 QString described(const ReceivedPiece &piece)
@@ -105,7 +105,7 @@ void TestFrameReassembler::chunks()
     FrameReassembler reassembler;
     QStringList given;
     for (const QString &chunk : chunks) {
-        for (const ReceivedPiece &piece : reassembler.take(hex(chunk), defaultHeader)) {
+        for (const ReceivedPiece &piece : reassembler.take(hex(chunk), usualStart)) {
             given.append(described(piece));
         }
     }
@@ -131,8 +131,8 @@ void TestFrameReassembler::everyPlaceOfACut()
     QFETCH(int, cut);
     const QByteArray frame = hex("5AA50401020304");
     FrameReassembler reassembler;
-    QVERIFY(reassembler.take(frame.left(cut), defaultHeader).isEmpty());
-    const QVector<ReceivedPiece> pieces = reassembler.take(frame.mid(cut), defaultHeader);
+    QVERIFY(reassembler.take(frame.left(cut), usualStart).isEmpty());
+    const QVector<ReceivedPiece> pieces = reassembler.take(frame.mid(cut), usualStart);
     QCOMPARE(pieces.size(), 1);
     QCOMPARE(pieces.first().bytes, frame);
 }
@@ -158,7 +158,7 @@ void TestFrameReassembler::aStreamInRandomChunksLosesNothing()
     for (int position = 0; position < stream.size();
          position += size, size = 1 + int(random() % 50)) {
         for (const ReceivedPiece &piece :
-             reassembler.take(stream.mid(position, size), defaultHeader)) {
+             reassembler.take(stream.mid(position, size), usualStart)) {
             if (piece.kind == ReceivedPiece::Kind::Frame) {
                 given.append(piece.bytes);
             }
@@ -173,13 +173,13 @@ void TestFrameReassembler::aLoneStartByteCanBeGivenUp()
     FrameReassembler reassembler;
     QVERIFY(!reassembler.holdsLoneStartByte());
     QVERIFY(reassembler.giveUpLoneStartByte().isEmpty());
-    reassembler.take(hex("075A"), defaultHeader);
+    reassembler.take(hex("075A"), usualStart);
     QVERIFY(reassembler.holdsLoneStartByte());
     const QVector<ReceivedPiece> pieces = reassembler.giveUpLoneStartByte();
     QCOMPARE(pieces.size(), 1);
     QCOMPARE(described(pieces.first()), QString("N 5A"));
     QCOMPARE(reassembler.waitingBytes(), 0);
-    reassembler.take(hex("5AA5"), defaultHeader);
+    reassembler.take(hex("5AA5"), usualStart);
     QVERIFY(!reassembler.holdsLoneStartByte());
     QVERIFY(reassembler.giveUpLoneStartByte().isEmpty());
     QCOMPARE(reassembler.waitingBytes(), 2);
@@ -188,9 +188,9 @@ void TestFrameReassembler::aLoneStartByteCanBeGivenUp()
 void TestFrameReassembler::overflowGivesOutWhatWaits()
 {
     FrameReassembler reassembler;
-    reassembler.take(hex("5AA50A0102"), defaultHeader);
+    reassembler.take(hex("5AA50A0102"), usualStart);
     const QByteArray rubbish(FrameReassembler::capacity - 4, '\x11');
-    const QVector<ReceivedPiece> pieces = reassembler.take(rubbish, defaultHeader);
+    const QVector<ReceivedPiece> pieces = reassembler.take(rubbish, usualStart);
     QCOMPARE(pieces.size(), 2);
     QCOMPARE(described(pieces.at(0)), QString("F 5AA50A0102"));
     QCOMPARE(pieces.at(1).kind, ReceivedPiece::Kind::Stray);
@@ -201,7 +201,7 @@ void TestFrameReassembler::aChunkBeyondTheCapacityIsCut()
 {
     FrameReassembler reassembler;
     const QByteArray rubbish(FrameReassembler::capacity + 10, '\x11');
-    const QVector<ReceivedPiece> pieces = reassembler.take(rubbish, defaultHeader);
+    const QVector<ReceivedPiece> pieces = reassembler.take(rubbish, usualStart);
     QCOMPARE(pieces.size(), 1);
     QCOMPARE(pieces.first().bytes.size(), FrameReassembler::capacity);
 }
@@ -209,7 +209,7 @@ void TestFrameReassembler::aChunkBeyondTheCapacityIsCut()
 void TestFrameReassembler::aChangedHeaderMakesWaitingBytesANotice()
 {
     FrameReassembler reassembler;
-    reassembler.take(hex("5AA50401"), defaultHeader);
+    reassembler.take(hex("5AA50401"), usualStart);
     const QVector<ReceivedPiece> pieces = reassembler.take(hex("1234010F"), {0x12, 0x34});
     QCOMPARE(pieces.size(), 2);
     QCOMPARE(described(pieces.at(0)), QString("N 5AA50401"));

@@ -1,4 +1,4 @@
-#include "log/logitems.h"
+#include "logcolours.h"
 
 #include <QTableWidget>
 #include <QtTest>
@@ -26,8 +26,6 @@ QTableWidgetItem *newReceivedCell()
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(LogItems::Colour)
 
 void TestLogItems::aCellHasItsLook_data()
 {

@@ -22,7 +22,7 @@ private slots:
 
 namespace {
 
-const QByteArray frame = QByteArray::fromHex("5AA5080310000000000077");
+const QByteArray loggedFrame = QByteArray::fromHex("5AA5080310000000000077");
 
 QStringList shownTexts(const LogTable &table, int row)
 {
@@ -70,8 +70,8 @@ void TestMessageLog::theColumnsThatAreColoured()
     LogTable table;
     RecordLog records;
     const MessageLog log(table, records);
-    records.appendSent(frame, true);
-    records.appendReceived(frame, true);
+    records.appendSent(loggedFrame, true);
+    records.appendReceived(loggedFrame, true);
     records.appendStray("\x01");
     records.appendEvent("HID", "Insert x");
     QVector<int> coloured;
@@ -90,7 +90,7 @@ void TestMessageLog::theTableFollowsItsRecords()
     LogTable table;
     RecordLog records;
     const MessageLog log(table, records);
-    records.appendSent(frame, true);
+    records.appendSent(loggedFrame, true);
     records.appendEvent("HID", "Insert x");
     QCOMPARE(shownTexts(table, 0),
              QStringList({"1", "5A A5", " 08", " 03", "1000", " 00 00 00 ", "00 77 ", ""}));
@@ -119,7 +119,7 @@ void TestMessageLog::aFloodBuildsNoRowsThatNobodySees()
                 built += last - first + 1;
             });
     for (int i = 0; i < frames; ++i) {
-        records.appendReceived(frame, false);
+        records.appendReceived(loggedFrame, false);
     }
     QTRY_COMPARE(table.rowCount(), 20);
     QCOMPARE(table.item(19, 0)->text(), QString("20"));
@@ -132,7 +132,7 @@ void TestMessageLog::clearingShowsAtOnce()
     RecordLog records;
     const MessageLog log(table, records);
     for (int i = 0; i < 300; ++i) {
-        records.appendReceived(frame, false);
+        records.appendReceived(loggedFrame, false);
     }
     records.clear();
     QCOMPARE(table.rowCount(), 9);
@@ -147,7 +147,7 @@ void TestMessageLog::theCountIsToldOnceInADisplayFrame()
     const MessageLog log(table, records);
     QSignalSpy told(&log, &MessageLog::countChanged);
     for (int row = 0; row < rows; ++row) {
-        records.appendSent(frame, true);
+        records.appendSent(loggedFrame, true);
     }
     QCOMPARE(told.count(), 1);
     QVERIFY(told.wait());
@@ -166,7 +166,7 @@ void TestMessageLog::rowsOfAHeldTableAreInButNotInView()
     bool held = true;
     shown.log.setHold([&held] { return held; });
     for (int row = 0; row < rows; ++row) {
-        shown.records.appendSent(frame, true);
+        shown.records.appendSent(loggedFrame, true);
     }
     QCOMPARE(shown.table.rowCount(), rows);
     QCOMPARE(shown.table.item(rows - 1, 0)->text(), QString::number(rows));

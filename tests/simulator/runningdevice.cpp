@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int patienceMs = 10000;
+constexpr int devicePatienceMs = 10000;
 
 } // namespace
 
@@ -36,7 +36,7 @@ bool RunningDevice::startOnly(const QStringList &options)
 {
     m_process.start(TARNWICK_DEVICE, QStringList{"--ports", m_folder.path()} + options);
     while (!m_process.canReadLine()) {
-        if (!m_process.waitForReadyRead(patienceMs)) {
+        if (!m_process.waitForReadyRead(devicePatienceMs)) {
             return false;
         }
     }
@@ -68,8 +68,8 @@ QByteArray RunningDevice::read(int count)
     QElapsedTimer clock;
     clock.start();
     QByteArray bytes;
-    while (bytes.size() < count && !clock.hasExpired(patienceMs)) {
-        if (waitForBytes(patienceMs)) {
+    while (bytes.size() < count && !clock.hasExpired(devicePatienceMs)) {
+        if (waitForBytes(devicePatienceMs)) {
             bytes += readOnce();
         }
     }

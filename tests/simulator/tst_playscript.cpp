@@ -23,16 +23,20 @@ private slots:
 
 namespace {
 
-using Kind = RecordEvent::Kind;
+using EventKind = RecordEvent::Kind;
 
 /// Twice the same request with different replies, then another one with two replies.
 QVector<RecordEvent> playedEvents()
 {
-    return {sampleEvent(Kind::Stray, "EE", 0),         sampleEvent(Kind::Sent, "5AA50101", 1000),
-            sampleEvent(Kind::Received, "A1", 3000),   sampleEvent(Kind::Note, "", 3500),
-            sampleEvent(Kind::Sent, "5AA50101", 4000), sampleEvent(Kind::Received, "A2", 5000),
-            sampleEvent(Kind::Sent, "5AA50202", 6000), sampleEvent(Kind::Received, "B1", 7000),
-            sampleEvent(Kind::Received, "B2", 306000)};
+    return {sampleEvent(EventKind::Stray, "EE", 0),
+            sampleEvent(EventKind::Sent, "5AA50101", 1000),
+            sampleEvent(EventKind::Received, "A1", 3000),
+            sampleEvent(EventKind::Note, "", 3500),
+            sampleEvent(EventKind::Sent, "5AA50101", 4000),
+            sampleEvent(EventKind::Received, "A2", 5000),
+            sampleEvent(EventKind::Sent, "5AA50202", 6000),
+            sampleEvent(EventKind::Received, "B1", 7000),
+            sampleEvent(EventKind::Received, "B2", 306000)};
 }
 
 QByteArray bytesOfAll(const QVector<QVector<PlayScript::Reply>> &answers)

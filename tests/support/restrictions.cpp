@@ -5,12 +5,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
-
-constexpr uid_t nobody = 65534;
-
-} // namespace
-
 OrdinaryUser::OrdinaryUser()
     : m_wasRoot(geteuid() == 0)
 {

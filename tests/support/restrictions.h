@@ -4,6 +4,11 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <sys/types.h>
+
+/// A user and a group without any rights of their own.
+inline constexpr uid_t nobody = 65534;
+
 /// For its lifetime, permissions count: root acts as a user without any rights of its own.
 class OrdinaryUser
 {

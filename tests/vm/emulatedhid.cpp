@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr int patienceMs = 20000;
+constexpr int hidPatienceMs = 20000;
 
 } // namespace
 
@@ -20,7 +20,7 @@ EmulatedHid::~EmulatedHid()
 bool EmulatedHid::plugIn()
 {
     m_process.start(TARNWICK_HID_EMULATOR, m_arguments);
-    return m_process.waitForReadyRead(patienceMs);
+    return m_process.waitForReadyRead(hidPatienceMs);
 }
 
 bool EmulatedHid::pullOut()
@@ -29,6 +29,6 @@ bool EmulatedHid::pullOut()
         return false;
     }
     m_process.terminate();
-    return m_process.waitForFinished(patienceMs) &&
+    return m_process.waitForFinished(hidPatienceMs) &&
            m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0;
 }

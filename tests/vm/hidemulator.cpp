@@ -18,7 +18,7 @@
 namespace {
 
 constexpr quint16 vendor = 0xEEEF;
-constexpr StartBytes startBytes{0x5A, 0xA5};
+constexpr StartBytes emulatedStart{0x5A, 0xA5};
 constexpr int longestReply = 0xFF;
 constexpr int wrongReport = 1;
 constexpr int notPluggedIn = 2;
@@ -29,10 +29,10 @@ public:
     Emulator(const UhidDevice &device, int reportSize)
         : m_device(device)
         , m_reportSize(reportSize)
-        , m_parser(startBytes, false)
+        , m_parser(emulatedStart, false)
         , m_registers(longestReply)
     {
-        m_layout.startBytes = startBytes;
+        m_layout.startBytes = emulatedStart;
     }
 
     void takeReport()

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int patienceMs = 20000;
+constexpr int adapterPatienceMs = 20000;
 
 /// The host looks into this file for where it is to put the adapter.
 bool ask(const QByteArray &position)
@@ -31,11 +31,11 @@ SerialAdapter::~SerialAdapter()
 bool SerialAdapter::plugIn()
 {
     m_pluggedIn = true;
-    return ask("in") && QTest::qWaitFor(portIsThere, patienceMs);
+    return ask("in") && QTest::qWaitFor(portIsThere, adapterPatienceMs);
 }
 
 bool SerialAdapter::pullOut()
 {
     m_pluggedIn = false;
-    return ask("out") && QTest::qWaitFor([] { return !portIsThere(); }, patienceMs);
+    return ask("out") && QTest::qWaitFor([] { return !portIsThere(); }, adapterPatienceMs);
 }

@@ -50,10 +50,10 @@ QString eventText(const QString &what, const QString &path, const QString &produ
 }
 
 /// A window on its HID tab with one device plugged in and offered.
-class HidWindow : public DeviceWindow
+class EmulatedHidWindow : public DeviceWindow
 {
 public:
-    explicit HidWindow(const QString &product = smallProduct, int reportSize = smallReport)
+    explicit EmulatedHidWindow(const QString &product = smallProduct, int reportSize = smallReport)
         : DeviceWindow(Tab::Hid)
         , device(product, reportSize)
         , m_product(product)
@@ -105,7 +105,7 @@ void TestHidDevices::arrivalIsLoggedAndListed()
 {
     QFETCH(QString, product);
     QFETCH(int, reportSize);
-    HidWindow window(product, reportSize);
+    EmulatedHidWindow window(product, reportSize);
     QVERIFY2(window.path.startsWith("/dev/hidraw"), qPrintable(window.path));
     QCOMPARE(window.events(eventText("Insert", window.path, product)), 1);
     QVERIFY(window.device.pullOut());
@@ -122,7 +122,7 @@ void TestHidDevices::aHundredFramesEachWay()
     QFETCH(QString, product);
     QFETCH(int, reportSize);
     MessageBoxes boxes;
-    HidWindow window(product, reportSize);
+    EmulatedHidWindow window(product, reportSize);
     window.openDevice();
     window.sendRequests(100);
     QCOMPARE(window.sentFrames().size(), 100);
@@ -146,7 +146,7 @@ void TestHidDevices::framesLongerThanAReport()
     QFETCH(QString, product);
     QFETCH(int, reportSize);
     MessageBoxes boxes;
-    HidWindow window(product, reportSize);
+    EmulatedHidWindow window(product, reportSize);
     window.openDevice();
     window.setRow(0, "10", "0100", QString("A1B2C3D4").repeated(200));
     window.setRow(1, "03", "028F", "0002");
@@ -168,7 +168,7 @@ void TestHidDevices::pulledOutInTheLoop()
     QFETCH(QString, product);
     QFETCH(int, reportSize);
     MessageBoxes boxes;
-    HidWindow window(product, reportSize);
+    EmulatedHidWindow window(product, reportSize);
     window.openDevice();
     window.writeRequests();
     window.startLoop();
@@ -185,7 +185,7 @@ void TestHidDevices::pulledOutInTheLoop()
 void TestHidDevices::pulledOutWhileIdle()
 {
     MessageBoxes boxes;
-    HidWindow window;
+    EmulatedHidWindow window;
     window.openDevice();
     QVERIFY(window.device.pullOut());
     window.awaitEnd();
@@ -195,7 +195,7 @@ void TestHidDevices::pulledOutWhileIdle()
 void TestHidDevices::pulledOutDuringAMessage()
 {
     MessageBoxes boxes;
-    HidWindow window;
+    EmulatedHidWindow window;
     window.openDevice();
     connect(&boxes, &MessageBoxes::shown, this, [&window] {
         QVERIFY(window.device.pullOut());
@@ -209,7 +209,7 @@ void TestHidDevices::pulledOutDuringAMessage()
 
 void TestHidDevices::anotherDeviceIsPulledOut()
 {
-    HidWindow window;
+    EmulatedHidWindow window;
     window.openDevice();
     window.writeRequests();
     window.startLoop();
@@ -231,7 +231,7 @@ void TestHidDevices::anotherDeviceIsPulledOut()
 
 void TestHidDevices::inAndOutAgain()
 {
-    HidWindow window;
+    EmulatedHidWindow window;
     for (int turn = 1; turn <= 5 && !QTest::currentTestFailed(); ++turn) {
         window.openDevice();
         window.writeRequests();
@@ -250,7 +250,7 @@ void TestHidDevices::withoutPermission()
     types.write(qPrintable("\nVID_EEEF,PID_" + forbiddenProduct + ",64"));
     types.close();
     MessageBoxes boxes;
-    HidWindow window(forbiddenProduct);
+    EmulatedHidWindow window(forbiddenProduct);
     QVERIFY(::access(qPrintable(window.path), F_OK) == 0);
     QVERIFY(::access(qPrintable(window.path), R_OK | W_OK) != 0);
     window.open(window.path);

@@ -20,7 +20,7 @@ private slots:
 
 namespace {
 
-constexpr int patienceMs = 60000;
+constexpr int runnerPatienceMs = 60000;
 
 const QByteArray runnerEcho("//@ tarnwick-run 1\nEcho,select,42 0000 01\n//? 42 0000 01\n");
 
@@ -42,7 +42,7 @@ public:
     bool hasPrinted(const QByteArray &text)
     {
         while (!peek(bytesAvailable()).contains(text)) {
-            if (!waitForReadyRead(patienceMs)) {
+            if (!waitForReadyRead(runnerPatienceMs)) {
                 return false;
             }
         }
@@ -51,7 +51,7 @@ public:
 
     Ran end()
     {
-        waitForFinished(patienceMs);
+        waitForFinished(runnerPatienceMs);
         return endOf(*this);
     }
 };

@@ -20,10 +20,10 @@ namespace {
 const QString port = QStringLiteral("ttyUSB0");
 
 /// A window on its serial tab with the adapter plugged in and offered.
-class SerialWindow : public DeviceWindow
+class AdapterWindow : public DeviceWindow
 {
 public:
-    SerialWindow()
+    AdapterWindow()
         : DeviceWindow(Tab::Uart)
     {
         plugIn();
@@ -73,7 +73,7 @@ void verifyNothingElseWasSaid(const QStringList &texts)
 void TestSerialAdapter::aHundredFramesEachWay()
 {
     MessageBoxes boxes;
-    SerialWindow window;
+    AdapterWindow window;
     window.openPort();
     window.sendRequests(100);
     QCOMPARE(window.sentFrames().size(), 100);
@@ -91,7 +91,7 @@ void TestSerialAdapter::aHundredFramesEachWay()
 void TestSerialAdapter::pulledOutInTheLoop()
 {
     MessageBoxes boxes;
-    SerialWindow window;
+    AdapterWindow window;
     window.openPort();
     window.writeRequests();
     window.startLoop();
@@ -107,7 +107,7 @@ void TestSerialAdapter::pulledOutInTheLoop()
 void TestSerialAdapter::pulledOutWhileIdle()
 {
     MessageBoxes boxes;
-    SerialWindow window;
+    AdapterWindow window;
     window.openPort();
     window.pullOut();
     window.awaitEnd();
@@ -117,7 +117,7 @@ void TestSerialAdapter::pulledOutWhileIdle()
 void TestSerialAdapter::theChosenPortComesBack()
 {
     MessageBoxes boxes;
-    SerialWindow window;
+    AdapterWindow window;
     window.openPort();
     window.pullOut();
     window.awaitEnd();

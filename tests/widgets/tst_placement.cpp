@@ -19,14 +19,14 @@ private slots:
 namespace {
 
 constexpr int heightOfRows = 36;
-constexpr int rows = 9;
+constexpr int placedRows = 9;
 
 /// A table at this height of the screen, in a window with a frame.
 class PlacedTable : public QTableWidget
 {
 public:
     explicit PlacedTable(int y)
-        : QTableWidget(rows, 2)
+        : QTableWidget(placedRows, 2)
     {
         verticalHeader()->setDefaultSectionSize(heightOfRows);
         move(0, y);

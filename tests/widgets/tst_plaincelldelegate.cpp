@@ -1,12 +1,10 @@
-#include "log/logitems.h"
+#include "logcolours.h"
 #include "widgets/plaincelldelegate.h"
 #include "widgets/tablelook.h"
 
 #include <QSet>
 #include <QTableWidget>
 #include <QtTest>
-
-Q_DECLARE_METATYPE(LogItems::Colour)
 
 class TestPlainCellDelegate : public QObject
 {
@@ -25,7 +23,7 @@ private slots:
 namespace {
 
 constexpr int columns = 2;
-constexpr int lines = 3;
+constexpr int itemRows = 3;
 constexpr int barWidth = 4;
 const QColor barColour(0x00, 0x6F, 0xCF);
 const QColor received(0, 130, 255);
@@ -33,10 +31,10 @@ const QColor received(0, 130, 255);
 void fill(QTableWidget &table, const QString &text, LogItems::Colour colour,
           Qt::AlignmentFlag alignment, int width)
 {
-    styleTable(table, columns, lines);
+    styleTable(table, columns, itemRows);
     for (int column = 0; column < columns; ++column) {
         table.setColumnWidth(column, width);
-        for (int row = 0; row < lines; ++row) {
+        for (int row = 0; row < itemRows; ++row) {
             table.setItem(row, column, LogItems().make(text, alignment, colour));
         }
     }
@@ -120,7 +118,7 @@ void TestPlainCellDelegate::aSelectedRowIsMarkedInItsFirstCell()
     table.setItemDelegate(&plainDelegate);
     table.selectRow(1);
     const QImage look = picture(table, 1);
-    for (int row = 0; row < lines; ++row) {
+    for (int row = 0; row < itemRows; ++row) {
         const QRect cell = table.visualRect(table.model()->index(row, 0));
         const QRect bar(cell.topLeft(), QSize(barWidth, cell.height()));
         QImage expected(bar.size(), look.format());

@@ -11,7 +11,7 @@ WatchedDevice hidDevice(const QByteArray &path, DeviceIds ids)
     return {DeviceKind::Hid, path, hidDeviceName(path, ids)};
 }
 
-WatchedDevice port(const QString &name)
+WatchedDevice portDevice(const QString &name)
 {
     return {DeviceKind::Port, name, name};
 }
@@ -21,8 +21,8 @@ void attachBoth()
     QFile::remove(QCoreApplication::applicationDirPath() + "/debuggerConfig.ini");
     FakeHid &hid = FakeHid::instance();
     hid.reset();
-    hid.addDevice(smallPath, smallIds.vendor, smallIds.product);
-    hid.addDevice(largePath, largeIds.vendor, largeIds.product);
+    hid.addDevice(smallNode, smallIds.vendor, smallIds.product);
+    hid.addDevice(largeNode, largeIds.vendor, largeIds.product);
     FakeSystem::instance().setRefusing(false);
 }
 
@@ -46,7 +46,7 @@ void pullOut(const QByteArray &path, DeviceIds ids)
 
 void pullOutSmall()
 {
-    pullOut(smallPath, smallIds);
+    pullOut(smallNode, smallIds);
 }
 
 QStringList deviceRow(const QString &link, const QString &text)

@@ -10,13 +10,13 @@
 // Devices that come and go at a window: the HID library lists them and the system's watch announces
 // them, both in their stand-ins.
 
-const QByteArray smallPath = "/dev/hidraw-of-a-test-1";
-const QByteArray largePath = "/dev/hidraw-of-a-test-2";
+const QByteArray smallNode = "/dev/hidraw-of-a-test-1";
+const QByteArray largeNode = "/dev/hidraw-of-a-test-2";
 constexpr DeviceIds smallIds{0xEEEF, 0x1616};
 constexpr DeviceIds largeIds{0xEEEF, 0x2929};
 
 WatchedDevice hidDevice(const QByteArray &path, DeviceIds ids);
-WatchedDevice port(const QString &name);
+WatchedDevice portDevice(const QString &name);
 
 /// Begins a test: no settings, and the small and the large device are attached.
 void attachBoth();

@@ -52,9 +52,9 @@ void TestDeviceChanges::changesAreLogged_data()
     QTest::addColumn<QString>("link");
     QTest::addColumn<QString>("name");
 
-    QTest::newRow("port") << port("ttyUSB0") << "Uart"
+    QTest::newRow("port") << portDevice("ttyUSB0") << "Uart"
                           << "ttyUSB0";
-    QTest::newRow("linked port") << port("/home/me/ports/device") << "Uart"
+    QTest::newRow("linked port") << portDevice("/home/me/ports/device") << "Uart"
                                  << "/home/me/ports/device";
     QTest::newRow("HID device") << hidDevice("/dev/hidraw0", smallIds) << "HID"
                                 << "/DEV/HIDRAW0#VID_EEEF&PID_1616";
@@ -69,7 +69,7 @@ void TestDeviceChanges::changesAreLogged()
     QFETCH(QString, name);
 
     HidWindow window;
-    window.openDevice(smallPath);
+    window.openDevice(smallNode);
     window.setRow(0, "03", "0000", "0001");
     FakeSystem::instance().plugIn(device);
     window.clickSend(0);
@@ -109,7 +109,7 @@ void TestDeviceChanges::listsAreRefreshedOnceAfterABurst()
 void TestDeviceChanges::lostAnnouncementsRefreshTheLists()
 {
     const HidWindow window;
-    FakeHid::instance().removeDevice(smallPath);
+    FakeHid::instance().removeDevice(smallNode);
     FakeSystem::instance().loseAnnouncements();
     QTRY_COMPARE(window.combo("comboBox_Hid_Device")->count(), 1);
     QCOMPARE(window.messageCount(), 0);
@@ -120,16 +120,16 @@ void TestDeviceChanges::theChosenDeviceStaysChosen()
     const QByteArray anotherPath = "/dev/hidraw-of-a-test-3";
     const HidWindow window;
     const QComboBox *devices = window.combo("comboBox_Hid_Device");
-    window.combo("comboBox_Hid_Device")->setCurrentText(smallPath);
+    window.combo("comboBox_Hid_Device")->setCurrentText(smallNode);
     plugIn(anotherPath, largeIds);
     QTRY_COMPARE(devices->count(), 3);
-    QCOMPARE(devices->currentText(), QString(smallPath));
+    QCOMPARE(devices->currentText(), QString(smallNode));
     for (int i = 0; i < devices->count(); ++i) {
         QCOMPARE(devices->itemData(i, Qt::ToolTipRole).toString(), devices->itemText(i));
     }
-    pullOut(largePath, largeIds);
+    pullOut(largeNode, largeIds);
     QTRY_COMPARE(devices->count(), 2);
-    QCOMPARE(devices->currentText(), QString(smallPath));
+    QCOMPARE(devices->currentText(), QString(smallNode));
     pullOutSmall();
     QTRY_COMPARE(devices->count(), 1);
     QCOMPARE(devices->currentText(), QString(anotherPath));
@@ -140,13 +140,13 @@ void TestDeviceChanges::anOpenListShowsWhatCame()
     const HidWindow window;
     QComboBox *devices = window.combo("comboBox_Hid_Device");
     const QAbstractItemView *list = devices->view();
-    devices->setCurrentText(smallPath);
+    devices->setCurrentText(smallNode);
     devices->showPopup();
     plugIn("/dev/hidraw-of-a-test-3", largeIds);
     QTRY_COMPARE(devices->count(), 3);
     QVERIFY(list->isVisible());
     QVERIFY(list->visualRect(devices->model()->index(2, 0)).bottom() < list->viewport()->height());
-    QCOMPARE(list->currentIndex().row(), devices->findText(smallPath));
+    QCOMPARE(list->currentIndex().row(), devices->findText(smallNode));
 }
 
 void TestDeviceChanges::refusedRegistrationIsTold()
@@ -158,7 +158,7 @@ void TestDeviceChanges::refusedRegistrationIsTold()
                  QStringList{"The hardware monitoring registration failed, and the hardware could "
                              "not be identified!"});
     QCOMPARE(boxes.titles(), QStringList{"Message"});
-    window.openDevice(smallPath);
+    window.openDevice(smallNode);
     window.setRow(0, "03", "0000", "0001");
     window.clickSend(0);
     QTRY_COMPARE(FakeHid::instance().written().size(), 1);

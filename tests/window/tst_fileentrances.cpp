@@ -1,6 +1,8 @@
 #include "filedialoguser.h"
 #include "loopwindow.h"
+#include "statustext.h"
 #include "testfiles.h"
+#include "windowfile.h"
 
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -47,11 +49,6 @@ private:
 };
 
 namespace {
-
-QString statusText(const WindowDriver &window)
-{
-    return window.find<QLabel>("label_Status")->text().remove('\n').remove(QChar(0x200B));
-}
 
 QString firstDescription(const WindowDriver &window)
 {
@@ -120,7 +117,7 @@ void TestFileEntrances::init()
 
 void TestFileEntrances::removeRemembered()
 {
-    QFile::remove(QCoreApplication::applicationDirPath() + "/window.ini");
+    QFile::remove(windowFile());
 }
 
 QString TestFileEntrances::write(const QString &name, const QByteArray &description) const

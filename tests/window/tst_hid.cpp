@@ -40,11 +40,11 @@ private slots:
 
 namespace {
 
-const QByteArray smallDevice = "fake#VID_EEEF&PID_1616#1";
+const QByteArray smallHid = "fake#VID_EEEF&PID_1616#1";
 const QByteArray largeDevice = "fake#VID_EEEF&PID_2929#1";
-constexpr int smallReport = 64;
+constexpr int smallHidReport = 64;
 
-QByteArray report(const QByteArray &frame, char reportId = 0, int size = smallReport)
+QByteArray report(const QByteArray &frame, char reportId = 0, int size = smallHidReport)
 {
     return reportId + frame.leftJustified(size, '\0');
 }
@@ -69,7 +69,7 @@ void loadDevice(HidWindow &window, const QByteArray &path)
 void TestHid::init()
 {
     FakeHid::instance().reset();
-    FakeHid::instance().addDevice(smallDevice, 0xEEEF, 0x1616);
+    FakeHid::instance().addDevice(smallHid, 0xEEEF, 0x1616);
     FakeHid::instance().addDevice(largeDevice, 0xEEEF, 0x2929);
 }
 
@@ -79,8 +79,8 @@ void TestHid::devicesAreListedByTheirPaths()
     const QComboBox *devices = window.combo("comboBox_Hid_Device");
     QCOMPARE(devices->count(), 2);
     QCOMPARE(devices->itemText(0), QString(largeDevice));
-    QCOMPARE(devices->itemText(1), QString(smallDevice));
-    QCOMPARE(devices->itemData(1, Qt::ToolTipRole).toString(), QString(smallDevice));
+    QCOMPARE(devices->itemText(1), QString(smallHid));
+    QCOMPARE(devices->itemData(1, Qt::ToolTipRole).toString(), QString(smallHid));
 }
 
 void TestHid::theChosenDeviceStaysChosen()
@@ -88,7 +88,7 @@ void TestHid::theChosenDeviceStaysChosen()
     HidWindow window;
     window.combo("comboBox_Hid_Device")->setCurrentIndex(1);
     window.listPorts();
-    QCOMPARE(window.combo("comboBox_Hid_Device")->currentText(), QString(smallDevice));
+    QCOMPARE(window.combo("comboBox_Hid_Device")->currentText(), QString(smallHid));
 }
 
 void TestHid::withoutADeviceTheTabSaysWhatIsMissing()
@@ -102,16 +102,16 @@ void TestHid::withoutADeviceTheTabSaysWhatIsMissing()
     QVERIFY(hint->isVisible());
     QVERIFY(hint->text().contains("hidDeviceID.ini"));
     QVERIFY(hint->text().contains("\"Uart\""));
-    FakeHid::instance().addDevice(smallDevice, 0xEEEF, 0x1616);
+    FakeHid::instance().addDevice(smallHid, 0xEEEF, 0x1616);
     window.listPorts();
-    QCOMPARE(devices->currentText(), QString(smallDevice));
+    QCOMPARE(devices->currentText(), QString(smallHid));
     QVERIFY(!hint->isVisible());
 }
 
 void TestHid::openingShowsTheLink()
 {
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     QCOMPARE(window.linkCaption(), QString("Linking..."));
     QVERIFY(!window.edit("lineEdit_RpID")->isEnabled());
     QVERIFY(!window.combo("comboBox_Hid_Device")->isEnabled());
@@ -125,7 +125,7 @@ void TestHid::openingShowsTheLink()
 void TestHid::aLinkThatSomebodyElseClosesIsShown()
 {
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     QVERIFY(!window.find<QLabel>("label_Status_2")->text().isEmpty());
     window.window().findChild<HidLink *>()->close();
     QCOMPARE(window.linkCaption(), QString("Open HID Device"));
@@ -136,9 +136,9 @@ void TestHid::aLinkThatSomebodyElseClosesIsShown()
 void TestHid::aDeviceThatCantBeOpened()
 {
     MessageBoxes boxes;
-    FakeHid::instance().setOpenable(smallDevice, false);
+    FakeHid::instance().setOpenable(smallHid, false);
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     QCOMPARE(boxes.texts(), QStringList{"Open fail"});
     QCOMPARE(boxes.titles(), QStringList{"HID"});
     QCOMPARE(window.linkCaption(), QString("Open HID Device"));
@@ -164,7 +164,7 @@ void TestHid::aFrameGoesOutInReports()
     MessageBoxes boxes;
     HidWindow window;
     window.edit("lineEdit_RpID")->setText("0x05");
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     window.check("checkBox_CRC_EN_2")->setChecked(true);
     window.setRow(0, "01", "0300", "000001");
     window.sendCurrentRow();
@@ -183,9 +183,9 @@ void TestHid::aFrameGoesOutInReports()
 void TestHid::receivedReportsAreFramesAndNotices()
 {
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     FakeHid &hid = FakeHid::instance();
-    hid.sendReport(QByteArray(smallReport, '\0'));
+    hid.sendReport(QByteArray(smallHidReport, '\0'));
     hid.sendReport(hex("5AA50503001000FF"));
     QTRY_COMPARE(window.messageCount(), 1);
     QCOMPARE(window.message(0), QStringList({"1", "5A A5", " 05", " 03", "0010", " 00 FF ", ""}));
@@ -211,7 +211,7 @@ void TestHid::reportsComeInWhileABoxIsUp()
     QFETCH(QString, box);
     MessageBoxes boxes;
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     window.edit("lineEdit_SBytes")->setText(header);
     FakeHid &hid = FakeHid::instance();
     int shownDuringBox = 0;
@@ -247,7 +247,7 @@ void TestHid::theSlotTakesPacketsAtAnyMoment()
     QTRY_COMPARE(window.messageCount(), 1);
     QCOMPARE(window.message(0), QStringList({"1", "5A A5", " 05", " 03", "0010", " 00 FF ", ""}));
     give();
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     QCOMPARE(window.messageCount(), 2);
     give();
     give();
@@ -282,7 +282,7 @@ void TestHid::whatABoxInTheMiddleLeavesNoRoomForIsTold()
 void TestHid::theHeaderIsTheSerialTabs()
 {
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     window.edit("lineEdit_SBytes")->setText("0x12,0x34");
     window.edit("lineEdit_SBytes_2")->setText("0xAB,0xCD");
     window.setRow(0, "01", "0300", "01");
@@ -294,7 +294,7 @@ void TestHid::theHeaderIsTheSerialTabs()
 void TestHid::aFailedWriteEndsLoopAndLink()
 {
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     window.setRow(0, "01", "0300", "01");
     window.checkRow(0);
     window.edit("lineEdit_StepValue")->setText("20");
@@ -312,7 +312,7 @@ void TestHid::aFailedWriteEndsLoopAndLink()
 void TestHid::theLoopRestsTheWidgetsOfTheTab()
 {
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     window.setRow(0, "01", "0300", "01");
     window.checkRow(0);
     window.click("pushButton_Start_Loop");
@@ -333,7 +333,7 @@ void TestHid::theLoopRestsTheWidgetsOfTheTab()
 void TestHid::aLoopThatOutrunsTheDeviceWaits()
 {
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     window.setRow(0, "01", "0300", "01");
     window.checkRow(0);
     window.edit("lineEdit_StepValue")->setText("0");
@@ -350,7 +350,7 @@ void TestHid::aLoopThatOutrunsTheDeviceWaits()
 void TestHid::leavingTheTabClosesTheDevice()
 {
     HidWindow window;
-    window.openDevice(smallDevice);
+    window.openDevice(smallHid);
     window.find<QTabWidget>("tabWidget")->setCurrentIndex(0);
     QCOMPARE(window.linkCaption(), QString("Open HID Device"));
     QCOMPARE(FakeHid::instance().openHandles(), 0);
@@ -360,7 +360,7 @@ void TestHid::closingTheWindowClosesTheDevice()
 {
     {
         HidWindow window;
-        window.openDevice(smallDevice);
+        window.openDevice(smallHid);
         QCOMPARE(FakeHid::instance().openHandles(), 1);
     }
     QCOMPARE(FakeHid::instance().openHandles(), 0);
@@ -375,7 +375,7 @@ void TestHid::connectingUnderLoad()
     window.setRow(0, "01", "0300", QString("11").repeated(200));
     for (int round = 0; round < 12; ++round) {
         tabs->setCurrentIndex(1);
-        loadDevice(window, round % 2 == 0 ? smallDevice : largeDevice);
+        loadDevice(window, round % 2 == 0 ? smallHid : largeDevice);
         round % 3 == 0 ? window.click("pushButton_ConnectHID") : tabs->setCurrentIndex(0);
         QCOMPARE(window.linkCaption(), QString("Open HID Device"));
         QCOMPARE(FakeHid::instance().openHandles(), 0);

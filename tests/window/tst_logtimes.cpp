@@ -1,4 +1,5 @@
 #include "app/messagepanel.h"
+#include "frames/timeunits.h"
 #include "hexbytes.h"
 #include "links/serial/seriallink.h"
 #include "log/logcolumns.h"
@@ -6,6 +7,7 @@
 #include "seencells.h"
 #include "testfiles.h"
 #include "windowdriver.h"
+#include "windowfile.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -32,12 +34,6 @@ private slots:
 namespace {
 
 const QByteArray timedFrame = QByteArray::fromHex("5AA503030001");
-constexpr qint64 msInNs = 1000000;
-
-QString memoryFile()
-{
-    return QCoreApplication::applicationDirPath() + "/window.ini";
-}
 
 MessagePanel &panelOf(WindowDriver &window)
 {
@@ -52,7 +48,8 @@ public:
     {
         window().resize(1024, 700);
         records().appendSent(timedFrame, false, ArrivalTime{timeUs, 0});
-        records().appendReceived(timedFrame, false, ArrivalTime{timeUs + sinceNs / 1000, sinceNs});
+        records().appendReceived(timedFrame, false,
+                                 ArrivalTime{timeUs + sinceNs / nsPerUs, sinceNs});
         QCoreApplication::processEvents();
     }
 
@@ -66,7 +63,7 @@ private:
 
 void TestLogTimes::init()
 {
-    QFile::remove(memoryFile());
+    QFile::remove(windowFile());
 }
 
 void TestLogTimes::theTimeIsPaintedAndNoText_data()
@@ -85,7 +82,7 @@ void TestLogTimes::theTimeIsPaintedAndNoText()
     QFETCH(int, shown);
     QFETCH(bool, inTheFirstRow);
     QFETCH(bool, inTheSecondRow);
-    TimedWindow window(12 * msInNs);
+    TimedWindow window(12 * nsPerMs);
     panelOf(window).setShownTime(ShownTime(shown));
     const QImage blank = window.time(2);
     QCOMPARE(window.time(0) != blank, inTheFirstRow);
@@ -101,10 +98,11 @@ void TestLogTimes::theTimeFitsItsColumn_data()
     QTest::addColumn<qint64>("sinceNs");
 
     QTest::newRow("us") << int(ShownTime::SinceRowBefore) << qint64(888888);
-    QTest::newRow("ms") << int(ShownTime::SinceRowBefore) << 88888 * msInNs / 1000;
-    QTest::newRow("before") << int(ShownTime::SinceRowBefore) << -88888 * msInNs / 1000;
-    QTest::newRow("minutes") << int(ShownTime::SinceRowBefore) << qint64(48) * 60 * 1000 * msInNs;
-    QTest::newRow("of the day") << int(ShownTime::OfDay) << msInNs;
+    QTest::newRow("ms") << int(ShownTime::SinceRowBefore) << 88888 * nsPerUs;
+    QTest::newRow("before") << int(ShownTime::SinceRowBefore) << -88888 * nsPerUs;
+    QTest::newRow("minutes") << int(ShownTime::SinceRowBefore)
+                             << 48 * secondsPerMinute * nsPerSecond;
+    QTest::newRow("of the day") << int(ShownTime::OfDay) << nsPerMs;
 }
 
 /// A text that is cut off, or too large, has ink at the edge of its cell.
@@ -126,7 +124,7 @@ void TestLogTimes::theTimeFitsItsColumn()
 
 void TestLogTimes::theTipTellsTheTimeInFull()
 {
-    const TimedWindow window(12 * msInNs);
+    const TimedWindow window(12 * nsPerMs);
     const QRegularExpression first(R"(^\d{4}-\d\d-\d\d \d\d:\d\d:27\.123456 [+-]\d\d:\d\d$)");
     const QString tip = tipOf(*window.messages(), 0, LogColumn::Rest);
     QVERIFY2(first.match(tip).hasMatch(), qPrintable(tip));
@@ -181,7 +179,7 @@ void TestLogTimes::theChoiceIsRemembered()
     }
     WindowDriver window;
     QCOMPARE(panelOf(window).shownTime(), ShownTime(shown));
-    QCOMPARE(textIn(memoryFile()).contains("time="), ShownTime(shown) != ShownTime::SinceRowBefore);
+    QCOMPARE(textIn(windowFile()).contains("time="), ShownTime(shown) != ShownTime::SinceRowBefore);
 }
 
 QTEST_MAIN(TestLogTimes)

@@ -1,4 +1,5 @@
 #include "loopwindow.h"
+#include "statustext.h"
 
 #include <QLabel>
 #include <QtTest>
@@ -23,11 +24,6 @@ void pressUndo(WindowDriver &window)
     QVERIFY(QTest::qWaitForWindowActive(&window.window()));
     window.commands()->setFocus();
     QTest::keyClick(window.commands(), Qt::Key_Z, Qt::ControlModifier);
-}
-
-QString told(const WindowDriver &window)
-{
-    return window.find<QLabel>("label_Status")->text();
 }
 
 } // namespace
@@ -67,13 +63,13 @@ void TestLoopUndo::anotherListWaitsForTheEnd()
     for (int step = 0; step < 10; ++step) {
         pressUndo(window);
     }
-    QVERIFY2(told(window).contains("exchanged"), qPrintable(told(window)));
+    QVERIFY2(statusText(window).contains("exchanged"), qPrintable(statusText(window)));
     QCOMPARE(window.commands()->item(0, Column::Cmd)->text(), QString());
     window.click("pushButton_Start_Loop");
     QCOMPARE(window.loopCaption(), QString("Auto Send"));
     pressUndo(window);
     QCOMPARE(window.commands()->item(2, Column::Cmd)->text(), QString("42"));
-    QVERIFY2(told(window).contains("another list"), qPrintable(told(window)));
+    QVERIFY2(statusText(window).contains("another list"), qPrintable(statusText(window)));
 }
 
 QTEST_MAIN(TestLoopUndo)

@@ -2,6 +2,7 @@
 #include "recordingsamples.h"
 #include "serialwindow.h"
 #include "testfiles.h"
+#include "windowfile.h"
 
 #include <QLabel>
 #include <QTemporaryDir>
@@ -33,10 +34,10 @@ private slots:
 namespace {
 
 /// A window with an open port, and a folder for recordings.
-class RecordBench
+class RecordedWindow
 {
 public:
-    explicit RecordBench(const QString &name = "run.jsonl")
+    explicit RecordedWindow(const QString &name = "run.jsonl")
         : path(folder.filePath(name))
     {
         window = std::make_unique<SerialWindow>();
@@ -79,7 +80,7 @@ public:
 
 void removeRemembered()
 {
-    QFile::remove(QCoreApplication::applicationDirPath() + "/window.ini");
+    QFile::remove(windowFile());
 }
 
 } // namespace
@@ -91,7 +92,7 @@ void TestRecording::initTestCase()
 
 void TestRecording::theButtonStartsAndStops()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     QCOMPARE(bench.caption(), QString("Record…"));
     QVERIFY(!bench.window->find<QLabel>("label_Record")->isVisibleTo(&bench.window->window()));
     bench.startRecording();
@@ -116,7 +117,7 @@ void TestRecording::theButtonStartsAndStops()
 
 void TestRecording::aTableRowIsNamed()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     bench.startRecording();
     bench.window->commands()->item(2, CommandColumn::Description)->setText("Read status");
     bench.window->setRow(2, "03", "10", "");
@@ -134,7 +135,7 @@ void TestRecording::aTableRowIsNamed()
 
 void TestRecording::clearingTheLogTakesNothingAway()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     bench.startRecording();
     bench.port.send(QByteArray::fromHex("5AA50142"));
     QTRY_COMPARE(bench.window->messageCount(), 1);
@@ -146,7 +147,7 @@ void TestRecording::clearingTheLogTakesNothingAway()
 
 void TestRecording::itGoesOnOverTheLossOfTheLink()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     bench.startRecording();
     bench.port.unplug();
     QTRY_VERIFY(!bench.window->looksOpen());
@@ -163,18 +164,18 @@ void TestRecording::itGoesOnOverTheLossOfTheLink()
 
 void TestRecording::theEndingChoosesTheForm()
 {
-    RecordBench bench("run.pcapng");
+    RecordedWindow bench("run.pcapng");
     bench.startRecording();
     QVERIFY(bench.stopRecording());
     QCOMPARE(contentOf(bench.path).left(4).toHex(), QByteArray("0a0d0d0a"));
-    RecordBench without("run");
+    RecordedWindow without("run");
     without.startRecording();
     QTRY_COMPARE(filesIn(without.folder.path()), QStringList{"run.jsonl"});
 }
 
 void TestRecording::nothingIsOverwritten()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     writeFile(bench.path, "mine");
     bench.startRecording();
     QTRY_COMPARE(filesIn(bench.folder.path()), (QStringList{"run-002.jsonl", "run.jsonl"}));
@@ -184,7 +185,7 @@ void TestRecording::nothingIsOverwritten()
 
 void TestRecording::aClosedDialogRecordsNothing()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     const FileDialogUser user;
     bench.window->click("pushButton_Record");
     QCOMPARE(user.dialogCount(), 1);
@@ -195,7 +196,7 @@ void TestRecording::aClosedDialogRecordsNothing()
 
 void TestRecording::aFolderThatGoesIsShown()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     bench.startRecording();
     QTRY_COMPARE(filesIn(bench.folder.path()).size(), 1);
     QVERIFY(bench.folder.remove());
@@ -208,7 +209,7 @@ void TestRecording::aFolderThatGoesIsShown()
 
 void TestRecording::closingTheWindowClosesTheFile()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     bench.startRecording();
     bench.port.send(QByteArray::fromHex("5AA50142"));
     QTRY_COMPARE(bench.window->messageCount(), 1);
@@ -220,7 +221,7 @@ void TestRecording::closingTheWindowClosesTheFile()
 
 void TestRecording::endingTheProgramClosesTheFile()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     bench.startRecording();
     bench.window->window().end();
     bench.window.reset();
@@ -230,7 +231,7 @@ void TestRecording::endingTheProgramClosesTheFile()
 
 void TestRecording::theFolderIsRemembered()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     bench.startRecording();
     QVERIFY(bench.stopRecording());
     QVERIFY(bench.window->window().close());
@@ -247,7 +248,7 @@ void TestRecording::atFirstItIsWhereDocumentsAre()
     const auto restore = qScopeGuard([&homeBefore] { qputenv("HOME", homeBefore); });
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
-    const RecordBench bench;
+    const RecordedWindow bench;
     const FileDialogUser user;
     bench.window->click("pushButton_Record");
     QCOMPARE(user.look().folder, home.path());
@@ -259,7 +260,7 @@ void TestRecording::atFirstItIsWhereDocumentsAre()
 
 void TestRecording::aRecordingIsExported()
 {
-    RecordBench bench;
+    RecordedWindow bench;
     writeFile(bench.path, sampleFile(RecordingFormat::JsonLines, sampleEvents()));
     const QString csv = bench.folder.filePath("run.csv");
     FileDialogUser user(bench.path);
@@ -281,7 +282,7 @@ void TestRecording::aRecordingIsExported()
 
 void TestRecording::whatIsNoRecordingIsTold()
 {
-    RecordBench bench("notes.jsonl");
+    RecordedWindow bench("notes.jsonl");
     writeFile(bench.path, "hello\n");
     const QString csv = bench.folder.filePath("notes.csv");
     FileDialogUser user(bench.path);

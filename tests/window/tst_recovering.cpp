@@ -39,7 +39,7 @@ QStringList recoveryFiles()
     return filesIn(QCoreApplication::applicationDirPath()).filter("recovery-");
 }
 
-QString keptIn(const QString &name)
+QString keptRowIn(const QString &name)
 {
     const QVector<CommandRow> rows = readCommandFile(contentOf(pathOf(name))).rows;
     return rows.isEmpty() ? QString("nothing") : rows.first().description;
@@ -89,7 +89,7 @@ void TestRecovering::anEditedListIsKept()
 {
     const WindowDriver window;
     edit(window, "edited");
-    QTRY_COMPARE(keptIn("recovery-1.txt"), QString("edited"));
+    QTRY_COMPARE(keptRowIn("recovery-1.txt"), QString("edited"));
 }
 
 void TestRecovering::closingAndSavingLeaveNothing_data()
@@ -133,7 +133,7 @@ void TestRecovering::whatWasLeftBehindIsOfferedAndLoadedWhenAsked()
     QCOMPARE(status(window), QString());
     // It is still not saved, so it is kept for this program now.
     QCOMPARE(recoveryFiles(), QStringList({".recovery-2.lock", "recovery-2.txt"}));
-    QCOMPARE(keptIn("recovery-2.txt"), QString("kept"));
+    QCOMPARE(keptRowIn("recovery-2.txt"), QString("kept"));
     MessageBoxes boxes;
     boxes.answerWith(QMessageBox::No);
     window.window().close();
@@ -174,7 +174,7 @@ void TestRecovering::theProgramEndsWithoutAQuestion()
     }
     QCOMPARE(boxes.texts(), QStringList());
     QCOMPARE(recoveryFiles(), QStringList("recovery-1.txt"));
-    QCOMPARE(keptIn("recovery-1.txt"), QString("edited"));
+    QCOMPARE(keptRowIn("recovery-1.txt"), QString("edited"));
 }
 
 void TestRecovering::anEditThatIsStillOpenIsKept()
@@ -187,7 +187,7 @@ void TestRecovering::anEditThatIsStillOpenIsKept()
         QTest::keyClicks(table->viewport()->findChild<QLineEdit *>(), "typed");
         window.window().end();
     }
-    QCOMPARE(keptIn("recovery-1.txt"), QString("typed"));
+    QCOMPARE(keptRowIn("recovery-1.txt"), QString("typed"));
 }
 
 void TestRecovering::theProgramMayEndDuringTheQuestion()
@@ -211,7 +211,7 @@ void TestRecovering::aSessionThatEndsIsNoReasonToClose()
     WindowDriver window;
     edit(window, "edited");
     window.window().keepForNextStart();
-    QCOMPARE(keptIn("recovery-1.txt"), QString("edited"));
+    QCOMPARE(keptRowIn("recovery-1.txt"), QString("edited"));
     QCOMPARE(boxes.texts(), QStringList());
     QVERIFY(window.window().isVisible());
     window.window().close();
@@ -244,13 +244,13 @@ void TestRecovering::whatIsTakenBackIsKept()
     const FileDialogUser user(folder.filePath("list.txt"));
     WindowDriver window;
     edit(window, "edited");
-    QTRY_COMPARE(keptIn("recovery-1.txt"), QString("edited"));
+    QTRY_COMPARE(keptRowIn("recovery-1.txt"), QString("edited"));
     window.click("pushButton_LoadCommand");
     QCOMPARE(recoveryFiles(), QStringList());
     window.window().activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window.window()));
     QTest::keyClick(window.commands(), Qt::Key_Z, Qt::ControlModifier);
-    QTRY_COMPARE(keptIn("recovery-1.txt"), QString("edited"));
+    QTRY_COMPARE(keptRowIn("recovery-1.txt"), QString("edited"));
     QTest::keyClick(window.commands(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(recoveryFiles(), QStringList());
     window.window().close();

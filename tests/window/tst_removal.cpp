@@ -70,7 +70,7 @@ public:
                         const QString &pause = "5")
         : sent(window().findChild<Sender *>(), &Sender::sent)
     {
-        openDevice(smallPath);
+        openDevice(smallNode);
         edit("lineEdit_StepValue")->setText(interval);
         edit("lineEdit_CycleTime")->setText(cycleDelay);
         setRow(0, "03", "0000", "0001");
@@ -138,7 +138,7 @@ void TestRemoval::cleanup()
 
 namespace {
 
-const QStringList quick{"5", "5", "5"};
+const QStringList quickLoop{"5", "5", "5"};
 
 void row(const char *name, const QStringList &times, const Removal &removal)
 {
@@ -147,7 +147,7 @@ void row(const char *name, const QStringList &times, const Removal &removal)
 
 void rowWithoutFrames(const char *name, const Removal &removal)
 {
-    QTest::newRow(name) << quick.at(0) << quick.at(1) << quick.at(2) << removal << true;
+    QTest::newRow(name) << quickLoop.at(0) << quickLoop.at(1) << quickLoop.at(2) << removal << true;
 }
 
 /// The device goes while a message is up.
@@ -165,7 +165,7 @@ void addRowsWithMessages()
         window.addOverlongRow();
         pullOutAtMessage([&window] { window.startLoop(); });
     });
-    row("message in the loop", quick, [](OpenWindow &window) {
+    row("message in the loop", quickLoop, [](OpenWindow &window) {
         window.setRow(2, "42", "0002", "020");
         pullOutAtMessage([&window] {
             window.startLoop();
@@ -184,28 +184,28 @@ void TestRemoval::removalEndsTheLink_data()
     QTest::addColumn<Removal>("removal");
     QTest::addColumn<bool>("nothingIsSent");
 
-    row("idle", quick, [](OpenWindow & /*window*/) { pullOutSmall(); });
-    row("announced by its IDs alone", quick, [](OpenWindow & /*window*/) {
-        hid().removeDevice(smallPath);
+    row("idle", quickLoop, [](OpenWindow & /*window*/) { pullOutSmall(); });
+    row("announced by its IDs alone", quickLoop, [](OpenWindow & /*window*/) {
+        hid().removeDevice(smallNode);
         FakeSystem::instance().pullOut({DeviceKind::Hid, "VID_EEEF&PID_1616", "VID_EEEF&PID_1616"});
     });
-    row("running loop", quick, [](OpenWindow &window) { loopOf(window, 3); });
+    row("running loop", quickLoop, [](OpenWindow &window) { loopOf(window, 3); });
     row("loop of blocks", {"0", "5", "5"}, [](OpenWindow &window) { loopOf(window, 3); });
     row("in the interval", {"10000", "5", "5"}, [](OpenWindow &window) { loopOf(window, 1); });
     row("in the cycle delay", {"5", "10000", "5"}, [](OpenWindow &window) { loopOf(window, 0); });
     row("in a pause", {"5", "5", "10000"}, [](OpenWindow &window) { loopOf(window, 1); });
     row("in a pause between blocks", {"0", "5", "10000"},
         [](OpenWindow &window) { loopOf(window, 1); });
-    row("reports of a batch wait", quick, [](OpenWindow &window) {
+    row("reports of a batch wait", quickLoop, [](OpenWindow &window) {
         window.click("pushButton_SendAll_2");
         pullOutSmall();
     });
     addRowsWithMessages();
-    row("direct editor is open", quick, [](OpenWindow &window) {
+    row("direct editor is open", quickLoop, [](OpenWindow &window) {
         window.window().findChild<RowEditor *>()->open(0);
         pullOutSmall();
     });
-    row("direct editor is open over a loop", quick, [](OpenWindow &window) {
+    row("direct editor is open over a loop", quickLoop, [](OpenWindow &window) {
         window.startLoop();
         window.window().findChild<RowEditor *>()->open(0);
         window.waitForFrames(3);
@@ -247,15 +247,15 @@ void TestRemoval::removalEndsTheLink()
 void TestRemoval::removalWhileTheLinkIsBeingOpened()
 {
     HidWindow window;
-    hid().setOpenable(smallPath, false);
+    hid().setOpenable(smallNode, false);
     MessageBoxes boxes;
     connect(&boxes, &MessageBoxes::shown, this, [](const QString & /*text*/) { pullOutSmall(); });
-    window.openDevice(smallPath);
+    window.openDevice(smallNode);
     QCOMPARE(boxes.texts(), QStringList{"Open fail"});
     QCOMPARE(window.message(0), deviceRow("HID", smallRemoved));
     QCOMPARE(disabledOf(window), QStringList());
     QTRY_COMPARE(window.combo("comboBox_Hid_Device")->count(), 1);
-    window.openDevice(largePath);
+    window.openDevice(largeNode);
     QCOMPARE(window.linkCaption(), QString("Linking..."));
 }
 
@@ -271,7 +271,7 @@ void TestRemoval::removalWithAFailedWriteUnderWay()
     }
     pullOutSmall();
     QCOMPARE(window.linkCaption(), QString("Open HID Device"));
-    window.openDevice(largePath);
+    window.openDevice(largeNode);
     QTRY_COMPARE(window.combo("comboBox_Hid_Device")->count(), 1);
     QCOMPARE(window.linkCaption(), QString("Linking..."));
     QCOMPARE(hid().count(HidCall::Function::Close), 1);
@@ -288,7 +288,7 @@ void TestRemoval::removalOfThePortEndsTheLoop()
     window.edit("lineEdit_CycleTime")->setText("5");
     window.click("pushButton_Start_Loop");
     QTRY_VERIFY(window.messageCount() >= 2);
-    FakeSystem::instance().pullOut(port(serialPort.path()));
+    FakeSystem::instance().pullOut(portDevice(serialPort.path()));
     QCOMPARE(window.button("pushButton_OpenCom")->text(), QString("Open Com Port"));
     QCOMPARE(window.button("pushButton_Start_Loop")->text(), QString("Auto Send"));
     for (const char *name : {"pushButton_OpenCom", "pushButton_SendAll", "checkBox_CRC_EN",
@@ -303,12 +303,12 @@ void TestRemoval::anotherDevicesRemovalIsOnlyLogged_data()
 {
     QTest::addColumn<WatchedDevice>("device");
 
-    QTest::newRow("other product") << hidDevice(largePath, largeIds);
-    QTest::newRow("other vendor") << hidDevice(largePath, {0xEEEE, 0x1616});
+    QTest::newRow("other product") << hidDevice(largeNode, largeIds);
+    QTest::newRow("other vendor") << hidDevice(largeNode, {0xEEEE, 0x1616});
     QTest::newRow("spare of the same type") << hidDevice("/dev/hidraw-spare", smallIds);
-    QTest::newRow("unknown device") << hidDevice(largePath, {});
-    QTest::newRow("port") << port("ttyUSB0");
-    QTest::newRow("port with the IDs in its name") << port("VID_EEEF&PID_1616");
+    QTest::newRow("unknown device") << hidDevice(largeNode, {});
+    QTest::newRow("port") << portDevice("ttyUSB0");
+    QTest::newRow("port with the IDs in its name") << portDevice("VID_EEEF&PID_1616");
 }
 
 void TestRemoval::anotherDevicesRemovalIsOnlyLogged()

@@ -3,6 +3,7 @@
 #include "links/serial/seriallink.h"
 #include "serialwindow.h"
 #include "testfiles.h"
+#include "windowfile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -116,7 +117,7 @@ Q_DECLARE_METATYPE(Choice)
 void TestReopening::init()
 {
     attachBoth();
-    QFile::remove(QCoreApplication::applicationDirPath() + "/window.ini");
+    QFile::remove(windowFile());
     QDir(linksFolder()).removeRecursively();
     QDir().mkpath(linksFolder());
 }
@@ -186,9 +187,9 @@ void TestReopening::aPortThatIsAnnouncedMayRefuseAtFirst()
     ReopenWindow window(folder.filePath("ttyUSB0"));
     QVERIFY(window.looksOpen());
     window.pullOut();
-    FakeSystem::instance().pullOut(port(window.name));
+    FakeSystem::instance().pullOut(portDevice(window.name));
     QVERIFY(!window.looksOpen());
-    FakeSystem::instance().plugIn(port(window.name));
+    FakeSystem::instance().plugIn(portDevice(window.name));
     QTRY_VERIFY(!window.serial().failure().words.isEmpty());
     QVERIFY(!window.looksOpen());
     window.plugIn();
@@ -264,7 +265,7 @@ void TestReopening::itIsRemembered()
         const SerialWindow window;
         QCOMPARE(window.check("checkBox_Reopen")->isChecked(), reopens);
     }
-    QVERIFY(!textIn(QCoreApplication::applicationDirPath() + "/window.ini").contains("reopen"));
+    QVERIFY(!textIn(windowFile()).contains("reopen"));
 }
 
 QTEST_MAIN(TestReopening)

@@ -24,8 +24,8 @@ private slots:
 
 namespace {
 
-constexpr int rowHeight = 36;
-const QByteArray frame = QByteArray::fromHex("5AA5080310000000000077");
+constexpr int logRowHeight = 36;
+const QByteArray steadyFrame = QByteArray::fromHex("5AA5080310000000000077");
 
 /// What the screen shows of the log, as it was painted: nothing is painted for the picture.
 QImage shownLog(const WindowDriver &window)
@@ -53,14 +53,14 @@ bool hasText(const QImage &picture, const QRect &place)
 }
 
 /// Rows in full view whose number can't be seen.
-int blankRows(const WindowDriver &window)
+int blankRowsOf(const WindowDriver &window)
 {
     const QImage picture = shownLog(window);
     const auto dots = [&picture](int pixels) {
         return qRound(pixels * picture.devicePixelRatio());
     };
     const int width = dots(window.messages()->columnWidth(0));
-    const int height = dots(rowHeight);
+    const int height = dots(logRowHeight);
     int blank = 0;
     for (int top = 0; top + height <= picture.height(); top += height) {
         blank += hasText(picture, {0, top, width, height}) ? 0 : 1;
@@ -80,7 +80,7 @@ int flashesUntil(WindowDriver &window, int rows)
     int flashes = 0;
     while (log.count() < rows && timer.elapsed() < patienceMs) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        flashes += blankRows(window) > 0 ? 1 : 0;
+        flashes += blankRowsOf(window) > 0 ? 1 : 0;
     }
     return log.count() >= rows ? flashes : -1;
 }
@@ -112,7 +112,7 @@ private:
 void appendAndSee(WindowDriver &window)
 {
     QSignalSpy movedOn(window.window().findChild<MessageLog *>(), &MessageLog::countChanged);
-    window.records().appendReceived(frame, false);
+    window.records().appendReceived(steadyFrame, false);
     QVERIFY(!movedOn.isEmpty() || movedOn.wait());
     QCoreApplication::processEvents();
 }
@@ -125,11 +125,11 @@ void fillView(WindowDriver &window)
     window.window().resize(1120, 760);
     QCoreApplication::processEvents();
     RecordLog &log = window.records();
-    const int rows = window.messages()->viewport()->height() / rowHeight + more;
+    const int rows = window.messages()->viewport()->height() / logRowHeight + more;
     for (int row = 0; row < rows; ++row) {
-        log.appendReceived(frame, false);
+        log.appendReceived(steadyFrame, false);
     }
-    QTRY_COMPARE(blankRows(window), 0);
+    QTRY_COMPARE(blankRowsOf(window), 0);
     appendAndSee(window);
 }
 
@@ -161,7 +161,7 @@ void TestSteadyLog::rowsThatAreInStayOnTheScreen()
     source.setTimerType(Qt::PreciseTimer);
     connect(&source, &QTimer::timeout, [&] {
         for (int row = 0; row < rowsAtOnce; ++row) {
-            log.appendReceived(frame, false);
+            log.appendReceived(steadyFrame, false);
         }
     });
     source.start(everyMs);
@@ -211,7 +211,7 @@ void TestSteadyLog::aNewRowIsAllThatIsPainted()
     fillView(window);
     RecordLog &log = window.records();
     for (int row = 0; row < untilTheHandleIsAtItsLeast; ++row) {
-        log.appendReceived(frame, false);
+        log.appendReceived(steadyFrame, false);
     }
     QTest::qWait(50);
     appendAndSee(window);
@@ -222,7 +222,7 @@ void TestSteadyLog::aNewRowIsAllThatIsPainted()
         appendAndSee(window);
         QCOMPARE(cells.paints(), row);
     }
-    QVERIFY2(cells.region().boundingRect().height() <= 2 * rowHeight,
+    QVERIFY2(cells.region().boundingRect().height() <= 2 * logRowHeight,
              qPrintable(QString::number(cells.region().boundingRect().height())));
     QCOMPARE(header.paints(), 0);
     QCOMPARE(bar.paints(), 0);
@@ -248,7 +248,7 @@ void TestSteadyLog::whatWasMovedLooksAsPaintedAnew()
     window.messages()->selectRow(log.count() - 2);
     window.window().findChild<MessageLog *>()->setFilter(LogFilter(sought));
     for (int row = 0; row < more; ++row) {
-        log.appendSent(frame, false);
+        log.appendSent(steadyFrame, false);
         appendAndSee(window);
     }
     const QImage moved = shownLog(window);

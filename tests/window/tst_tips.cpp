@@ -34,7 +34,7 @@ namespace {
 
 constexpr int tipColumn = 5;
 
-QString bytes(int count)
+QString byteText(int count)
 {
     QString text;
     for (int i = 0; i < count; ++i) {
@@ -77,7 +77,7 @@ void TestTips::restOn(const QTableWidget &table, int row, int column)
 void TestTips::aLongTextIsWrapped()
 {
     QTableWidget *log = m_window->messages();
-    setLeftItem(*log, 0, tipColumn, bytes(250));
+    setLeftItem(*log, 0, tipColumn, byteText(250));
     moveTo(*log, 0, tipColumn);
     QTRY_VERIFY(QToolTip::isVisible());
     const QStringList lines = QToolTip::text().split('\n');
@@ -85,7 +85,7 @@ void TestTips::aLongTextIsWrapped()
     for (int i = 0; i < 15; ++i) {
         QCOMPARE(lines.at(i).simplified().split(' ').size(), 16);
     }
-    QCOMPARE(QToolTip::text().simplified(), bytes(250));
+    QCOMPARE(QToolTip::text().simplified(), byteText(250));
 }
 
 void TestTips::theTipStaysWhileTheMouseRests_data()
@@ -102,7 +102,7 @@ void TestTips::theTipStaysWhileTheMouseRests()
     auto *widget = m_window->find<QTableWidget>(qPrintable(table));
     {
         const QSignalBlocker blocker(widget);
-        setLeftItem(*widget, 0, tipColumn, bytes(60));
+        setLeftItem(*widget, 0, tipColumn, byteText(60));
     }
     moveTo(*widget, 0, tipColumn);
     QTRY_VERIFY(QToolTip::isVisible());
@@ -110,13 +110,13 @@ void TestTips::theTipStaysWhileTheMouseRests()
     // A tip that is to go goes after 300 ms at the latest.
     QTest::qWait(400);
     QVERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text().simplified(), bytes(60));
+    QCOMPARE(QToolTip::text().simplified(), byteText(60));
 }
 
 void TestTips::theTipGoesWithTheMouse()
 {
     QTableWidget *log = m_window->messages();
-    setLeftItem(*log, 0, tipColumn, bytes(60));
+    setLeftItem(*log, 0, tipColumn, byteText(60));
     moveTo(*log, 0, tipColumn);
     QTRY_VERIFY(QToolTip::isVisible());
     moveTo(*log, 0, 2);
@@ -139,16 +139,16 @@ void TestTips::aCellThatIsCutOffHasATip()
     QFETCH(QString, table);
     QFETCH(int, column);
     auto *widget = m_window->find<QTableWidget>(qPrintable(table));
-    setLeftItem(*widget, 0, column, bytes(100));
+    setLeftItem(*widget, 0, column, byteText(100));
     restOn(*widget, 0, column);
     QTRY_VERIFY(QToolTip::isVisible());
-    QCOMPARE(QToolTip::text().simplified(), bytes(100));
+    QCOMPARE(QToolTip::text().simplified(), byteText(100));
     QVERIFY(QToolTip::text().contains('\n'));
 }
 
 void TestTips::aCellThatIsNotCutOffHasNone()
 {
-    setLeftItem(*m_window->commands(), 0, Column::Data, bytes(2));
+    setLeftItem(*m_window->commands(), 0, Column::Data, byteText(2));
     restOn(*m_window->commands(), 0, Column::Data);
     restOn(*m_window->commands(), 0, Column::Select);
     restOn(*m_window->commands(), 1, Column::Description);

@@ -1,5 +1,6 @@
 #include "testfiles.h"
 #include "windowdriver.h"
+#include "windowfile.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,11 +30,6 @@ private slots:
 };
 
 namespace {
-
-QString windowFile()
-{
-    return QCoreApplication::applicationDirPath() + "/window.ini";
-}
 
 QRect screenRoom(const WindowDriver &window)
 {

@@ -31,7 +31,7 @@ private:
 
 namespace {
 
-QString portsFolder()
+QString workbenchFolder()
 {
     return QCoreApplication::applicationDirPath() + "/ports";
 }
@@ -58,8 +58,8 @@ DirectEditor *openEditor(WindowDriver &window, int row)
 void TestWorkbench::init()
 {
     QFile::remove(QCoreApplication::applicationDirPath() + "/debuggerConfig.ini");
-    QDir(portsFolder()).removeRecursively();
-    QDir().mkpath(portsFolder());
+    QDir(workbenchFolder()).removeRecursively();
+    QDir().mkpath(workbenchFolder());
 }
 
 void TestWorkbench::closingUnchangedAsksNothing()
@@ -227,7 +227,7 @@ void TestWorkbench::portsThatComeAndGoAreLoggedAndListed()
 {
     WindowDriver window;
     const TestPort port;
-    const QString link = portsFolder() + "/device";
+    const QString link = workbenchFolder() + "/device";
     QVERIFY(QFile::link(port.path(), link));
     QTRY_COMPARE(window.messageCount(), 1);
     QCOMPARE(window.message(0), QStringList({"Uart", "", "", "", "", "Insert " + link, ""}));
@@ -242,7 +242,7 @@ void TestWorkbench::theOpenPortIsClosedWhenItGoes()
 {
     WindowDriver window;
     const TestPort port;
-    const QString link = portsFolder() + "/device";
+    const QString link = workbenchFolder() + "/device";
     QVERIFY(QFile::link(port.path(), link));
     QComboBox *ports = window.combo("comboBox_Comm");
     QTRY_VERIFY(ports->findText(link) >= 0);

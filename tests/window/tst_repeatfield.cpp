@@ -1,12 +1,13 @@
 #include "loopwindow.h"
 #include "testfiles.h"
+#include "windowfile.h"
 
 #include <QFile>
 #include <QLabel>
 #include <QtTest>
 
 /// "Repeat:", and the count of passes while the loop runs.
-class TestLoopRepeat : public QObject
+class TestRepeatField : public QObject
 {
     Q_OBJECT
 
@@ -26,11 +27,6 @@ private slots:
 
 namespace {
 
-QString windowFile()
-{
-    return QCoreApplication::applicationDirPath() + "/window.ini";
-}
-
 QLabel *count(const WindowDriver &window)
 {
     return window.find<QLabel>("label_Passes");
@@ -44,12 +40,12 @@ void typeRepeat(const WindowDriver &window, const QString &text)
 
 } // namespace
 
-void TestLoopRepeat::init()
+void TestRepeatField::init()
 {
     QFile::remove(windowFile());
 }
 
-void TestLoopRepeat::itTakesPositiveNumbers_data()
+void TestRepeatField::itTakesPositiveNumbers_data()
 {
     QTest::addColumn<QString>("text");
 
@@ -63,7 +59,7 @@ void TestLoopRepeat::itTakesPositiveNumbers_data()
     QTest::newRow("ten") << "";
 }
 
-void TestLoopRepeat::itTakesPositiveNumbers()
+void TestRepeatField::itTakesPositiveNumbers()
 {
     const WindowDriver window;
     QCOMPARE(window.edit("lineEdit_Repeat")->text(), QString());
@@ -71,7 +67,7 @@ void TestLoopRepeat::itTakesPositiveNumbers()
     QTEST(window.edit("lineEdit_Repeat")->text(), "text");
 }
 
-void TestLoopRepeat::theLoopEndsAsByAClick()
+void TestRepeatField::theLoopEndsAsByAClick()
 {
     MessageBoxes boxes;
     LoopWindow window("5", "5", "1");
@@ -94,7 +90,7 @@ void TestLoopRepeat::theLoopEndsAsByAClick()
     QTRY_COMPARE(window.loopCaption(), QString("Auto Send"));
 }
 
-void TestLoopRepeat::emptyIsEndless()
+void TestRepeatField::emptyIsEndless()
 {
     LoopWindow window("1", "0", "1");
     window.click("pushButton_Start_Loop");
@@ -104,7 +100,7 @@ void TestLoopRepeat::emptyIsEndless()
     QVERIFY(count(window)->text().mid(5).toInt() > 0);
 }
 
-void TestLoopRepeat::theCountStandsInPlaceOfTheNumber()
+void TestRepeatField::theCountStandsInPlaceOfTheNumber()
 {
     LoopWindow window("5", "150", "1");
     typeRepeat(window, "3");
@@ -135,7 +131,7 @@ void TestLoopRepeat::theCountStandsInPlaceOfTheNumber()
     QCOMPARE(count(window)->text(), QString("0 of 3"));
 }
 
-void TestLoopRepeat::theCountMovesNothing()
+void TestRepeatField::theCountMovesNothing()
 {
     LoopWindow window("1", "0", "1");
     window.window().resize(1120, 760);
@@ -160,7 +156,7 @@ void TestLoopRepeat::theCountMovesNothing()
     QVERIFY(count(window)->fontMetrics().horizontalAdvance("100 of 999") <= count(window)->width());
 }
 
-void TestLoopRepeat::manyPassesAreNotAllShown()
+void TestRepeatField::manyPassesAreNotAllShown()
 {
     LoopWindow window("0", "0", "1");
     QStringList shown;
@@ -178,7 +174,7 @@ void TestLoopRepeat::manyPassesAreNotAllShown()
     QVERIFY2(passes > shown.size(), qPrintable(shown.last()));
 }
 
-void TestLoopRepeat::theNumberIsRemembered()
+void TestRepeatField::theNumberIsRemembered()
 {
     {
         WindowDriver window;
@@ -190,7 +186,7 @@ void TestLoopRepeat::theNumberIsRemembered()
     QCOMPARE(window.edit("lineEdit_Repeat")->text(), QString("25"));
 }
 
-void TestLoopRepeat::anEmptyFieldIsRememberedToo()
+void TestRepeatField::anEmptyFieldIsRememberedToo()
 {
     writeFile(windowFile(), "[window]\nrepeat=25\n");
     {
@@ -202,5 +198,5 @@ void TestLoopRepeat::anEmptyFieldIsRememberedToo()
     QVERIFY(!textIn(windowFile()).contains("repeat"));
 }
 
-QTEST_MAIN(TestLoopRepeat)
-#include "tst_looprepeat.moc"
+QTEST_MAIN(TestRepeatField)
+#include "tst_repeatfield.moc"
