@@ -1,31 +1,21 @@
 #include "codec/numbercodec.h"
 #include "codec/stringcodec.h"
+#include "figures.h"
+#include "frames/timeunits.h"
 
-#include <QElapsedTimer>
 #include <QStringList>
 #include <QTextStream>
-
-#include <algorithm>
 
 // How long one keystroke of a long value list costs: each conversion, the median of many runs.
 
 namespace {
 
 constexpr int elements = 4000;
-constexpr int runs = 101;
+constexpr int codecRuns = 101;
 
-template<typename Work>
-double medianMilliseconds(Work work)
+double medianMilliseconds(const std::function<void()> &work)
 {
-    QVector<qint64> times;
-    for (int run = 0; run < runs; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        times.append(timer.nsecsElapsed());
-    }
-    std::sort(times.begin(), times.end());
-    return static_cast<double>(times.at(runs / 2)) / 1e6;
+    return msPerSecond * medianSeconds(work, codecRuns);
 }
 
 template<typename Encode, typename Decode>
@@ -62,7 +52,7 @@ void printText(const char *name, StringEncoding encoding)
 
 int main()
 {
-    QTextStream(stdout) << elements << " elements, median of " << runs << " runs\n";
+    QTextStream(stdout) << elements << " elements, median of " << codecRuns << " runs\n";
     for (const NumberKind &kind : numberKinds) {
         printNumbers(kind);
     }

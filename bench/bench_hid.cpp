@@ -1,5 +1,6 @@
 #include "fakehid.h"
 #include "figures.h"
+#include "frames/timeunits.h"
 #include "hidwindow.h"
 #include "log/receiver.h"
 
@@ -34,11 +35,6 @@ void attachDevices()
     hid().reset();
     hid().addDevice(smallPath, 0xEEEF, 0x1616);
     hid().addDevice(largePath, 0xEEEF, 0x2929);
-}
-
-double secondsOf(const QElapsedTimer &timer)
-{
-    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
 }
 
 bool fail(const QString &what)
@@ -91,12 +87,12 @@ bool measureQueue(const QByteArray &path, int size, int reports, bool silent)
     while (hid().count(HidCall::Function::Write) < reports) {
         QThread::msleep(5);
     }
-    const double seconds = secondsOf(timer);
+    const double seconds = secondsSince(timer);
     printHeading(QString("hid: %1 reports of %2 bytes at once, to a device that %3")
                      .arg(reports)
                      .arg(size)
                      .arg(silent ? "is silent" : "answers at once"));
-    printFigure("cycle", 1000 * seconds / reports, "ms",
+    printFigure("cycle", msPerSecond * seconds / reports, "ms",
                 silent ? "up to 110 (its read waits 100)" : "10 (its pause), and little more");
     return blockOf(hid().written()) == block || fail("reports lost or out of order");
 }
@@ -105,7 +101,7 @@ double processorShare(int milliseconds)
 {
     const double before = Usage::now().processorSeconds;
     runFor(milliseconds);
-    return 100 * 1000 * (Usage::now().processorSeconds - before) / milliseconds;
+    return 100 * msPerSecond * (Usage::now().processorSeconds - before) / milliseconds;
 }
 
 void measureIdling()
@@ -134,7 +130,7 @@ bool measureLatency()
     QEventLoop shown;
     QObject::connect(window.window().findChild<Receiver *>(), &Receiver::frameReceived, &shown,
                      [&] {
-                         milliseconds.append(1000 * secondsOf(sinceSent));
+                         milliseconds.append(millisecondsSince(sinceSent));
                          shown.quit();
                      });
     std::minstd_rand random(1);
@@ -200,10 +196,10 @@ bool measureConnections()
     QElapsedTimer timer;
     timer.start();
     connectTimes(window, connections);
-    const double seconds = secondsOf(timer);
+    const double seconds = secondsSince(timer);
     const double growth = heapBytes() - heapBefore;
     printHeading(QString("hid: %1 times connected and disconnected").arg(connections));
-    printFigure("one connection", 1000 * seconds / connections, "ms");
+    printFigure("one connection", msPerSecond * seconds / connections, "ms");
     printFigure("heap that each leaves behind", growth / connections, "bytes", "0");
     printFigure("resident memory grows by", Usage::now().residentMiB - residentBefore, "MiB", "0");
     printFigure("threads left", workers(), "", "0");

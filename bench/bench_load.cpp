@@ -30,11 +30,6 @@ QByteArray fileOf(int rows)
     return file;
 }
 
-double milliSecondsSince(const QElapsedTimer &timer)
-{
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
 /// A command table of the size and with the style sheet that it has in the window.
 class ShownTable
 {
@@ -58,7 +53,7 @@ public:
         timer.start();
         m_commands.replaceRows(readCommandFile(file).rows);
         QCoreApplication::processEvents();
-        return milliSecondsSince(timer);
+        return millisecondsSince(timer);
     }
 
     /// Milliseconds to paint each page of the table, from top to bottom.
@@ -72,7 +67,7 @@ public:
             timer.start();
             bar.triggerAction(QAbstractSlider::SliderPageStepAdd);
             QCoreApplication::processEvents();
-            pages.append(milliSecondsSince(timer));
+            pages.append(millisecondsSince(timer));
         }
         return pages;
     }
@@ -122,7 +117,7 @@ void measureRubbish()
     timer.start();
     const int rows = readCommandFile(rubbish).rows.size();
     printHeading("load: 8 MiB of rubbish");
-    printFigure("parsed", milliSecondsSince(timer), "ms", "< 2000");
+    printFigure("parsed", millisecondsSince(timer), "ms", "< 2000");
     printFigure("rows found", rows, "");
 }
 
@@ -133,7 +128,7 @@ void measureBlankLines()
     timer.start();
     const int rows = readCommandFile(lines).rows.size();
     printHeading("load: 8 MiB of blank lines");
-    printFigure("parsed", milliSecondsSince(timer), "ms", "< 1000");
+    printFigure("parsed", millisecondsSince(timer), "ms", "< 1000");
     printFigure("rows found", rows, "");
 }
 

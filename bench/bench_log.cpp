@@ -1,4 +1,5 @@
 #include "figures.h"
+#include "frames/timeunits.h"
 #include "log/logtable.h"
 #include "log/messagelog.h"
 #include "log/recordlog.h"
@@ -10,7 +11,6 @@
 
 namespace {
 
-constexpr int rowsOfAFullLog = 1025;
 constexpr int floodRows = 60000;
 
 /// A log in a table of the size it has in the window.
@@ -40,7 +40,7 @@ public:
             m_log.bringIn();
             QCoreApplication::processEvents();
         });
-        return seconds * 1e6 / rows;
+        return seconds * usPerSecond / rows;
     }
 
     /// Microseconds for the rows of a full log, brought in at once and not yet painted.
@@ -48,25 +48,25 @@ public:
     {
         const double seconds = medianSeconds([&] {
             m_records.clear();
-            for (int row = 0; row < rowsOfAFullLog; ++row) {
+            for (int row = 0; row < RecordLog::mostRecords; ++row) {
                 m_records.appendReceived(m_frame, true, m_time);
             }
             m_log.bringIn();
         });
-        return seconds * 1e6 / rowsOfAFullLog;
+        return seconds * usPerSecond / RecordLog::mostRecords;
     }
 
     double milliSecondsToPaint()
     {
         m_table.setUpdatesEnabled(true);
-        return 1000 * medianSeconds([this] { m_table.viewport()->repaint(); }, 51);
+        return msPerSecond * medianSeconds([this] { m_table.viewport()->repaint(); }, 51);
     }
 
     /// For a full log, of which every row is looked at, and shown or hidden by turns.
     double milliSecondsToFind(const QString &typed)
     {
         m_records.clear();
-        for (int row = 0; row < rowsOfAFullLog; ++row) {
+        for (int row = 0; row < RecordLog::mostRecords; ++row) {
             m_records.appendReceived(m_frame, true, m_time);
         }
         m_log.bringIn();
@@ -79,12 +79,12 @@ public:
             },
             21);
         m_log.setFilter({});
-        return 1000 * seconds;
+        return msPerSecond * seconds;
     }
 
     double milliSecondsToClear()
     {
-        return 1000 * medianSeconds([this] { m_records.clear(); });
+        return msPerSecond * medianSeconds([this] { m_records.clear(); });
     }
 
 private:
@@ -102,9 +102,10 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     ShownLog log;
     printHeading("log: a row of 13 bytes");
-    printFigure("one row for each turn of the event loop", log.cost(rowsOfAFullLog, 1), "us/row");
-    printFigure("50 rows for each turn", log.cost(rowsOfAFullLog, 50), "us/row");
-    printFigure("500 rows for each turn", log.cost(2 * rowsOfAFullLog, 500), "us/row");
+    printFigure("one row for each turn of the event loop", log.cost(RecordLog::mostRecords, 1),
+                "us/row");
+    printFigure("50 rows for each turn", log.cost(RecordLog::mostRecords, 50), "us/row");
+    printFigure("500 rows for each turn", log.cost(2 * RecordLog::mostRecords, 500), "us/row");
     printFigure("a full log at once, not painted", log.costOfFullTable(), "us/row");
     printFigure("a flood of 60000 in one turn", log.cost(floodRows, floodRows), "us/row");
     printFigure("painting what is visible", log.milliSecondsToPaint(), "ms");

@@ -1,5 +1,7 @@
 #include "childprocess.h"
 #include "figures.h"
+#include "framepatience.h"
+#include "frames/timeunits.h"
 #include "log/receiver.h"
 #include "windowdriver.h"
 
@@ -15,23 +17,22 @@
 
 namespace {
 
-constexpr int seconds = 10;
-constexpr qint64 patienceMs = 3000;
+constexpr int figureSeconds = 10;
 
-struct Trial
+struct SteadyStream
 {
     int framesPerSecond;
     const char *aim;
 };
 
-constexpr Trial trials[] = {{10, "< 3.5"}, {100, "< 7.2"}, {1000, "< 16.5"}};
+constexpr SteadyStream steadyStreams[] = {{10, "< 3.5"}, {100, "< 7.2"}, {1000, "< 16.5"}};
 
 QByteArray pushSteadily(const TestPort &port, int framesPerSecond)
 {
     const QByteArray frame = QByteArray::fromHex("5AA5080310000000000077");
     const auto step = std::chrono::nanoseconds(std::chrono::seconds(1)) / framesPerSecond;
     auto next = std::chrono::steady_clock::now();
-    for (int sent = 0; sent < seconds * framesPerSecond; ++sent) {
+    for (int sent = 0; sent < figureSeconds * framesPerSecond; ++sent) {
         port.send(frame);
         next += step;
         std::this_thread::sleep_until(next);
@@ -39,9 +40,10 @@ QByteArray pushSteadily(const TestPort &port, int framesPerSecond)
     return {};
 }
 
-void measure(ChildProcess &writer, WindowDriver &window, const TestPort &port, const Trial &trial)
+void measure(ChildProcess &writer, WindowDriver &window, const TestPort &port,
+             const SteadyStream &stream)
 {
-    const int frames = seconds * trial.framesPerSecond;
+    const int frames = figureSeconds * stream.framesPerSecond;
     int received = 0;
     const auto connection = QObject::connect(window.window().findChild<Receiver *>(),
                                              &Receiver::frameReceived, [&received] { ++received; });
@@ -51,15 +53,15 @@ void measure(ChildProcess &writer, WindowDriver &window, const TestPort &port, c
     QElapsedTimer timer;
     timer.start();
     writer.start();
-    while (received < frames && timer.elapsed() < qint64(seconds) * 1000 + patienceMs) {
+    while (received < frames && timer.elapsed() < figureSeconds * msPerSecond + framePatienceMs) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    const double elapsed = static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    const double elapsed = secondsSince(timer);
     const double used = Usage::now().processorSeconds - before.processorSeconds;
     QObject::disconnect(connection);
     window.click("pushButton_OpenCom");
     printFigure(QString("%1 frames/s").arg(received / elapsed, 0, 'f', 1), 100 * used / elapsed,
-                "% of a core", trial.aim);
+                "% of a core", stream.aim);
 }
 
 } // namespace
@@ -68,16 +70,16 @@ int main(int argc, char *argv[])
 {
     const TestPort port;
     std::vector<std::unique_ptr<ChildProcess>> writers;
-    for (const Trial &trial : trials) {
+    for (const SteadyStream &stream : steadyStreams) {
         writers.push_back(std::make_unique<ChildProcess>(
-            [&port, &trial] { return pushSteadily(port, trial.framesPerSecond); }));
+            [&port, &stream] { return pushSteadily(port, stream.framesPerSecond); }));
     }
     const QApplication application(argc, argv);
     WindowDriver window;
-    printHeading(QString("processor: frames of 11 bytes, %1 s a figure").arg(seconds));
+    printHeading(QString("processor: frames of 11 bytes, %1 s a figure").arg(figureSeconds));
     auto writer = writers.begin();
-    for (const Trial &trial : trials) {
-        measure(**writer++, window, port, trial);
+    for (const SteadyStream &stream : steadyStreams) {
+        measure(**writer++, window, port, stream);
     }
     return 0;
 }

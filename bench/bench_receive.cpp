@@ -1,6 +1,9 @@
 #include "childprocess.h"
 #include "figures.h"
+#include "framepatience.h"
+#include "frames/timeunits.h"
 #include "log/receiver.h"
+#include "log/recordlog.h"
 #include "widgets/tableitems.h"
 #include "windowdriver.h"
 
@@ -19,8 +22,6 @@ namespace {
 
 constexpr int frames = 60000;
 constexpr int longestChunk = 4000;
-constexpr int rowsOfAFullLog = 1025;
-constexpr qint64 patienceMs = 3000;
 
 QByteArray numberedFrame(int number)
 {
@@ -68,7 +69,7 @@ public:
         m_timer.start(1);
     }
 
-    double longestMs() const { return static_cast<double>(m_longestNs) / 1e6; }
+    double longestMs() const { return static_cast<double>(m_longestNs) / nsPerMs; }
 
 private:
     QTimer m_timer;
@@ -77,14 +78,14 @@ private:
 };
 
 /// What went wrong with the frames on their way.
-struct Tally
+struct ReceivedTally
 {
     int received = 0;
     int stray = 0;
     int outOfOrder = 0;
     QElapsedTimer sinceLast;
 
-    explicit Tally(const Receiver &receiver)
+    explicit ReceivedTally(const Receiver &receiver)
     {
         QObject::connect(&receiver, &Receiver::frameReceived, [this](const QByteArray &frame) {
             outOfOrder += frame != numberedFrame(received++) ? 1 : 0;
@@ -98,7 +99,7 @@ struct Tally
 /// Rows of the full log's last round that do not show what they have to.
 int wrongRows(const QTableWidget &table)
 {
-    const int first = frames / rowsOfAFullLog * rowsOfAFullLog;
+    const int first = frames / RecordLog::mostRecords * RecordLog::mostRecords;
     if (table.rowCount() != frames - first) {
         return frames - first;
     }
@@ -115,7 +116,7 @@ int wrongRows(const QTableWidget &table)
     return wrong;
 }
 
-bool isComplete(const Tally &tally, const QTableWidget &table)
+bool isComplete(const ReceivedTally &tally, const QTableWidget &table)
 {
     return tally.received == frames && wrongRows(table) == 0;
 }
@@ -130,16 +131,16 @@ int main(int argc, char *argv[])
     WindowDriver window;
     window.open(port);
     QCoreApplication::processEvents();
-    Tally tally(*window.window().findChild<Receiver *>());
+    ReceivedTally tally(*window.window().findChild<Receiver *>());
     const Heartbeat heartbeat;
     const Usage before = Usage::now();
     QElapsedTimer timer;
     timer.start();
     writer.start();
-    while (!isComplete(tally, *window.messages()) && tally.sinceLast.elapsed() < patienceMs) {
+    while (!isComplete(tally, *window.messages()) && tally.sinceLast.elapsed() < framePatienceMs) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    const double seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    const double seconds = secondsSince(timer);
     const Usage after = Usage::now();
 
     printHeading(QString("receive: %1 frames of 11 bytes, in random chunks").arg(frames));

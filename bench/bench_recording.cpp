@@ -2,6 +2,7 @@
 // lost: bench_recording [SECONDS], 10 for each half by default. Counts and hash are compared with
 // the sender's.
 
+#include "frames/timeunits.h"
 #include "recording/recorder.h"
 #include "recording/recordingreader.h"
 #include "session/session.h"
@@ -38,7 +39,6 @@ double processorSeconds(int whose)
 {
     rusage usage{};
     getrusage(static_cast<__rusage_who>(whose), &usage);
-    constexpr double usPerSecond = 1e6;
     return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
            double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / usPerSecond;
 }
@@ -53,14 +53,13 @@ double residentMegabytes()
 }
 
 /// What a thread has sent over the wire.
-struct Sender
+struct WireSender
 {
     void run(const TestPort &port, int seconds)
     {
         QCryptographicHash hash(QCryptographicHash::Sha256);
         QElapsedTimer clock;
         clock.start();
-        constexpr qint64 msPerSecond = 1000;
         const qint64 all = qint64(seconds) * framesPerSecond;
         while (frames < all) {
             const qint64 due = std::min(all, clock.elapsed() * framesPerSecond / msPerSecond);
@@ -95,7 +94,7 @@ struct HalfResult
 HalfResult runHalf(Session &session, const TestPort &port, int seconds)
 {
     HalfResult result;
-    Sender sender;
+    WireSender sender;
     QObject context;
     QObject::connect(&session.log(), &RecordLog::appended, &context,
                      [&result](const LogRecord &) { ++result.received; });

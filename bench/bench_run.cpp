@@ -1,5 +1,6 @@
 #include "childprocess.h"
 #include "figures.h"
+#include "frames/timeunits.h"
 #include "system/realtime.h"
 #include "wirelateness.h"
 
@@ -19,7 +20,7 @@
 namespace {
 
 constexpr int pairs = 3;
-constexpr PacedFrames trials[] = {{1, 3000}, {10, 500}, {100, 60}};
+constexpr PacedFrames runTrials[] = {{1, 3000}, {10, 500}, {100, 60}};
 constexpr double allowedMs = 0.1;
 
 const QByteArray pacedRow("Read,select,03 1000 00 00\n");
@@ -147,7 +148,7 @@ void measureOneRow()
         },
         21);
     printHeading("run: one row against the simulated device");
-    printFigure("start to end, median", seconds * 1000, "ms", "< 50");
+    printFigure("start to end, median", seconds * msPerSecond, "ms", "< 50");
 }
 
 double residentMiBOf(const QProcess &process)
@@ -183,7 +184,7 @@ void measureLongRun()
         late = passed < nearTheEnd ? residentMiBOf(runner) : late;
     }
     waitForEnd(runner);
-    const double seconds = static_cast<double>(clock.elapsed()) / 1000;
+    const double seconds = secondsSince(clock);
     printHeading(QString("run: %1 rows against the simulated device, JUnit written").arg(passed));
     printFigure("time", seconds, "s");
     printFigure("rows in a second", passed / seconds, "/s");
@@ -197,13 +198,13 @@ int main(int argc, char *argv[])
 {
     // Processes are made before there are threads.
     std::vector<std::unique_ptr<Pair>> runs;
-    for (const PacedFrames frames : trials) {
+    for (const PacedFrames frames : runTrials) {
         for (int i = 0; i < pairs; ++i) {
             runs.push_back(std::make_unique<Pair>(frames));
         }
     }
     const QCoreApplication application(argc, argv);
-    for (const PacedFrames frames : trials) {
+    for (const PacedFrames frames : runTrials) {
         measureLateness(runs, frames);
     }
     measureOneRow();

@@ -16,10 +16,9 @@
 
 namespace {
 
-constexpr int rows = 3;
-constexpr qint64 nsPerSecond = 1000000000;
+constexpr int sendRows = 3;
 
-constexpr PacedFrames trials[] = {{1, 3000}, {10, 600}, {100, 120}};
+constexpr PacedFrames sendTrials[] = {{1, 3000}, {10, 600}, {100, 120}};
 
 void printLateness(const QString &whose, const QVector<qint64> &arrivals, int intervalMs,
                    double aimed99 = 0)
@@ -34,7 +33,7 @@ void printLateness(const QString &whose, const QVector<qint64> &arrivals, int in
 
 void startLoop(WindowDriver &window, int intervalMs)
 {
-    for (int row = 0; row < rows; ++row) {
+    for (int row = 0; row < sendRows; ++row) {
         window.setRow(row, QStringLiteral("03"), QStringLiteral("10 00"),
                       QString("00 0%1").arg(row));
         window.checkRow(row);
@@ -90,7 +89,7 @@ void measureWindow(Bench &bench, double bare99)
     QElapsedTimer timer;
     timer.start();
     waitFor(bench.reader);
-    const double seconds = static_cast<double>(timer.nsecsElapsed()) / nsPerSecond;
+    const double seconds = secondsSince(timer);
     const double used = Usage::now().processorSeconds - before;
     printLateness("window", timesIn(bench.reader.result()), intervalMs, bare99 + allowance);
     printFigure("window: processor use", 100 * used / seconds, "%");
@@ -98,8 +97,9 @@ void measureWindow(Bench &bench, double bare99)
 
 void measure(Bench &bench)
 {
-    printHeading(
-        QString("send: %1 rows in the loop, interval %2 ms").arg(rows).arg(bench.trial.intervalMs));
+    printHeading(QString("send: %1 rows in the loop, interval %2 ms")
+                     .arg(sendRows)
+                     .arg(bench.trial.intervalMs));
     measureWindow(bench, measureBare(bench));
 }
 
@@ -109,7 +109,7 @@ int main(int argc, char *argv[])
 {
     // Processes are made before there are threads.
     std::vector<std::unique_ptr<Bench>> benches;
-    for (const PacedFrames trial : trials) {
+    for (const PacedFrames trial : sendTrials) {
         benches.push_back(std::make_unique<Bench>(trial));
     }
     const QApplication application(argc, argv);

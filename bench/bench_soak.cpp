@@ -1,5 +1,6 @@
 #include "childprocess.h"
 #include "figures.h"
+#include "framepatience.h"
 #include "frames/sender.h"
 #include "log/receiver.h"
 #include "windowdriver.h"
@@ -15,10 +16,9 @@
 
 namespace {
 
-constexpr int rows = 200;
+constexpr int soakRows = 200;
 constexpr int settled = 10000;
 constexpr int enough = 1000000;
-constexpr qint64 patienceMs = 3000;
 
 QByteArray echo(TestPort &port)
 {
@@ -34,8 +34,8 @@ QByteArray echo(TestPort &port)
 
 void startLoop(WindowDriver &window)
 {
-    QVector<CommandRow> commands(rows);
-    for (int row = 0; row < rows; ++row) {
+    QVector<CommandRow> commands(soakRows);
+    for (int row = 0; row < soakRows; ++row) {
         commands[row].selected = true;
         commands[row].cmd = QStringLiteral("03");
         commands[row].addr = QStringLiteral("10 00");
@@ -47,13 +47,13 @@ void startLoop(WindowDriver &window)
     window.click("pushButton_Start_Loop");
 }
 
-struct Tally
+struct EchoTally
 {
     int sent = 0;
     int received = 0;
     int stray = 0;
 
-    explicit Tally(const QObject &window)
+    explicit EchoTally(const QObject &window)
     {
         const auto *sender = window.findChild<Sender *>();
         const auto *receiver = window.findChild<Receiver *>();
@@ -88,7 +88,7 @@ int main(int argc, char *argv[])
     const MessageBoxes boxes;
     WindowDriver window;
     window.open(port);
-    const Tally tally(window.window());
+    const EchoTally tally(window.window());
     device.start();
     startLoop(window);
     QElapsedTimer timer;
@@ -97,9 +97,9 @@ int main(int argc, char *argv[])
     const double early = Usage::now().residentMiB;
     runUntil([&] { return tally.sum() >= enough || !boxes.texts().isEmpty(); }, longestMs);
     const double late = Usage::now().residentMiB;
-    const double seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    const double seconds = secondsSince(timer);
     window.click("pushButton_Start_Loop");
-    runUntil([&] { return tally.allIsBack(); }, patienceMs);
+    runUntil([&] { return tally.allIsBack(); }, framePatienceMs);
 
     printHeading(
         QString("soak: %1 frames sent and %2 received").arg(tally.sent).arg(tally.received));

@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr int runs = 11;
-constexpr int patienceMs = 10000;
+constexpr int startRuns = 11;
+constexpr int startPatienceMs = 10000;
 constexpr unsigned long idleMs = 2000;
 
 bool somethingIsPainted(QScreen &screen)
@@ -42,7 +42,7 @@ bool waitUntil(Condition condition)
 {
     QElapsedTimer timer;
     timer.start();
-    while (!condition() && timer.elapsed() < patienceMs) {
+    while (!condition() && timer.elapsed() < startPatienceMs) {
         QThread::usleep(500);
     }
     return condition();
@@ -64,7 +64,7 @@ std::optional<double> startToPaint(QProcess &program, QScreen &screen)
     if (!waitUntil([&screen] { return somethingIsPainted(screen); })) {
         return std::nullopt;
     }
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    return millisecondsSince(timer);
 }
 
 } // namespace
@@ -75,7 +75,7 @@ int main(int argc, char *argv[])
     QScreen &screen = *QGuiApplication::primaryScreen();
     QVector<double> times;
     double idle = 0;
-    for (int run = 0; run < runs; ++run) {
+    for (int run = 0; run < startRuns; ++run) {
         QProcess program;
         const std::optional<double> ms = startToPaint(program, screen);
         if (!ms) {
@@ -88,7 +88,7 @@ int main(int argc, char *argv[])
         }
         end(program, screen);
     }
-    printHeading(QString("start: %1 times, on a virtual display").arg(runs));
+    printHeading(QString("start: %1 times, on a virtual display").arg(startRuns));
     printFigure("start to painted window, median", median(times), "ms", "< 300");
     printFigure("start to painted window, slowest", percentile(times, 1), "ms");
     printFigure("resident memory, idle", idle, "MiB", "< 60");

@@ -1,6 +1,7 @@
 #include "figures.h"
 
-#include <QElapsedTimer>
+#include "frames/timeunits.h"
+
 #include <QFile>
 #include <QTextStream>
 
@@ -10,14 +11,12 @@
 
 namespace {
 
-constexpr double microsecond = 1e-6;
-constexpr double nanosecond = 1e-9;
 constexpr double bytesPerMiB = 1024.0 * 1024.0;
 constexpr double kilobytesPerMiB = 1024.0;
 
 double seconds(const timeval &time)
 {
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * microsecond;
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / usPerSecond;
 }
 
 double residentBytes()
@@ -51,6 +50,16 @@ double median(const QVector<double> &values)
     return percentile(values, 0.5);
 }
 
+double secondsSince(const QElapsedTimer &timer)
+{
+    return static_cast<double>(timer.nsecsElapsed()) / nsPerSecond;
+}
+
+double millisecondsSince(const QElapsedTimer &timer)
+{
+    return static_cast<double>(timer.nsecsElapsed()) / nsPerMs;
+}
+
 double medianSeconds(const std::function<void()> &work, int runs)
 {
     QVector<double> times;
@@ -58,7 +67,7 @@ double medianSeconds(const std::function<void()> &work, int runs)
         QElapsedTimer timer;
         timer.start();
         work();
-        times.append(static_cast<double>(timer.nsecsElapsed()) * nanosecond);
+        times.append(secondsSince(timer));
     }
     return median(times);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QString>
 #include <QVector>
 
@@ -18,6 +19,10 @@ struct Usage
 /// The value below which the given share (0 to 1) of the values lies; there must be some.
 double percentile(QVector<double> values, double share);
 double median(const QVector<double> &values);
+
+/// The time since the timer was started.
+double secondsSince(const QElapsedTimer &timer);
+double millisecondsSince(const QElapsedTimer &timer);
 
 /// Seconds that the work takes: the median of several runs.
 double medianSeconds(const std::function<void()> &work, int runs = 5);

@@ -1,5 +1,7 @@
 #include "wirelateness.h"
 
+#include "frames/timeunits.h"
+
 #include <algorithm>
 #include <ctime>
 #include <fcntl.h>
@@ -7,9 +9,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr qint64 nsPerMs = 1000000;
-constexpr qint64 nsPerSecond = 1000000000;
 
 const QByteArray pacedFrame = QByteArray::fromHex("5aa5050310000000");
 

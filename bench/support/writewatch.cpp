@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::array<unsigned char, 2> startBytes{0x5A, 0xA5};
 constexpr std::size_t mostTimes = 100000;
-constexpr int64_t nsPerSecond = 1000000000;
+constexpr int64_t nsOfASecond = 1000000000;
 
 using Write = ssize_t (*)(int, const void *, size_t);
 
@@ -47,7 +47,7 @@ public:
         timespec now{};
         clock_gettime(CLOCK_MONOTONIC, &now);
         if (m_count < m_times.size()) {
-            m_times[m_count++] = now.tv_sec * nsPerSecond + now.tv_nsec;
+            m_times[m_count++] = now.tv_sec * nsOfASecond + now.tv_nsec;
         }
     }
 
