@@ -8,7 +8,7 @@
 namespace {
 
 /// Many times that of the longest frame.
-constexpr qint64 longestLine = 4LL * 1024 * 1024;
+constexpr int longestLine = 4 * 1024 * 1024;
 
 } // namespace
 
@@ -55,10 +55,12 @@ bool JsonLinesReader::readHead()
 /// A whole line; nothing at the end, where the rest is torn, and where it is too long.
 std::optional<QByteArray> JsonLinesReader::nextLine()
 {
-    QByteArray line = m_device.readLine(longestLine);
-    if (line.isEmpty()) {
+    m_room.resize(longestLine + 1);
+    const qint64 size = m_device.readLine(m_room.data(), m_room.size());
+    if (size <= 0) {
         return std::nullopt;
     }
+    const QByteArray line(m_room.constData(), static_cast<int>(size));
     ++m_line;
     if (line.endsWith('\n')) {
         return line;

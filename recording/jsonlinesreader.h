@@ -19,6 +19,9 @@ private:
     void failHere(const QString &words);
 
     QIODevice &m_device;
+    /// Room for the longest line, made once: a reader that makes it for each line spends its time
+    /// there.
+    QByteArray m_room;
     int m_line = 0;
     bool m_isOver = false;
 };
