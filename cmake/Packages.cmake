@@ -14,6 +14,13 @@ if(WIN32)
   find_package(hidapi 0.13 REQUIRED COMPONENTS winapi)
   target_link_libraries(tarnwick_hidapi INTERFACE hidapi::winapi)
   target_link_libraries(tarnwick_system INTERFACE advapi32 user32 winmm)
+  # A program registers the plugins of the static Qt, not each library that is linked into it: for every picture
+  # that is loaded, Qt goes through all that are registered several times.
+  foreach(plugin ${Qt5Gui_PLUGINS} ${Qt5Widgets_PLUGINS})
+    get_target_property(registration ${plugin} INTERFACE_SOURCES)
+    set_property(TARGET ${plugin} PROPERTY INTERFACE_SOURCES
+      "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${registration}>")
+  endforeach()
 else()
   set(TARNWICK_PLATFORM linux)
   find_package(PkgConfig REQUIRED)
