@@ -1,5 +1,7 @@
 #include "links/serial/arrivalwait.h"
 
+#include <chrono>
+
 namespace {
 
 constexpr int settleMs = 2;
@@ -20,11 +22,11 @@ void ArrivalWait::announce()
     if (m_stage == Stage::Idle) {
         m_stage = Stage::Settling;
         m_moreCame = false;
-        m_timer.start(settleMs);
+        wait(settleMs);
     } else if (!m_moreCame) {
         m_moreCame = true;
         if (m_stage == Stage::AwaitingMore) {
-            m_timer.start(0);
+            wait(0);
         }
     }
 }
@@ -35,11 +37,23 @@ void ArrivalWait::cancel()
     m_stage = Stage::Idle;
 }
 
+void ArrivalWait::wait(int milliseconds)
+{
+    m_due.setRemainingTime(milliseconds, Qt::PreciseTimer);
+    m_timer.start(milliseconds);
+}
+
 void ArrivalWait::goOn()
 {
+    if (!m_due.hasExpired()) {
+        // Windows counts whole ticks of its clock, and so its timers go off up to one of them
+        // early.
+        m_timer.start(std::chrono::milliseconds(m_due.remainingTime()));
+        return;
+    }
     if (m_stage == Stage::Settling && !m_moreCame) {
         m_stage = Stage::AwaitingMore;
-        m_timer.start(moreDataMs);
+        wait(moreDataMs);
         return;
     }
     m_stage = Stage::Idle;

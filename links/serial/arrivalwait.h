@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -28,9 +29,11 @@ signals:
 private:
     enum class Stage { Idle, Settling, AwaitingMore };
 
+    void wait(int milliseconds);
     void goOn();
 
     Stage m_stage = Stage::Idle;
     bool m_moreCame = false;
     QTimer m_timer;
+    QDeadlineTimer m_due;
 };
