@@ -21,8 +21,8 @@ LockFile::Outcome LockFile::tryLock()
         return Outcome::Locked;
     }
     const std::wstring name = QDir::toNativeSeparators(m_path).toStdWString();
-    const HANDLE file = CreateFileW(name.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, OPEN_ALWAYS,
-                                    FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    HANDLE file = CreateFileW(name.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, OPEN_ALWAYS,
+                              FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     if (file == INVALID_HANDLE_VALUE) {
         const DWORD reason = GetLastError();
         m_error = qt_error_string(static_cast<int>(reason));
