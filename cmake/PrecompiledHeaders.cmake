@@ -22,7 +22,8 @@ function(precompile name libraries)
   add_library(${name} OBJECT ${source})
   target_link_libraries(${name} PRIVATE ${libraries} tarnwick_options)
   target_precompile_headers(${name} PRIVATE ${ARGN})
-  set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+  set_target_properties(${name} PROPERTIES UNITY_BUILD OFF
+    AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
 endfunction()
 
 # links_to(RESULT TARGET LIBRARY): whether a target is compiled for a library, by itself or by way of others.
