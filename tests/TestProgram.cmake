@@ -158,12 +158,12 @@ function(add_meta_objects program)
   target_include_directories(${program} PRIVATE ${folder})
 endfunction()
 
-# Compiles these sources in units of eight.
+# Compiles these sources in units of twelve.
 function(add_test_units program)
   set_source_files_properties(${ARGN} PROPERTIES HEADER_FILE_ONLY ON)
   set(count 0)
   foreach(source ${ARGN})
-    math(EXPR unit "${count} / 8 + 1")
+    math(EXPR unit "${count} / 12 + 1")
     math(EXPR count "${count} + 1")
     cmake_path(GET source STEM main)
     string(APPEND text_${unit} "#undef main\n#define main ${main}\n"
