@@ -13,8 +13,8 @@ option(CMAKE_COMPILE_WARNING_AS_ERROR "Let no warning pass" ON)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  # What one clone of the tree has compiled serves another one, wherever it lies; precompiled headers, too, whose
-  # times and macros it can't see through.
+  # What one clone of the tree has compiled serves another one: with GCC wherever it lies, with clang in the same
+  # place, since precompiled headers name it there. Those have times and macros that ccache must not look at.
   set(CMAKE_CXX_COMPILER_LAUNCHER
     env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
     ${CCACHE_PROGRAM})
